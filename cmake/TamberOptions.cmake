@@ -1,0 +1,43 @@
+# Compiler settings shared by every target, and the switches that choose what is built beside the product.
+
+option(TAMBER_TESTS "Build the tests" ON)
+option(TAMBER_BENCH "Build the benchmarks" OFF)
+option(TAMBER_FUZZ "Build the libFuzzer targets (clang only)" OFF)
+option(TAMBER_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+add_library(tamber_settings INTERFACE)
+target_include_directories(tamber_settings INTERFACE ${PROJECT_SOURCE_DIR})
+# Paths in the binary would tell where it was built and make two builds of one source differ.
+target_compile_options(tamber_settings INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
+  "-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=" "-ffile-prefix-map=${PROJECT_BINARY_DIR}/=build/")
+
+if(TAMBER_SANITIZE)
+  target_compile_options(tamber_settings INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(tamber_settings INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(TAMBER_FUZZ)
+  target_compile_options(tamber_settings INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+if(WIN32)
+  # SSE2 only: GCC does not align the stack for AVX on Win64.
+  target_compile_definitions(tamber_settings INTERFACE
+    UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX WINVER=0x0A00 _WIN32_WINNT=0x0A00)
+  target_compile_options(tamber_settings INTERFACE -ffunction-sections -fdata-sections)
+  target_link_options(tamber_settings INTERFACE -static -Wl,--gc-sections -Wl,--no-insert-timestamp)
+  # Warnings of the cross compiler's own headers are not ours to fix.
+  set(CMAKE_CXX_USE_RESPONSE_FILE_FOR_INCLUDES OFF)
+endif()
+
+find_program(TAMBER_CCACHE ccache)
+if(TAMBER_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${TAMBER_CCACHE})
+endif()

@@ -1,0 +1,50 @@
+#include "vela/text.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace vela {
+
+std::wstring_view trimmed(std::wstring_view text) noexcept
+{
+    while (!text.empty() && isSpace(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isSpace(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+std::wstring loweredAscii(std::wstring_view text)
+{
+    std::wstring result(text);
+    std::transform(result.begin(), result.end(), result.begin(), lowerAscii);
+    return result;
+}
+
+bool equalsIgnoringAsciiCase(std::wstring_view left, std::wstring_view right) noexcept
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](wchar_t a, wchar_t b) { return lowerAscii(a) == lowerAscii(b); });
+}
+
+std::optional<std::int32_t> leadingInteger(std::wstring_view text) noexcept
+{
+    using Limits = std::numeric_limits<std::int32_t>;
+    while (!text.empty() && isSpace(text.front()))
+        text.remove_prefix(1);
+    const bool negative = !text.empty() && text.front() == L'-';
+    if (!text.empty() && (negative || text.front() == L'+'))
+        text.remove_prefix(1);
+    if (text.empty() || !isDigit(text.front()))
+        return std::nullopt;
+    std::int64_t value = 0;
+    for (const wchar_t c : text) {
+        if (!isDigit(c))
+            break;
+        value = std::min<std::int64_t>(value * 10 + (c - L'0'), std::int64_t{Limits::max()} + 1);
+    }
+    value = negative ? -value : value;
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+}
+
+} // namespace vela

@@ -1,0 +1,31 @@
+// Small helpers on wide text, independent of the locale: only ASCII letters change case, and white space is
+// space, tab, CR, LF, FF and VT. A unit is 16 bits on Windows and 32 elsewhere; nothing here depends on
+// which.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vela {
+
+constexpr bool isSpace(wchar_t c) noexcept { return c == L' ' || (c >= L'\t' && c <= L'\r'); }
+constexpr bool isDigit(wchar_t c) noexcept { return c >= L'0' && c <= L'9'; }
+constexpr wchar_t lowerAscii(wchar_t c) noexcept
+{
+    return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
+}
+
+// The part of the text between the first and the last character that is not white space.
+std::wstring_view trimmed(std::wstring_view text) noexcept;
+
+std::wstring loweredAscii(std::wstring_view text);
+
+bool equalsIgnoringAsciiCase(std::wstring_view left, std::wstring_view right) noexcept;
+
+// Reads white space, a sign and decimal digits from the front, ignores what follows, and stops at the limits
+// of the type instead of overflowing. Empty when no digit was found.
+std::optional<std::int32_t> leadingInteger(std::wstring_view text) noexcept;
+
+} // namespace vela
