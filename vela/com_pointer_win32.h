@@ -1,0 +1,56 @@
+// A counted reference to a COM object.
+#pragma once
+
+#include <utility>
+
+#include <unknwn.h>
+
+namespace vela {
+
+template <typename Interface>
+class ComPointer {
+public:
+    ComPointer() noexcept = default;
+    ComPointer(const ComPointer& other) noexcept : object_(other.object_)
+    {
+        if (object_)
+            object_->AddRef();
+    }
+    ComPointer(ComPointer&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+    ComPointer& operator=(ComPointer other) noexcept
+    {
+        std::swap(object_, other.object_);
+        return *this;
+    }
+    ~ComPointer() { reset(); }
+
+    explicit operator bool() const noexcept { return object_ != nullptr; }
+    Interface* get() const noexcept { return object_; }
+    Interface* operator->() const noexcept { return object_; }
+
+    void reset() noexcept
+    {
+        if (Interface* const old = std::exchange(object_, nullptr))
+            old->Release();
+    }
+
+    // The address for a call that stores a reference there; what was held is let go first.
+    Interface** put() noexcept
+    {
+        reset();
+        return &object_;
+    }
+    void** putVoid() noexcept { return reinterpret_cast<void**>(put()); }
+
+    // Asks the object for another of its interfaces; the HRESULT of QueryInterface.
+    template <typename Other>
+    HRESULT queryTo(ComPointer<Other>& other) const noexcept
+    {
+        return object_->QueryInterface(__uuidof(Other), other.putVoid());
+    }
+
+private:
+    Interface* object_ = nullptr;
+};
+
+} // namespace vela
