@@ -8,6 +8,7 @@
 #include "vela/theme/vocabulary.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -64,14 +65,20 @@ struct Insets {
     friend bool operator==(const Insets&, const Insets&) = default;
 };
 
-// How a bitmap takes the colours of the theme. A role, when given, wins over the colour beside it.
+// A colour that a skin gives directly or by naming a palette role; a role, when given, wins over the colour.
+struct ThemeColor {
+    Color color = hexColor(0xFFFFFF);
+    std::optional<PaletteRole> role;
+
+    friend bool operator==(const ThemeColor&, const ThemeColor&) = default;
+};
+
+// How a bitmap takes the colours of the theme.
 struct BitmapTint {
     TintMode mode = TintMode::None;
-    std::wstring role;
-    Color color = hexColor(0xFFFFFF);
-    std::wstring secondaryRole;
-    Color secondaryColor = hexColor(0x000000);
-    std::vector<Color> palette;
+    ThemeColor primary;
+    ThemeColor secondary{hexColor(0x000000), {}};
+    std::vector<ThemeColor> palette; // from dark to light
     MaskChannel maskChannel = MaskChannel::Alpha;
     std::uint8_t amount = 255;
     std::uint8_t coverageThreshold = 0;
