@@ -1,5 +1,5 @@
-#include "vela/controls/text_clusters.h"
 #include "vela/controls/text_edit_model.h"
+#include "vela/text_clusters.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "vela/controls/text_edit_model.h"
 
-#include "vela/controls/text_clusters.h"
 #include "vela/text.h"
+#include "vela/text_clusters.h"
 
 #include <algorithm>
 #include <utility>

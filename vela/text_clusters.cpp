@@ -1,4 +1,4 @@
-#include "vela/controls/text_clusters.h"
+#include "vela/text_clusters.h"
 
 #include "vela/text.h"
 
