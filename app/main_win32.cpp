@@ -1,8 +1,11 @@
 // Entry of TamberSetup.exe.
 #include "app/exit_code.h"
 #include "app/instance_guard_win32.h"
-#include "app/options.h"
+#include "app/interactive_win32.h"
 #include "app/process_win32.h"
+#include "app/run_options.h"
+#include "app/setup_effects_win32.h"
+#include "app/silent_modes.h"
 
 #include <windows.h>
 
@@ -12,13 +15,23 @@ __declspec(dllexport) unsigned long NvOptimusEnablement = 1;
 __declspec(dllexport) unsigned long AmdPowerXpressRequestHighPerformance = 1;
 }
 
-int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int)
 {
-    setup::hardenProcess();
-    const setup::CommandLine commandLine = setup::parseCommandLine(setup::processArguments());
-    const setup::SetupInstanceGuard guard;
-    if (guard.alreadyRunning())
-        return setup::kExitSuccess;
-    static_cast<void>(commandLine);
-    return setup::kExitSuccess;
+    using namespace setup;
+    hardenProcess();
+    const CommandLine commandLine = parseCommandLine(processArguments());
+    const SetupInstanceGuard guard;
+    WindowsEffects effects(instance);
+    if (guard.alreadyRunning()) {
+        if (!commandLine.quiet)
+            showAlreadyRunning(effects);
+        return kExitSuccess;
+    }
+    const RunOptions options = readRunOptions(commandLine, effects);
+    switch (runModeOf(commandLine)) {
+    case RunMode::Install: return runSilentInstall(effects, options);
+    case RunMode::Uninstall: return runSilentUninstall(effects, options.quiet);
+    case RunMode::Interactive: break;
+    }
+    return runInteractiveSetup(effects);
 }

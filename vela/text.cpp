@@ -47,4 +47,14 @@ std::optional<std::int32_t> leadingInteger(std::wstring_view text) noexcept
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
 }
 
+std::wstring decimalText(std::uint32_t value)
+{
+    std::wstring digits;
+    do {
+        digits.insert(digits.begin(), static_cast<wchar_t>(L'0' + value % 10));
+        value /= 10;
+    } while (value != 0);
+    return digits;
+}
+
 } // namespace vela

@@ -28,4 +28,6 @@ bool equalsIgnoringAsciiCase(std::wstring_view left, std::wstring_view right) no
 // of the type instead of overflowing. Empty when no digit was found.
 std::optional<std::int32_t> leadingInteger(std::wstring_view text) noexcept;
 
+std::wstring decimalText(std::uint32_t value);
+
 } // namespace vela

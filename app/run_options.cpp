@@ -1,0 +1,28 @@
+#include "app/run_options.h"
+
+#include "app/paths.h"
+#include "app/products.h"
+#include "app/user_folders.h"
+
+namespace setup {
+
+RunOptions readRunOptions(const CommandLine& commandLine, SetupEffects& effects)
+{
+    RunOptions options;
+    options.quiet = commandLine.quiet;
+    options.restartApp = commandLine.restartApp;
+    options.waitPidText = commandLine.waitPidText;
+    options.install.installDir = normalizeInstallFolder(commandLine.installDir);
+    options.install.startWithWindows = !commandLine.noStartup && startsWithWindowsByDefault(effects);
+    options.install.desktopShortcut = commandLine.desktop || hasDesktopShortcut(effects);
+    return options;
+}
+
+bool startsWithWindowsByDefault(SetupEffects& effects)
+{
+    return !isProductInstalled(effects) || effects.fileExists(startupShortcutPath(effects));
+}
+
+bool hasDesktopShortcut(SetupEffects& effects) { return effects.fileExists(desktopShortcutPath(effects)); }
+
+} // namespace setup

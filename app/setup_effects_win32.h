@@ -1,0 +1,45 @@
+// The setup's effects on a real machine. Used by one thread at a time.
+#pragma once
+
+#include "app/setup_effects.h"
+
+#include "vela/owned_win32.h"
+
+namespace setup {
+
+class WindowsEffects final : public SetupEffects {
+public:
+    // `module` carries the package.
+    explicit WindowsEffects(HMODULE module) noexcept : module_(module) {}
+
+    std::uint32_t ownProcessId() override;
+    std::wstring tempFolder() override;
+    std::wstring knownFolder(KnownFolder folder) override;
+    std::wstring environmentVariable(const wchar_t* name) override;
+    bool fileExists(const std::wstring& path) override;
+    void writeLogLine(const std::wstring& line) override;
+    void showNotice(const Notice& notice) override;
+
+    RelatedProduct relatedProduct(std::uint32_t index) override;
+    PackageOutcome extractPackage(const std::wstring& target) override;
+    PinOutcome pinPackage(const std::wstring& path) override;
+    InstallerExit runInstaller(const std::wstring& parameters) override;
+
+    WindowsError createFolders(const std::wstring& folder) override;
+    WindowsError copySetup(const std::wstring& target) override;
+    std::int32_t createShellLink(const ShellLink& link) override;
+    WindowsError deleteFile(const std::wstring& path) override;
+    void notifyShellChanged() override;
+    std::optional<ProductVersion> productVersion(const std::wstring& path) override;
+    WindowsError startHidden(const std::wstring& commandLine, const std::wstring& folder) override;
+    WindowsError startVisible(const std::wstring& program, const std::wstring& folder) override;
+
+    std::vector<ProcessEntry> runningProcesses() override;
+    OpenedProcess openProcess(std::uint32_t id, ProcessAccess access) override;
+
+private:
+    HMODULE module_;
+    vela::OwnedFile log_; // opened by the first line
+};
+
+} // namespace setup

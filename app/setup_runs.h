@@ -1,0 +1,26 @@
+// The two runs that change the machine. Each goes through its steps in order and ends at the first that
+// fails; nothing is retried. Until the installer has returned 0, nothing is changed but the setup's own
+// temporary files, and a running application is asked to close.
+#pragma once
+
+#include "app/action_result.h"
+#include "app/setup_effects.h"
+
+namespace setup {
+
+struct InstallRequest {
+    std::wstring installDir;
+    bool startWithWindows = true;
+    bool desktopShortcut = false;
+};
+
+// Hands the embedded package to the Windows Installer and finishes the install.
+SetupActionResult runInstall(SetupEffects& effects, const InstallRequest& request);
+
+// Removes every product of the upgrade code. With none installed it succeeds and touches nothing.
+SetupActionResult runUninstall(SetupEffects& effects);
+
+// Where this process keeps the temporary file `name`.
+std::wstring tempSetupFile(SetupEffects& effects, std::wstring_view name);
+
+} // namespace setup

@@ -1,0 +1,110 @@
+#include "app/shell_win32.h"
+
+#include "app/files_win32.h"
+#include "app/paths.h"
+
+#include "vela/com_pointer_win32.h"
+#include "vela/owned_win32.h"
+
+#include <knownfolders.h>
+#include <objbase.h>
+#include <shlobj.h>
+
+namespace setup {
+namespace {
+
+struct TaskMemoryTraits {
+    using Handle = wchar_t*;
+    static Handle empty() noexcept { return nullptr; }
+    static void close(Handle memory) noexcept { ::CoTaskMemFree(memory); }
+};
+using OwnedTaskText = vela::Owned<TaskMemoryTraits>;
+
+struct FolderId {
+    KnownFolder folder;
+    const KNOWNFOLDERID& id;
+};
+
+constexpr FolderId kFolderIds[] = {
+    {KnownFolder::Desktop, FOLDERID_Desktop},
+    {KnownFolder::Startup, FOLDERID_Startup},
+    {KnownFolder::LocalAppData, FOLDERID_LocalAppData},
+};
+
+// COM on this thread. A thread that already runs in another kind of apartment will do, but is not ours to
+// end.
+class ComApartment {
+public:
+    ComApartment() noexcept
+        : result_(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE))
+    {
+    }
+    ComApartment(const ComApartment&) = delete;
+    ComApartment& operator=(const ComApartment&) = delete;
+    ~ComApartment()
+    {
+        if (SUCCEEDED(result_))
+            ::CoUninitialize();
+    }
+
+    HRESULT result() const noexcept { return result_ == RPC_E_CHANGED_MODE ? S_OK : result_; }
+
+private:
+    HRESULT result_;
+};
+
+HRESULT describeLink(IShellLinkW& shellLink, const ShellLink& link)
+{
+    const std::wstring arguments(link.arguments);
+    const std::wstring description(link.description);
+    HRESULT result = shellLink.SetPath(link.target.c_str());
+    if (SUCCEEDED(result))
+        result = shellLink.SetArguments(arguments.c_str());
+    if (SUCCEEDED(result))
+        result = shellLink.SetWorkingDirectory(link.workingFolder.c_str());
+    if (SUCCEEDED(result))
+        result = shellLink.SetDescription(description.c_str());
+    if (SUCCEEDED(result))
+        result = shellLink.SetIconLocation(link.target.c_str(), 0);
+    return result;
+}
+
+HRESULT writeLink(const ShellLink& link)
+{
+    createFolders(parentFolder(link.link));
+    vela::ComPointer<IShellLinkW> shellLink;
+    HRESULT result = ::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                                        shellLink.putVoid());
+    if (SUCCEEDED(result))
+        result = describeLink(*shellLink.get(), link);
+    vela::ComPointer<IPersistFile> file;
+    if (SUCCEEDED(result))
+        result = shellLink.queryTo(file);
+    if (SUCCEEDED(result))
+        result = file->Save(link.link.c_str(), TRUE);
+    return result;
+}
+
+} // namespace
+
+std::wstring knownFolder(KnownFolder folder)
+{
+    for (const FolderId& row : kFolderIds) {
+        if (row.folder != folder)
+            continue;
+        OwnedTaskText path;
+        const HRESULT result = ::SHGetKnownFolderPath(row.id, 0, nullptr, path.put());
+        return SUCCEEDED(result) && path ? std::wstring(path.get()) : std::wstring();
+    }
+    return {};
+}
+
+std::int32_t createShellLink(const ShellLink& link)
+{
+    const ComApartment apartment;
+    return static_cast<std::int32_t>(FAILED(apartment.result()) ? apartment.result() : writeLink(link));
+}
+
+void notifyShellChanged() { ::SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr); }
+
+} // namespace setup

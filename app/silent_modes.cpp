@@ -1,0 +1,58 @@
+#include "app/silent_modes.h"
+
+#include "app/exit_code.h"
+#include "app/installed_app.h"
+#include "app/running_app.h"
+
+namespace setup {
+namespace {
+
+constexpr std::uint32_t kWaitPidMilliseconds = 8000;
+
+struct ResultTexts {
+    std::wstring_view successTitle;
+    std::wstring_view failureTitle;
+    std::wstring_view successText;
+};
+
+constexpr ResultTexts kInstallTexts{L"Nainstalovano", L"Instalace selhala", L"Tamber byl nainstalovan."};
+constexpr ResultTexts kUninstallTexts{L"Odinstalovano", L"Odinstalace selhala",
+                                      L"Tamber byl odebran pres Windows Installer."};
+
+void showResult(SetupEffects& effects, const SetupActionResult& result, const ResultTexts& texts)
+{
+    effects.showNotice({result.success ? texts.successTitle : texts.failureTitle,
+                        composeResultText(result, texts.successText), !result.success});
+}
+
+} // namespace
+
+int runSilentInstall(SetupEffects& effects, const RunOptions& options)
+{
+    waitForProcessExit(effects, processIdFrom(options.waitPidText), kWaitPidMilliseconds);
+    const SetupActionResult result = resultOf([&] { return runInstall(effects, options.install); });
+    if (!options.quiet)
+        showResult(effects, result, kInstallTexts);
+    if (!result.success)
+        return kExitInstallFailed;
+    const bool started = !options.restartApp || launchInstalledApp(effects, options.install.installDir);
+    return started ? kExitSuccess : kExitAppNotStarted;
+}
+
+int runSilentUninstall(SetupEffects& effects, bool quiet)
+{
+    const SetupActionResult result = resultOf([&] { return runUninstall(effects); });
+    if (!quiet)
+        showResult(effects, result, kUninstallTexts);
+    return result.success ? kExitSuccess : kExitUninstallFailed;
+}
+
+void showAlreadyRunning(SetupEffects& effects)
+{
+    effects.showNotice({L"Instalace uz bezi",
+                        L"Tamber Setup uz pracuje v jinem okne. Pockej prosim na dokonceni prvni instalace; "
+                        L"dalsi spusteni ted nic noveho nepusti.",
+                        false});
+}
+
+} // namespace setup

@@ -1,0 +1,15 @@
+// The unattended modes, for scripts and the application's own updater: one run, a notice unless the caller
+// wants none, and an exit code.
+#pragma once
+
+#include "app/run_options.h"
+
+namespace setup {
+
+int runSilentInstall(SetupEffects& effects, const RunOptions& options);
+int runSilentUninstall(SetupEffects& effects, bool quiet);
+
+// Tells the user that another setup is at work.
+void showAlreadyRunning(SetupEffects& effects);
+
+} // namespace setup
