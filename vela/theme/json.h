@@ -12,7 +12,8 @@
 
 namespace vela {
 
-enum class JsonKind : std::uint8_t { Null = 0, Boolean = 1, Number = 2, String = 3, Array = 4, Object = 5 };
+// As wide as the length it is packed with: on Windows only bit fields of one width share their storage.
+enum class JsonKind : std::uint32_t { Null = 0, Boolean = 1, Number = 2, String = 3, Array = 4, Object = 5 };
 
 struct JsonMember;
 
