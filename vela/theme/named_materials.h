@@ -17,6 +17,7 @@ struct NamedMaterial {
     MaterialPreset preset = MaterialPreset::None;
     MaterialShading shading;
 
+    // Strength 0 asks for nothing to be drawn.
     constexpr bool enabled() const noexcept { return shading.materialStrength >= 1; }
 };
 
@@ -25,6 +26,10 @@ std::span<const NamedMaterial> namedMaterials() noexcept;
 
 // Null when no substance has the name. The name is taken as normalised.
 const NamedMaterial* findNamedMaterial(std::wstring_view normalisedName) noexcept;
+
+// The plain colour to lay under a substance that stands for itself, as on a swatch: a material is light and
+// texture over a fill. Cut gems lie deeper than their tint, which is that of their facets.
+Color bodyColor(const NamedMaterial& material) noexcept;
 
 // Gives the surface the substance: its preset, its shading as a whole and the mark that it is drawn. Fill,
 // border and shape stay as they are.
