@@ -3,6 +3,7 @@
 option(TAMBER_TESTS "Build the tests" ON)
 option(TAMBER_BENCH "Build the benchmarks" OFF)
 option(TAMBER_FUZZ "Build the libFuzzer targets (clang only)" OFF)
+option(TAMBER_LINT "Add the linters as tests (clang only)" OFF)
 option(TAMBER_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 
 set(CMAKE_CXX_STANDARD 20)
