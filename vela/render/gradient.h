@@ -1,0 +1,17 @@
+// The gradient layer: two or three colours along one of eight directions or around the surface's centre.
+#pragma once
+
+#include "vela/render/coverage.h"
+#include "vela/render/pixel_buffer.h"
+#include "vela/theme/surface_style.h"
+
+namespace vela {
+
+// Where the pixel lies along the gradient, 0 to 1. The definition; fillGradient computes it in bulk.
+double gradientParameter(GradientKind kind, GradientDirection direction, std::int32_t x, std::int32_t y,
+                         std::int32_t width, std::int32_t height) noexcept;
+
+// Colours are within one level of the definition's.
+void fillGradient(const LayerTarget& target, const Coverage& coverage, const SurfaceStyle& style);
+
+} // namespace vela

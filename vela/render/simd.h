@@ -1,0 +1,91 @@
+// Four numbers at a time, for the pixel layers. Arithmetic is the compiler's own on vector types; the few
+// steps it has no spelling for are SSE2, which every x64 processor has, with a plain form for other machines.
+// AVX stays out: the Windows toolchain does not align stacks for it.
+#pragma once
+
+#include "vela/render/pixel_buffer.h"
+
+#include <cmath>
+#include <cstring>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
+namespace vela::simd {
+
+using Float4 [[gnu::vector_size(16)]] = float;
+using Int4 [[gnu::vector_size(16)]] = std::int32_t;
+using UInt4 [[gnu::vector_size(16)]] = std::uint32_t;
+
+inline constexpr int kLanes = 4;
+
+inline Float4 splat(float value) noexcept { return Float4{value, value, value, value}; }
+inline Int4 splat(std::int32_t value) noexcept { return Int4{value, value, value, value}; }
+inline UInt4 splat(std::uint32_t value) noexcept { return UInt4{value, value, value, value}; }
+
+inline Int4 truncated(Float4 value) noexcept { return __builtin_convertvector(value, Int4); }
+inline Float4 toFloat(Int4 value) noexcept { return __builtin_convertvector(value, Float4); }
+
+inline Float4 squareRoot(Float4 value) noexcept
+{
+#if defined(__SSE2__)
+    return _mm_sqrt_ps(value);
+#else
+    return Float4{std::sqrt(value[0]), std::sqrt(value[1]), std::sqrt(value[2]), std::sqrt(value[3])};
+#endif
+}
+
+inline Float4 lesser(Float4 a, Float4 b) noexcept { return a < b ? a : b; }
+inline Float4 greater(Float4 a, Float4 b) noexcept { return a > b ? a : b; }
+inline Float4 magnitude(Float4 value) noexcept { return greater(value, -value); }
+
+// Four pixels from their channels: blue, green, red, alpha in the lanes of each, 0 to 255.
+inline void storeChannels(Pixel* out, Int4 first, Int4 second, Int4 third, Int4 fourth) noexcept
+{
+#if defined(__SSE2__)
+    const __m128i low = _mm_packs_epi32(reinterpret_cast<__m128i>(first), reinterpret_cast<__m128i>(second));
+    const __m128i high = _mm_packs_epi32(reinterpret_cast<__m128i>(third), reinterpret_cast<__m128i>(fourth));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm_packus_epi16(low, high));
+#else
+    const Int4 pixels[] = {first, second, third, fourth};
+    for (int i = 0; i < kLanes; ++i)
+        out[i] = static_cast<Pixel>(pixels[i][0] | pixels[i][1] << 8 | pixels[i][2] << 16 |
+                                    static_cast<std::int32_t>(static_cast<Pixel>(pixels[i][3]) << 24));
+#endif
+}
+
+inline void store(Pixel* out, UInt4 pixels) noexcept { std::memcpy(out, &pixels, sizeof pixels); }
+
+inline void fillPixels(Pixel* out, std::int32_t count, Pixel pixel) noexcept
+{
+    const UInt4 four = splat(pixel);
+    std::int32_t i = 0;
+    for (; i + 2 * kLanes <= count; i += 2 * kLanes) {
+        store(out + i, four);
+        store(out + i + kLanes, four);
+    }
+    for (; i < count; ++i)
+        out[i] = pixel;
+}
+
+// Writes pixels four at a time: four(column) gives those of the columns from there on. The last group may
+// reach past the end; what is beyond is dropped.
+template <typename Four>
+void writeInFours(Pixel* out, std::int32_t begin, std::int32_t end, Four&& four)
+{
+    std::int32_t column = begin;
+    for (; column + kLanes <= end; column += kLanes)
+        store(out + (column - begin), four(column));
+    if (column < end) {
+        const UInt4 last = four(column);
+        std::memcpy(out + (column - begin), &last, static_cast<std::size_t>(end - column) * sizeof(Pixel));
+    }
+}
+
+inline UInt4 lookUp(const Pixel* table, Int4 index) noexcept
+{
+    return UInt4{table[index[0]], table[index[1]], table[index[2]], table[index[3]]};
+}
+
+} // namespace vela::simd
