@@ -1,10 +1,9 @@
 #include "app/instance_guard_win32.h"
 
-#include "app/identity.h"
-
 namespace setup {
 
-SetupInstanceGuard::SetupInstanceGuard() noexcept : mutex_(::CreateMutexW(nullptr, TRUE, kMutexName.data()))
+SetupInstanceGuard::SetupInstanceGuard(const wchar_t* mutexName) noexcept
+    : mutex_(::CreateMutexW(nullptr, TRUE, mutexName))
 {
     const DWORD error = ::GetLastError();
     alreadyRunning_ = mutex_ && error == ERROR_ALREADY_EXISTS;

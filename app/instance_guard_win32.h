@@ -8,7 +8,7 @@ namespace setup {
 // Taken for as long as the object lives. When Windows gives no mutex at all, the setup goes on unguarded.
 class SetupInstanceGuard {
 public:
-    SetupInstanceGuard() noexcept;
+    explicit SetupInstanceGuard(const wchar_t* mutexName) noexcept;
     SetupInstanceGuard(const SetupInstanceGuard&) = delete;
     SetupInstanceGuard& operator=(const SetupInstanceGuard&) = delete;
     ~SetupInstanceGuard();

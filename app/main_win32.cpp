@@ -1,5 +1,6 @@
 // Entry of TamberSetup.exe.
 #include "app/exit_code.h"
+#include "app/identity.h"
 #include "app/instance_guard_win32.h"
 #include "app/interactive_win32.h"
 #include "app/process_win32.h"
@@ -20,7 +21,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int)
     using namespace setup;
     hardenProcess();
     const CommandLine commandLine = parseCommandLine(processArguments());
-    const SetupInstanceGuard guard;
+    const SetupInstanceGuard guard(kMutexName.data());
     WindowsEffects effects(instance);
     if (guard.alreadyRunning()) {
         if (!commandLine.quiet)

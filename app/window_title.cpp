@@ -7,7 +7,7 @@ namespace setup {
 std::wstring setupTitle(std::wstring_view requested)
 {
     const std::wstring versionTitle = std::wstring(kProductName).append(L" - v").append(kVersionText);
-    const std::wstring ownTitle = versionTitle + L" Setup";
+    std::wstring ownTitle = versionTitle + L" Setup";
     if (requested.empty() || requested == L"Tamber Setup" || requested == ownTitle)
         return ownTitle;
     return std::wstring(requested).append(L" - ").append(versionTitle);
