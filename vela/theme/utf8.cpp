@@ -1,7 +1,9 @@
 #include "vela/theme/utf8.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
 
 namespace vela {
@@ -29,6 +31,23 @@ struct Character {
     char32_t codePoint;
     std::size_t length; // in bytes
 };
+
+bool isAscii(char byte) noexcept { return static_cast<std::uint8_t>(byte) < 0x80; }
+
+// How many bytes at the front are ASCII.
+std::size_t asciiRun(std::string_view bytes) noexcept
+{
+    std::size_t run = 0;
+    // Eight at a time while they last: the bulk of reading a skin's bytes.
+    for (std::uint64_t eight = 0; bytes.size() - run >= sizeof eight; run += sizeof eight) {
+        std::memcpy(&eight, bytes.data() + run, sizeof eight);
+        if ((eight & 0x8080808080808080) != 0)
+            break;
+    }
+    while (run < bytes.size() && isAscii(bytes[run]))
+        ++run;
+    return run;
+}
 
 // The first character of bytes that do not begin with an ASCII one.
 Character firstCharacter(std::string_view bytes) noexcept
@@ -76,16 +95,16 @@ std::wstring decodeUtf8(std::string_view bytes)
     // No character has more units than bytes.
     std::wstring text(bytes.size(), L'\0');
     wchar_t* out = text.data();
-    for (std::size_t at = 0; at < bytes.size();) {
-        const auto byte = static_cast<std::uint8_t>(bytes[at]);
-        if (byte < 0x80) {
-            *out++ = byte;
-            ++at;
-            continue;
-        }
-        const Character character = firstCharacter(bytes.substr(at));
+    while (!bytes.empty()) {
+        // Skins are ASCII but for a name here and there.
+        const std::size_t run = asciiRun(bytes);
+        out = std::copy_n(bytes.begin(), run, out);
+        bytes.remove_prefix(run);
+        if (bytes.empty())
+            break;
+        const Character character = firstCharacter(bytes);
         out = write(out, character.codePoint);
-        at += character.length;
+        bytes.remove_prefix(character.length);
     }
     text.resize(static_cast<std::size_t>(out - text.data()));
     return text;
