@@ -70,6 +70,12 @@ private:
     const RunMask* mask_ = nullptr;
 };
 
+inline void clearLayer(const LayerTarget& target) noexcept
+{
+    for (std::int32_t row = 0; row < target.view.size.height; ++row)
+        simd::fillPixels(target.view.row(row), target.view.size.width, 0);
+}
+
 // Walks the visible part of a layer: paint(first pixel, columns, y) for each covered run, in the surface's
 // coordinates, and transparent pixels everywhere else.
 template <typename Paint>

@@ -203,9 +203,7 @@ InnerShadowReach innerShadowReach(const Coverage& coverage) noexcept
 void fillInnerShadow(const LayerTarget& target, const Coverage& coverage, const SurfaceStyle& style)
 {
     if (style.innerShadowSize < 1)
-        return paintCovered(target, coverage, [](Pixel* first, Span run, std::int32_t) {
-            simd::fillPixels(first, run.length(), 0);
-        });
+        return clearLayer(target);
     ShadowPainter painter(target, coverage.size(), style);
     switch (innerShadowReach(coverage)) {
     case InnerShadowReach::Rectangle: return painter.byRectangle({ShapeKind::Rect, coverage.size()});

@@ -1,0 +1,230 @@
+#include "vela/render/spatial_shading.h"
+
+#include "vela/render/shape.h"
+#include "vela/render/simd.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+namespace vela {
+namespace {
+
+using simd::Float4;
+using simd::Int4;
+using simd::UInt4;
+
+// Four pixels' distances to the outline, in pixels, and the directions out of the surface there.
+struct EdgeSample {
+    Float4 distance;
+    Float4 outX;
+    Float4 outY;
+};
+
+// Rectangles with corners of any radius, pills included.
+class BoxEdge {
+public:
+    BoxEdge(ShapeKind kind, Size size)
+        : halfWidth_(static_cast<float>(size.width) / 2), halfHeight_(static_cast<float>(size.height) / 2),
+          radius_(static_cast<float>(cornerDiameter(kind, size.width, size.height)) / 2)
+    {
+    }
+
+    EdgeSample at(Float4 x, float y) const
+    {
+        const Float4 fromMiddle = x - simd::splat(halfWidth_);
+        const float downFromMiddle = y - halfHeight_;
+        // How far beyond the centres of the corner circles.
+        const Float4 beyondX = simd::magnitude(fromMiddle) - simd::splat(halfWidth_ - radius_);
+        const Float4 beyondY = simd::splat(std::abs(downFromMiddle) - (halfHeight_ - radius_));
+        const Float4 zero{};
+        const Int4 inCorner = (beyondX > zero) & (beyondY > zero);
+        const Int4 sideways = beyondX > beyondY;
+        const Float4 reach = simd::squareRoot(beyondX * beyondX + beyondY * beyondY) + simd::splat(1e-6F);
+        const Float4 one = simd::splat(1.0F);
+        const Float4 outX = inCorner ? beyondX / reach : (sideways ? one : zero);
+        const Float4 outY = inCorner ? beyondY / reach : (sideways ? zero : one);
+        const Float4 beyond = inCorner ? reach : (sideways ? beyondX : beyondY);
+        return {simd::splat(radius_) - beyond, fromMiddle < zero ? -outX : outX,
+                downFromMiddle < 0 ? -outY : outY};
+    }
+
+private:
+    float halfWidth_;
+    float halfHeight_;
+    float radius_;
+};
+
+// Convex polygons: the nearest side counts, so facets meet in a clean mitre.
+class PolygonEdge {
+public:
+    PolygonEdge(ShapeKind kind, Size size)
+    {
+        const std::vector<Point> corners = shapePolygon(kind, {0, 0, size.width, size.height});
+        for (std::size_t i = 0; i < corners.size(); ++i) {
+            const Point from = corners[i];
+            const Point to = corners[(i + 1) % corners.size()];
+            const auto dx = static_cast<float>(to.x - from.x);
+            const auto dy = static_cast<float>(to.y - from.y);
+            const float length = std::hypot(dx, dy);
+            if (length > 0) // clockwise, so the outside lies to the left of the way
+                sides_[count_++] = {dy / length, -dx / length, static_cast<float>(from.x),
+                                    static_cast<float>(from.y)};
+        }
+    }
+
+    EdgeSample at(Float4 x, float y) const
+    {
+        EdgeSample nearest{simd::splat(1e6F), {}, {}};
+        for (std::size_t i = 0; i < count_; ++i) {
+            const Side& side = sides_[i];
+            const Float4 distance =
+                (simd::splat(side.x) - x) * simd::splat(side.outX) + simd::splat((side.y - y) * side.outY);
+            const Int4 nearer = distance < nearest.distance;
+            nearest.distance = nearer ? distance : nearest.distance;
+            nearest.outX = nearer ? simd::splat(side.outX) : nearest.outX;
+            nearest.outY = nearer ? simd::splat(side.outY) : nearest.outY;
+        }
+        return nearest;
+    }
+
+private:
+    struct Side {
+        float outX;
+        float outY;
+        float x; // a point on it
+        float y;
+    };
+    static constexpr std::size_t kMostSides = 8;
+    std::array<Side, kMostSides> sides_{};
+    std::size_t count_ = 0;
+};
+
+// The light and the body's relief, all from the style.
+class Relief {
+public:
+    Relief(const SurfaceStyle& style, Size size)
+    {
+        const float depth = static_cast<float>(style.materialDepth) / 255;
+        const float angle = static_cast<float>(style.materialLightAngle % 360) * kRadiansPerDegree;
+        const float elevation =
+            static_cast<float>(std::min<int>(style.materialLightElevation, 90)) * kRadiansPerDegree;
+        lightX_ = std::cos(elevation) * std::cos(angle);
+        lightY_ = std::cos(elevation) * std::sin(angle);
+        lightZ_ = std::sin(elevation);
+        const auto side = static_cast<float>(std::min(size.width, size.height));
+        roundedWidth_ = std::clamp(side * 0.11F, 2.0F, 3 + 9 * depth);
+        edgeSlope_ = 0.35F + 1.4F * depth;
+        rim_ = static_cast<float>(style.rimLight) / 255 * 0.7F;
+        faceX_ = lightX_ * 0.5F * depth / std::max(static_cast<float>(size.width), 1.0F);
+        faceY_ = lightY_ * 0.5F * depth / std::max(static_cast<float>(size.height), 1.0F);
+        middleX_ = static_cast<float>(size.width) / 2;
+        middleY_ = static_cast<float>(size.height) / 2;
+    }
+
+    // Light above 0 and shade below, 1 at the most, relative to a flat surface.
+    Float4 at(Float4 x, float y, const EdgeSample& edge) const
+    {
+        const Float4 zero{};
+        const Float4 one = simd::splat(1.0F);
+        // The slope falls off smoothly from the edge inwards, as on a rounded body.
+        const Float4 fade =
+            simd::greater(one - simd::greater(edge.distance, zero) / simd::splat(roundedWidth_), zero);
+        const Float4 slope = simd::splat(edgeSlope_) * fade * fade;
+        const Float4 towardsLight = edge.outX * simd::splat(lightX_) + edge.outY * simd::splat(lightY_);
+        const Float4 lit =
+            (towardsLight * slope + simd::splat(lightZ_)) / simd::squareRoot(slope * slope + one);
+        // The outermost pixel catches the light like a polished arris.
+        const Float4 arris = simd::greater(simd::splat(1.5F) - edge.distance, zero);
+        const Float4 rim = simd::lesser(arris, one) * towardsLight * simd::splat(rim_);
+        const Float4 face =
+            (x - simd::splat(middleX_)) * simd::splat(faceX_) + simd::splat((y - middleY_) * faceY_);
+        return lit - simd::splat(lightZ_) + rim + face;
+    }
+
+private:
+    static constexpr float kRadiansPerDegree = std::numbers::pi_v<float> / 180;
+    float lightX_;
+    float lightY_;
+    float lightZ_;
+    float roundedWidth_; // how far in from the edge the rounding reaches
+    float edgeSlope_;    // its steepness at the very edge
+    float rim_;
+    float faceX_; // the slight bulge of the whole face, per pixel
+    float faceY_;
+    float middleX_;
+    float middleY_;
+};
+
+Color mixed(Color from, Color to, float amount) noexcept
+{
+    const auto channel = [amount](std::uint8_t a, std::uint8_t b) {
+        return static_cast<std::uint8_t>(static_cast<float>(a) + static_cast<float>(b - a) * amount + 0.5F);
+    };
+    return rgb(channel(redOf(from), redOf(to)), channel(greenOf(from), greenOf(to)),
+               channel(blueOf(from), blueOf(to)));
+}
+
+// Every shade from full darkness at 0 through nothing in the middle to full light at the end.
+constexpr std::int32_t kFlat = 255;
+using Shades = std::array<Pixel, 2 * kFlat + 1>;
+
+Shades shadesOf(const SurfaceStyle& style) noexcept
+{
+    const Color light = mixed(hexColor(0xFFFFFF), style.materialTint, 0.28F);
+    const Color shade = mixed(hexColor(0x000000), style.materialTint, 0.06F);
+    const float opacity = static_cast<float>(style.opacity) / 255;
+    const float lightStrength = opacity * static_cast<float>(style.highlightOpacity) / 255 * 1.6F;
+    const float shadeStrength = opacity * (0.6F + 0.4F * static_cast<float>(style.ambientOcclusion) / 255);
+    const auto alphaOfStep = [](std::int32_t step, float strength) {
+        return static_cast<unsigned>(std::min(static_cast<float>(step) * strength + 0.5F, 255.0F));
+    };
+    Shades shades{};
+    for (std::int32_t step = 1; step <= kFlat; ++step) {
+        shades[static_cast<std::size_t>(kFlat + step)] =
+            premultiplied(light, alphaOfStep(step, lightStrength));
+        shades[static_cast<std::size_t>(kFlat - step)] =
+            premultiplied(shade, alphaOfStep(step, shadeStrength));
+    }
+    return shades;
+}
+
+template <typename Edge>
+void shadeBody(const LayerTarget& target, const Coverage& coverage, const SurfaceStyle& style,
+               const Edge& edge)
+{
+    const Relief relief(style, coverage.size());
+    const Shades shades = shadesOf(style);
+    paintCovered(target, coverage, [&](Pixel* first, Span run, std::int32_t row) {
+        const float y = static_cast<float>(row) + 0.5F;
+        simd::writeInFours(first, run.begin, run.end, [&](std::int32_t column) {
+            const Float4 x = simd::toFloat(simd::splat(column) + Int4{0, 1, 2, 3}) + simd::splat(0.5F);
+            const Float4 light = relief.at(x, y, edge.at(x, y)) * simd::splat(static_cast<float>(kFlat)) +
+                                 simd::splat(kFlat + 0.5F);
+            const Float4 inRange = simd::lesser(simd::greater(light, Float4{}), simd::splat(2.0F * kFlat));
+            return simd::lookUp(shades.data(), simd::truncated(inRange));
+        });
+    });
+}
+
+} // namespace
+
+bool castsSpatialShading(const SurfaceStyle& style) noexcept
+{
+    return style.materialDepth > 0 && style.opacity > 0;
+}
+
+void fillSpatialShading(const LayerTarget& target, const Coverage& coverage, const SurfaceStyle& style)
+{
+    if (!coverage.isShape() || !castsSpatialShading(style))
+        return clearLayer(target);
+    const Size size = coverage.size();
+    if (coverage.shape() >= ShapeKind::Diamond && coverage.shape() <= ShapeKind::SlantLeft)
+        shadeBody(target, coverage, style, PolygonEdge(coverage.shape(), size));
+    else
+        shadeBody(target, coverage, style, BoxEdge(coverage.shape(), size));
+}
+
+} // namespace vela
