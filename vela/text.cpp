@@ -4,6 +4,31 @@
 #include <limits>
 
 namespace vela {
+namespace {
+
+// For integers of at most 32 bits.
+template <typename Integer>
+std::optional<Integer> leadingNumber(std::wstring_view text) noexcept
+{
+    using Limits = std::numeric_limits<Integer>;
+    while (!text.empty() && isSpace(text.front()))
+        text.remove_prefix(1);
+    const bool negative = !text.empty() && text.front() == L'-';
+    if (!text.empty() && (negative || text.front() == L'+'))
+        text.remove_prefix(1);
+    if (text.empty() || !isDigit(text.front()))
+        return std::nullopt;
+    std::int64_t value = 0;
+    for (const wchar_t c : text) {
+        if (!isDigit(c))
+            break;
+        value = std::min<std::int64_t>(value * 10 + (c - L'0'), std::int64_t{Limits::max()} + 1);
+    }
+    value = negative ? -value : value;
+    return static_cast<Integer>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+}
+
+} // namespace
 
 std::wstring_view trimmed(std::wstring_view text) noexcept
 {
@@ -29,22 +54,12 @@ bool equalsIgnoringAsciiCase(std::wstring_view left, std::wstring_view right) no
 
 std::optional<std::int32_t> leadingInteger(std::wstring_view text) noexcept
 {
-    using Limits = std::numeric_limits<std::int32_t>;
-    while (!text.empty() && isSpace(text.front()))
-        text.remove_prefix(1);
-    const bool negative = !text.empty() && text.front() == L'-';
-    if (!text.empty() && (negative || text.front() == L'+'))
-        text.remove_prefix(1);
-    if (text.empty() || !isDigit(text.front()))
-        return std::nullopt;
-    std::int64_t value = 0;
-    for (const wchar_t c : text) {
-        if (!isDigit(c))
-            break;
-        value = std::min<std::int64_t>(value * 10 + (c - L'0'), std::int64_t{Limits::max()} + 1);
-    }
-    value = negative ? -value : value;
-    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+    return leadingNumber<std::int32_t>(text);
+}
+
+std::optional<std::uint32_t> leadingUnsigned(std::wstring_view text) noexcept
+{
+    return leadingNumber<std::uint32_t>(text);
 }
 
 std::wstring decimalText(std::uint32_t value)

@@ -27,6 +27,7 @@ bool equalsIgnoringAsciiCase(std::wstring_view left, std::wstring_view right) no
 // Reads white space, a sign and decimal digits from the front, ignores what follows, and stops at the limits
 // of the type instead of overflowing. Empty when no digit was found.
 std::optional<std::int32_t> leadingInteger(std::wstring_view text) noexcept;
+std::optional<std::uint32_t> leadingUnsigned(std::wstring_view text) noexcept;
 
 std::wstring decimalText(std::uint32_t value);
 

@@ -74,6 +74,10 @@ public:
     std::size_t textCount() const noexcept { return own_.size(); }
     std::wstring_view text(std::size_t index) const noexcept { return map_->valueOf(own_[index]); }
 
+    // A bit for each letter with which a path below goes on, one more for all that are no letters.
+    std::uint32_t initials() const noexcept;
+    static std::uint32_t initialOf(wchar_t c) noexcept;
+
     // The distinct first segments below the path, sorted.
     std::vector<std::wstring_view> childNames() const;
 
@@ -90,7 +94,7 @@ private:
     const SkinMap* map_;
     Settings own_;
     Settings below_;
-    std::size_t depth_; // units of the paths below that lead to this view, its dot included
+    std::size_t depth_ = 0; // units of the paths below that lead to this view, its dot included
 };
 
 } // namespace vela

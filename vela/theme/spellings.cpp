@@ -152,15 +152,6 @@ std::uint32_t nextNameCharacter(std::wstring_view& text) noexcept
     return kNameEnd;
 }
 
-bool isName(std::wstring_view text, std::string_view word) noexcept
-{
-    for (const char c : word) {
-        if (nextNameCharacter(text) != static_cast<std::uint32_t>(c))
-            return false;
-    }
-    return nextNameCharacter(text) == kNameEnd;
-}
-
 } // namespace
 
 const Vocabulary kSurfaceModeWords = {"surface mode", kSurfaceModes};
@@ -196,6 +187,15 @@ bool sameName(std::wstring_view left, std::wstring_view right) noexcept
         if (c == kNameEnd)
             return true;
     }
+}
+
+bool isName(std::wstring_view text, std::string_view word) noexcept
+{
+    for (const char c : word) {
+        if (nextNameCharacter(text) != static_cast<std::uint32_t>(lowerAscii(static_cast<wchar_t>(c))))
+            return false;
+    }
+    return nextNameCharacter(text) == kNameEnd;
 }
 
 std::optional<std::uint16_t> parseWord(const Vocabulary& vocabulary, std::wstring_view text) noexcept

@@ -17,6 +17,9 @@ std::wstring normalizedName(std::wstring_view text);
 // Whether both have the same normalised form.
 bool sameName(std::wstring_view left, std::wstring_view right) noexcept;
 
+// The same for a word of a table, which holds neither "_", "-" nor white space.
+bool isName(std::wstring_view text, std::string_view word) noexcept;
+
 // Calls visit for each word of a list that is separated by single blanks, until it returns true; tells
 // whether it did.
 template <typename Visit>
