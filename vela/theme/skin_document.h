@@ -5,6 +5,7 @@
 #include "vela/theme/skin_map.h"
 #include "vela/theme/theme.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,12 @@ class JsonValue;
 inline constexpr std::wstring_view kCustomCategory = L"custom";
 inline constexpr std::wstring_view kExternalSource = L"external";
 
+// Where the sections lie in SkinDefinition::sections.
+inline constexpr std::wstring_view kShapesSection = L"shapes";
+inline constexpr std::wstring_view kStylesSection = L"styles";
+inline constexpr std::wstring_view kOverridesSection = L"styleoverrides";
+inline constexpr std::wstring_view kVariantsSection = L"stylevariants";
+
 struct SkinDefinition {
     std::wstring id;
     std::wstring name;
@@ -28,7 +35,35 @@ struct SkinDefinition {
     std::wstring source;      // empty: built in
     std::vector<std::wstring> tags;
     Theme theme;
-    SkinMap sections; // under "shapes", "styles", "styleoverrides" and "stylevariants"; not sorted
+    SkinMap sections; // not sorted
+};
+
+enum class SkinKeyKind : std::uint8_t { Text, SurfaceMode, Tags, Materials, Theme, Section };
+
+// One key of a skin with its aliases in reading order, separated by blanks. They are compared in normalised
+// form, as all keys are.
+struct SkinKey {
+    std::string_view keys;
+    SkinKeyKind kind;
+    std::wstring SkinDefinition::*text = nullptr; // of a Text
+    std::wstring_view section = {};               // of a Section: its path in SkinDefinition::sections
+};
+
+// In the order in which they are read.
+inline constexpr SkinKey kSkinKeys[] = {
+    {"name", SkinKeyKind::Text, &SkinDefinition::name},
+    {"id", SkinKeyKind::Text, &SkinDefinition::id},
+    {"description", SkinKeyKind::Text, &SkinDefinition::description},
+    {"harmony", SkinKeyKind::Text, &SkinDefinition::harmony},
+    {"category", SkinKeyKind::Text, &SkinDefinition::category},
+    {"surfaceMode", SkinKeyKind::SurfaceMode},
+    {"tags", SkinKeyKind::Tags},
+    {"materials materialProfile", SkinKeyKind::Materials},
+    {"theme", SkinKeyKind::Theme},
+    {"styles", SkinKeyKind::Section, nullptr, kStylesSection},
+    {"shapes", SkinKeyKind::Section, nullptr, kShapesSection},
+    {"styleOverrides", SkinKeyKind::Section, nullptr, kOverridesSection},
+    {"styleVariants variants controlVariants", SkinKeyKind::Section, nullptr, kVariantsSection},
 };
 
 // Reads one skin over the definition: only what is present and readable changes. False, with the definition

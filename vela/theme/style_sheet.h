@@ -3,6 +3,7 @@
 #pragma once
 
 #include "vela/theme/control_styles.h"
+#include "vela/theme/spellings.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -44,6 +45,7 @@ inline constexpr std::size_t kControlKindCount = 21;
 inline constexpr std::wstring_view kDefaultVariant = L"default";
 
 // The records of one control kind in the order in which they were added; the default is always the first.
+// Variant names are compared in normalised form, as skins may write them.
 template <class Record>
 class VariantTable {
 public:
@@ -59,7 +61,7 @@ public:
     const Record& find(std::wstring_view name) const noexcept
     {
         for (const Variant& variant : variants_) {
-            if (variant.name == name)
+            if (sameName(variant.name, name))
                 return variant.record;
         }
         return variants_.front().record;
@@ -69,7 +71,7 @@ public:
     Record* tryFind(std::wstring_view name) noexcept
     {
         for (Variant& variant : variants_) {
-            if (variant.name == name)
+            if (sameName(variant.name, name))
                 return &variant.record;
         }
         return nullptr;

@@ -1,0 +1,321 @@
+#include "vela/theme/style_sections.h"
+
+#include "vela/theme/derive_style_sheet.h"
+#include "vela/theme/field_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <tuple>
+#include <vector>
+
+namespace vela {
+namespace {
+
+constexpr ControlSection kSections[] = {
+    {ControlKind::Text, "text textstyle", &Fields<TextStyle>::kTable},
+    {ControlKind::Button, "button buttons buttonstyle", &Fields<ButtonStyle>::kTable},
+    {ControlKind::BitmapButton, "bitmap bitmapbutton bitmapbuttons imagebutton glyphbutton",
+     &Fields<BitmapButtonStyle>::kTable},
+    {ControlKind::Panel, "panel panelstyle", &Fields<PanelStyle>::kTable},
+    {ControlKind::Card, "card cardstyle", &Fields<CardStyle>::kTable},
+    {ControlKind::ChromeTitleBar, "chrome chrometitlebar titlebar", &Fields<ChromeTitleBarStyle>::kTable},
+    {ControlKind::StatusChip, "statuschip status", &Fields<StatusChipStyle>::kTable},
+    {ControlKind::ProgressBar, "progressbar progress", &Fields<ProgressBarStyle>::kTable},
+    {ControlKind::ScrollBar, "scrollbar scroll", &Fields<ScrollBarStyle>::kTable},
+    {ControlKind::CheckBox, "check checkbox", &Fields<CheckBoxStyle>::kTable},
+    {ControlKind::SelectBox, "selectbox select combobox combo", &Fields<SelectBoxStyle>::kTable},
+    {ControlKind::ListBox,
+     "listbox hierarchicallistbox treelistbox treelist diskviewer fileviewer filelist selectionlist",
+     &Fields<ListBoxStyle>::kTable},
+    {ControlKind::DateInput, "dateinput date calendarinput", &Fields<DateInputStyle>::kTable},
+    {ControlKind::Tabs, "tabstrip tabs tab", &Fields<TabsStyle>::kTable},
+    {ControlKind::MenuBar, "menubar menu windowmenu windowsmenu", &Fields<MenuBarStyle>::kTable},
+    {ControlKind::TableList, "tablelist table list", &Fields<TableListStyle>::kTable},
+    {ControlKind::RichText, "richtext helptext", &Fields<RichTextStyle>::kTable},
+    {ControlKind::TextInput, "textinput input edit", &Fields<TextInputStyle>::kTable},
+    {ControlKind::SelectableText, "selectabletext", &Fields<SelectableTextStyle>::kTable},
+    {ControlKind::Popup, "popup dialog", &Fields<PopupStyle>::kTable},
+    {ControlKind::Tooltip, "tooltip tooltips", &Fields<TooltipStyle>::kTable},
+};
+static_assert(std::size(kSections) == kControlKindCount);
+
+struct Layer {
+    std::wstring_view path;
+    KeyStyle keys;
+};
+
+// A skin's own additions come last, so that they start from everything that the skin says about their kind.
+constexpr Layer kLayers[] = {
+    {kShapesSection, KeyStyle::ShapeImplied},
+    {kStylesSection, KeyStyle::Full},
+    {kOverridesSection, KeyStyle::Full},
+    {kVariantsSection, KeyStyle::Full},
+};
+
+// The variants of one kind without its record type, so that one reader serves all kinds.
+struct VariantAccess {
+    std::size_t (*count)(const StyleSheet&);
+    std::wstring_view (*name)(const StyleSheet&, std::size_t index);
+    void* (*record)(StyleSheet&, std::size_t index);
+    void (*addCopyOfDefault)(StyleSheet&, std::wstring_view name);
+    void (*copy)(void* to, const void* from);
+};
+
+template <typename Record>
+constexpr VariantAccess accessTo()
+{
+    return {
+        [](const StyleSheet& sheet) { return sheet.table<Record>().size(); },
+        [](const StyleSheet& sheet, std::size_t index) -> std::wstring_view {
+            return (sheet.table<Record>().begin() + static_cast<std::ptrdiff_t>(index))->name;
+        },
+        [](StyleSheet& sheet, std::size_t index) -> void* {
+            return &(sheet.table<Record>().begin() + static_cast<std::ptrdiff_t>(index))->record;
+        },
+        [](StyleSheet& sheet, std::wstring_view name) {
+            sheet.table<Record>().set(name, sheet.find<Record>(kDefaultVariant));
+        },
+        [](void* to, const void* from) { *static_cast<Record*>(to) = *static_cast<const Record*>(from); },
+    };
+}
+
+template <typename... Record>
+constexpr std::array<VariantAccess, sizeof...(Record)> accessToAll(std::tuple<VariantTable<Record>...>*)
+{
+    return {accessTo<Record>()...};
+}
+
+constexpr auto kAccess = accessToAll(static_cast<StyleSheet::Tables*>(nullptr));
+
+const VariantAccess& accessOf(const ControlSection& section) noexcept
+{
+    return kAccess[static_cast<std::size_t>(section.kind)];
+}
+
+std::optional<std::size_t> indexOf(const StyleSheet& sheet, const ControlSection& section,
+                                   std::wstring_view variant)
+{
+    const VariantAccess& access = accessOf(section);
+    for (std::size_t i = 0; i < access.count(sheet); ++i) {
+        if (sameName(access.name(sheet, i), variant))
+            return i;
+    }
+    return std::nullopt;
+}
+
+// What a block inherits from; empty when it inherits nothing.
+std::wstring_view inheritedName(const SkinView& block)
+{
+    std::wstring_view name;
+    anyWord(kInheritanceKeys, [&](std::string_view key) {
+        const SkinView found = block.at(key);
+        if (found.textCount() > 0)
+            name = found.text(found.textCount() - 1);
+        return false;
+    });
+    return name;
+}
+
+bool isInheritanceKey(std::wstring_view name)
+{
+    return anyWord(kInheritanceKeys, [name](std::string_view key) { return isName(name, key); });
+}
+
+// "kind.variant", where the variant may be left out.
+struct StyleName {
+    const ControlSection* section; // null when there is no such kind
+    std::wstring_view variant;
+};
+
+StyleName parseStyleName(std::wstring_view text)
+{
+    const std::size_t dot = text.find(L'.');
+    return {findControlSection(text.substr(0, dot)),
+            dot == std::wstring_view::npos ? kDefaultVariant : text.substr(dot + 1)};
+}
+
+// Reads what one section of a skin says about one control kind.
+class KindReader {
+public:
+    KindReader(StyleSheet& sheet, const SkinView& layer, KeyStyle keys, const ControlSection& section)
+        : sheet_(sheet), layer_(layer), keys_(keys), section_(section), access_(accessOf(section))
+    {
+    }
+
+    void read() { readBlocksOf(section_, 0); }
+
+private:
+    enum class Progress : std::uint8_t { Waiting, Open, Done };
+
+    struct Variant {
+        std::wstring_view name;
+        SkinView block;
+        Progress progress = Progress::Waiting;
+    };
+
+    void readBlocksOf(const ControlSection& source, int depth)
+    {
+        const ControlSection* base = nullptr; // one for all blocks of a kind: a chain, never a tree
+        eachBlock(source, [&](const SkinView& block) {
+            const std::wstring_view name = inheritedName(block);
+            base = name.empty() ? base : findControlSection(name);
+        });
+        if (base && depth < kMaxInheritance)
+            readBlocksOf(*base, depth + 1);
+        eachBlock(source, [this](const SkinView& block) { readBlock(block); });
+    }
+
+    template <typename Visit>
+    void eachBlock(const ControlSection& source, Visit&& visit) const
+    {
+        anyWord(source.names, [&](std::string_view name) {
+            const SkinView block = layer_.at(name);
+            if (!block.empty())
+                visit(block);
+            return false;
+        });
+    }
+
+    void readBlock(const SkinView& block)
+    {
+        bool hasFields = block.textCount() > 0;
+        std::vector<Variant> variants;
+        for (const std::wstring_view name : block.childNames()) {
+            if (isFieldKey(*section_.fields, name, keys_))
+                hasFields = true;
+            else if (!isInheritanceKey(name))
+                variants.push_back({name, block.at(name)});
+        }
+        if (hasFields)
+            readIntoAll(block);
+        // Variants that are added start from the default as this block leaves it.
+        std::partition(variants.begin(), variants.end(),
+                       [](const Variant& variant) { return variant.name == kDefaultVariant; });
+        for (Variant& variant : variants)
+            readVariant(variants, variant, 0);
+    }
+
+    void readIntoAll(const SkinView& block)
+    {
+        for (std::size_t i = 0; i < access_.count(sheet_); ++i)
+            readStyle(block, access_.record(sheet_, i));
+    }
+
+    void readVariant(std::vector<Variant>& variants, Variant& variant, int depth)
+    {
+        const bool isStyle = variant.block.hasChildren() || keys_ == KeyStyle::ShapeImplied;
+        if (variant.progress != Progress::Waiting || !isStyle)
+            return;
+        variant.progress = Progress::Open;
+        if (const std::optional<std::size_t> index = ensureVariant(variant.name)) {
+            inherit(variants, variant, *index, depth);
+            readStyle(variant.block, access_.record(sheet_, *index));
+        }
+        variant.progress = Progress::Done;
+    }
+
+    // Empty when the kind has as many variants as it may have.
+    std::optional<std::size_t> ensureVariant(std::wstring_view name)
+    {
+        const std::optional<std::size_t> known = indexOf(sheet_, section_, name);
+        if (known || access_.count(sheet_) >= kMaxVariants)
+            return known;
+        access_.addCopyOfDefault(sheet_, name);
+        return access_.count(sheet_) - 1;
+    }
+
+    void inherit(std::vector<Variant>& variants, const Variant& variant, std::size_t index, int depth)
+    {
+        const std::wstring_view name = inheritedName(variant.block);
+        if (name.empty() || depth >= kMaxInheritance)
+            return;
+        const auto base = std::find_if(variants.begin(), variants.end(),
+                                       [name](const Variant& other) { return sameName(other.name, name); });
+        if (base != variants.end())
+            readVariant(variants, *base, depth + 1);
+        const bool isCircle = base != variants.end() && base->progress == Progress::Open;
+        if (const std::optional<std::size_t> from = indexOf(sheet_, section_, name)) {
+            if (!isCircle)
+                access_.copy(access_.record(sheet_, index), access_.record(sheet_, *from));
+            return;
+        }
+        const StyleName style = parseStyleName(name);
+        if (!style.section)
+            return;
+        eachBlock(*style.section, [&](const SkinView& block) {
+            readStyle(block.at(style.variant), access_.record(sheet_, index));
+        });
+    }
+
+    void readStyle(const SkinView& block, void* record)
+    {
+        inheritParts(block, record);
+        readRecord(block, *section_.fields, record, keys_);
+    }
+
+    // Styles within the record that are records of a control kind themselves.
+    void inheritParts(const SkinView& block, void* record)
+    {
+        for (const Field& field : section_.fields->fields) {
+            if (field.kind != FieldKind::Record)
+                continue;
+            anyWord(field.keys, [&](std::string_view key) {
+                const StyleName style = parseStyleName(inheritedName(block.at(key)));
+                if (!style.section || style.section->fields != &tableOf(field))
+                    return false;
+                const std::optional<std::size_t> from = indexOf(sheet_, *style.section, style.variant);
+                if (from)
+                    accessOf(*style.section)
+                        .copy(static_cast<std::byte*>(record) + field.offset,
+                              accessOf(*style.section).record(sheet_, *from));
+                return false;
+            });
+        }
+    }
+
+    StyleSheet& sheet_;
+    const SkinView& layer_;
+    KeyStyle keys_;
+    const ControlSection& section_;
+    const VariantAccess& access_;
+};
+
+void spreadDerivedShapes(StyleSheet& sheet)
+{
+    for (const ControlSection& section : kSections) {
+        const VariantAccess& access = accessOf(section);
+        for (std::size_t i = 0; i < access.count(sheet); ++i)
+            spreadShapes(*section.fields, access.record(sheet, i));
+    }
+}
+
+} // namespace
+
+std::span<const ControlSection> controlSections() noexcept { return kSections; }
+
+const ControlSection* findControlSection(std::wstring_view name) noexcept
+{
+    const auto* const found =
+        std::find_if(std::begin(kSections), std::end(kSections), [name](const auto& row) {
+            return anyWord(row.names, [name](std::string_view word) { return isName(name, word); });
+        });
+    return found == std::end(kSections) ? nullptr : found;
+}
+
+StyleSheet buildStyleSheet(const SkinDefinition& skin)
+{
+    StyleSheet sheet = deriveStyleSheet(skin.theme);
+    spreadDerivedShapes(sheet);
+    SkinMap sections = skin.sections;
+    sections.sort();
+    for (const Layer& layer : kLayers) {
+        const SkinView view = SkinView(sections).at(layer.path);
+        for (const ControlSection& section : kSections)
+            KindReader(sheet, view, layer.keys, section).read();
+    }
+    return sheet;
+}
+
+} // namespace vela
