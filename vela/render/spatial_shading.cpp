@@ -109,47 +109,46 @@ public:
     {
         const float depth = static_cast<float>(style.materialDepth) / 255;
         const float angle = static_cast<float>(style.materialLightAngle % 360) * kRadiansPerDegree;
-        const float elevation =
-            static_cast<float>(std::min<int>(style.materialLightElevation, 90)) * kRadiansPerDegree;
-        lightX_ = std::cos(elevation) * std::cos(angle);
-        lightY_ = std::cos(elevation) * std::sin(angle);
-        lightZ_ = std::sin(elevation);
-        const auto side = static_cast<float>(std::min(size.width, size.height));
-        roundedWidth_ = std::clamp(side * 0.11F, 2.0F, 3 + 9 * depth);
-        edgeSlope_ = 0.35F + 1.4F * depth;
-        rim_ = static_cast<float>(style.rimLight) / 255 * 0.7F;
-        faceX_ = lightX_ * 0.5F * depth / std::max(static_cast<float>(size.width), 1.0F);
-        faceY_ = lightY_ * 0.5F * depth / std::max(static_cast<float>(size.height), 1.0F);
-        middleX_ = static_cast<float>(size.width) / 2;
-        middleY_ = static_cast<float>(size.height) / 2;
+        const int degrees = std::min<int>(style.materialLightElevation, 90);
+        const float grazing = std::cos(static_cast<float>(degrees) * kRadiansPerDegree);
+        lightX_ = grazing * std::cos(angle);
+        lightY_ = grazing * std::sin(angle);
+        const auto width = static_cast<float>(std::max(size.width, 1));
+        const auto height = static_cast<float>(std::max(size.height, 1));
+        const float side = std::min(width, height);
+        roundedWidth_ = std::clamp(side * 0.16F, 2.0F, 3 + 10 * depth);
+        edgeSlope_ = 0.25F + 1.2F * depth;
+        rim_ = static_cast<float>(style.rimLight) / 255;
+        // A long bar bulges across its short side much more than along its length.
+        faceX_ = lightX_ * 0.5F * depth * side / (width * width);
+        faceY_ = lightY_ * 0.5F * depth * side / (height * height);
+        middleX_ = width / 2;
+        middleY_ = height / 2;
     }
 
-    // Light above 0 and shade below, 1 at the most, relative to a flat surface.
+    // Light above 0 and shade below, 1 at the most, relative to a flat surface. Slopes count in proportion,
+    // not by the cosine of a true normal: that would give a lit edge less than half of what it takes from the
+    // other.
     Float4 at(Float4 x, float y, const EdgeSample& edge) const
     {
         const Float4 zero{};
         const Float4 one = simd::splat(1.0F);
         // The slope falls off smoothly from the edge inwards, as on a rounded body.
-        const Float4 fade =
-            simd::greater(one - simd::greater(edge.distance, zero) / simd::splat(roundedWidth_), zero);
-        const Float4 slope = simd::splat(edgeSlope_) * fade * fade;
-        const Float4 towardsLight = edge.outX * simd::splat(lightX_) + edge.outY * simd::splat(lightY_);
-        const Float4 lit =
-            (towardsLight * slope + simd::splat(lightZ_)) / simd::squareRoot(slope * slope + one);
+        const Float4 inwards = simd::greater(edge.distance, zero) / simd::splat(roundedWidth_);
+        const Float4 fade = simd::greater(one - inwards, zero);
         // The outermost pixel catches the light like a polished arris.
-        const Float4 arris = simd::greater(simd::splat(1.5F) - edge.distance, zero);
-        const Float4 rim = simd::lesser(arris, one) * towardsLight * simd::splat(rim_);
-        const Float4 face =
-            (x - simd::splat(middleX_)) * simd::splat(faceX_) + simd::splat((y - middleY_) * faceY_);
-        return lit - simd::splat(lightZ_) + rim + face;
+        const Float4 arris = simd::lesser(simd::greater(simd::splat(1.5F) - edge.distance, zero), one);
+        const Float4 slope = simd::splat(edgeSlope_) * fade * fade + simd::splat(rim_) * arris;
+        const Float4 towardsLight = edge.outX * simd::splat(lightX_) + edge.outY * simd::splat(lightY_);
+        return towardsLight * slope + (x - simd::splat(middleX_)) * simd::splat(faceX_) +
+               simd::splat((y - middleY_) * faceY_);
     }
 
 private:
     static constexpr float kRadiansPerDegree = std::numbers::pi_v<float> / 180;
     float lightX_;
     float lightY_;
-    float lightZ_;
-    float roundedWidth_; // how far in from the edge the rounding reaches
+    float roundedWidth_; // how far in from the edge the rounding reaches, in pixels
     float edgeSlope_;    // its steepness at the very edge
     float rim_;
     float faceX_; // the slight bulge of the whole face, per pixel
@@ -161,14 +160,14 @@ private:
 Color mixed(Color from, Color to, float amount) noexcept
 {
     const auto channel = [amount](std::uint8_t a, std::uint8_t b) {
-        return static_cast<std::uint8_t>(static_cast<float>(a) + static_cast<float>(b - a) * amount + 0.5F);
+        return static_cast<std::uint8_t>(static_cast<float>(a) + static_cast<float>(b - a) * amount);
     };
     return rgb(channel(redOf(from), redOf(to)), channel(greenOf(from), greenOf(to)),
                channel(blueOf(from), blueOf(to)));
 }
 
 // Every shade from full darkness at 0 through nothing in the middle to full light at the end.
-constexpr std::int32_t kFlat = 255;
+constexpr std::size_t kFlat = 255;
 using Shades = std::array<Pixel, 2 * kFlat + 1>;
 
 Shades shadesOf(const SurfaceStyle& style) noexcept
@@ -176,17 +175,15 @@ Shades shadesOf(const SurfaceStyle& style) noexcept
     const Color light = mixed(hexColor(0xFFFFFF), style.materialTint, 0.28F);
     const Color shade = mixed(hexColor(0x000000), style.materialTint, 0.06F);
     const float opacity = static_cast<float>(style.opacity) / 255;
-    const float lightStrength = opacity * static_cast<float>(style.highlightOpacity) / 255 * 1.6F;
-    const float shadeStrength = opacity * (0.6F + 0.4F * static_cast<float>(style.ambientOcclusion) / 255);
-    const auto alphaOfStep = [](std::int32_t step, float strength) {
+    const float lightStrength = opacity * static_cast<float>(style.highlightOpacity) / 255 * 2.2F;
+    const float shadeStrength = opacity * (0.7F + 0.3F * static_cast<float>(style.ambientOcclusion) / 255);
+    const auto alphaOfStep = [](std::size_t step, float strength) {
         return static_cast<unsigned>(std::min(static_cast<float>(step) * strength + 0.5F, 255.0F));
     };
     Shades shades{};
-    for (std::int32_t step = 1; step <= kFlat; ++step) {
-        shades[static_cast<std::size_t>(kFlat + step)] =
-            premultiplied(light, alphaOfStep(step, lightStrength));
-        shades[static_cast<std::size_t>(kFlat - step)] =
-            premultiplied(shade, alphaOfStep(step, shadeStrength));
+    for (std::size_t step = 1; step <= kFlat; ++step) {
+        shades[kFlat + step] = premultiplied(light, alphaOfStep(step, lightStrength));
+        shades[kFlat - step] = premultiplied(shade, alphaOfStep(step, shadeStrength));
     }
     return shades;
 }
