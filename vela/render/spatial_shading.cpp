@@ -1,13 +1,11 @@
 #include "vela/render/spatial_shading.h"
 
-#include "vela/render/shape.h"
-#include "vela/render/simd.h"
+#include "vela/render/shape_distance.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
-#include <vector>
 
 namespace vela {
 namespace {
@@ -15,92 +13,6 @@ namespace {
 using simd::Float4;
 using simd::Int4;
 using simd::UInt4;
-
-// Four pixels' distances to the outline, in pixels, and the directions out of the surface there.
-struct EdgeSample {
-    Float4 distance;
-    Float4 outX;
-    Float4 outY;
-};
-
-// Rectangles with corners of any radius, pills included.
-class BoxEdge {
-public:
-    BoxEdge(ShapeKind kind, Size size)
-        : halfWidth_(static_cast<float>(size.width) / 2), halfHeight_(static_cast<float>(size.height) / 2),
-          radius_(static_cast<float>(cornerDiameter(kind, size.width, size.height)) / 2)
-    {
-    }
-
-    EdgeSample at(Float4 x, float y) const
-    {
-        const Float4 fromMiddle = x - simd::splat(halfWidth_);
-        const float downFromMiddle = y - halfHeight_;
-        // How far beyond the centres of the corner circles.
-        const Float4 beyondX = simd::magnitude(fromMiddle) - simd::splat(halfWidth_ - radius_);
-        const Float4 beyondY = simd::splat(std::abs(downFromMiddle) - (halfHeight_ - radius_));
-        const Float4 zero{};
-        const Int4 inCorner = (beyondX > zero) & (beyondY > zero);
-        const Int4 sideways = beyondX > beyondY;
-        const Float4 reach = simd::squareRoot(beyondX * beyondX + beyondY * beyondY) + simd::splat(1e-6F);
-        const Float4 one = simd::splat(1.0F);
-        const Float4 outX = inCorner ? beyondX / reach : (sideways ? one : zero);
-        const Float4 outY = inCorner ? beyondY / reach : (sideways ? zero : one);
-        const Float4 beyond = inCorner ? reach : (sideways ? beyondX : beyondY);
-        return {simd::splat(radius_) - beyond, fromMiddle < zero ? -outX : outX,
-                downFromMiddle < 0 ? -outY : outY};
-    }
-
-private:
-    float halfWidth_;
-    float halfHeight_;
-    float radius_;
-};
-
-// Convex polygons: the nearest side counts, so facets meet in a clean mitre.
-class PolygonEdge {
-public:
-    PolygonEdge(ShapeKind kind, Size size)
-    {
-        const std::vector<Point> corners = shapePolygon(kind, {0, 0, size.width, size.height});
-        for (std::size_t i = 0; i < corners.size(); ++i) {
-            const Point from = corners[i];
-            const Point to = corners[(i + 1) % corners.size()];
-            const auto dx = static_cast<float>(to.x - from.x);
-            const auto dy = static_cast<float>(to.y - from.y);
-            const float length = std::hypot(dx, dy);
-            if (length > 0) // clockwise, so the outside lies to the left of the way
-                sides_[count_++] = {dy / length, -dx / length, static_cast<float>(from.x),
-                                    static_cast<float>(from.y)};
-        }
-    }
-
-    EdgeSample at(Float4 x, float y) const
-    {
-        EdgeSample nearest{simd::splat(1e6F), {}, {}};
-        for (std::size_t i = 0; i < count_; ++i) {
-            const Side& side = sides_[i];
-            const Float4 distance =
-                (simd::splat(side.x) - x) * simd::splat(side.outX) + simd::splat((side.y - y) * side.outY);
-            const Int4 nearer = distance < nearest.distance;
-            nearest.distance = nearer ? distance : nearest.distance;
-            nearest.outX = nearer ? simd::splat(side.outX) : nearest.outX;
-            nearest.outY = nearer ? simd::splat(side.outY) : nearest.outY;
-        }
-        return nearest;
-    }
-
-private:
-    struct Side {
-        float outX;
-        float outY;
-        float x; // a point on it
-        float y;
-    };
-    static constexpr std::size_t kMostSides = 8;
-    std::array<Side, kMostSides> sides_{};
-    std::size_t count_ = 0;
-};
 
 // The light and the body's relief, all from the style.
 class Relief {
@@ -218,10 +130,8 @@ void fillSpatialShading(const LayerTarget& target, const Coverage& coverage, con
     if (!coverage.isShape() || !castsSpatialShading(style))
         return clearLayer(target);
     const Size size = coverage.size();
-    if (coverage.shape() >= ShapeKind::Diamond && coverage.shape() <= ShapeKind::SlantLeft)
-        shadeBody(target, coverage, style, PolygonEdge(coverage.shape(), size));
-    else
-        shadeBody(target, coverage, style, BoxEdge(coverage.shape(), size));
+    withShapeEdge(coverage.shape(), {0, 0, size.width, size.height},
+                  [&](const auto& edge) { shadeBody(target, coverage, style, edge); });
 }
 
 } // namespace vela
