@@ -1,16 +1,29 @@
 #include "vela/theme/derive_style_sheet.h"
 
+#include "vela/theme/derive_builders.h"
+
 namespace vela {
+namespace {
+
+using Builder = void (*)(const DeriveContext&, StyleSheet&);
+
+// In the order of ControlKind.
+constexpr Builder kBuilders[] = {
+    buildTexts,          buildButtons,     buildBitmapButtons, buildPanels,    buildCards,     buildTitleBar,
+    buildStatusChips,    buildProgressBar, buildScrollBar,     buildCheckBox,  buildSelectBox, buildListBox,
+    buildDateInput,      buildTabs,        buildMenuBar,       buildTableList, buildRichText,  buildTextInput,
+    buildSelectableText, buildPopups,      buildTooltips,
+};
+static_assert(std::size(kBuilders) == kControlKindCount);
+
+} // namespace
 
 StyleSheet deriveStyleSheet(const Theme& theme)
 {
+    const DeriveContext context(theme);
     StyleSheet sheet;
-    sheet.forEachTable([](ControlKind kind, auto& table) {
-        for (const std::wstring_view name : derivedVariants(kind))
-            table.set(name, table.find(name));
-    });
-    sheet.table<TextStyle>().set(kDefaultVariant, theme.uiFont);
-    sheet.table<TextStyle>().set(L"mono", theme.monoFont);
+    for (const Builder build : kBuilders)
+        build(context, sheet);
     return sheet;
 }
 
