@@ -2,17 +2,23 @@
 
 namespace vela {
 
+std::optional<Rect> clipBox(HDC dc) noexcept
+{
+    RECT box;
+    const int kind = ::GetClipBox(dc, &box);
+    if (kind == ERROR)
+        return std::nullopt;
+    if (kind == NULLREGION)
+        return Rect{};
+    return Rect{box.left, box.top, box.right - box.left, box.bottom - box.top};
+}
+
 Rect visiblePart(HDC dc, const Rect& rect) noexcept
 {
     if (isEmpty(rect))
         return {};
-    RECT clip;
-    const int kind = ::GetClipBox(dc, &clip);
-    if (kind == ERROR)
-        return rect;
-    if (kind == NULLREGION)
-        return {};
-    return intersection(rect, {clip.left, clip.top, clip.right - clip.left, clip.bottom - clip.top});
+    const std::optional<Rect> clip = clipBox(dc);
+    return clip ? intersection(rect, *clip) : rect;
 }
 
 } // namespace vela

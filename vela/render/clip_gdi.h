@@ -3,12 +3,17 @@
 
 #include "vela/geometry.h"
 
+#include <optional>
+
 #include <windows.h>
 
 namespace vela {
 
-// The part of the rectangle inside the clip's bounding box; empty when nothing of it shows. A context that
-// cannot tell its clip shows everything.
+// The clip's bounding box, empty when it hides everything; none when the context cannot tell it, and then
+// everything counts as seen.
+std::optional<Rect> clipBox(HDC dc) noexcept;
+
+// The part of the rectangle inside the clip box.
 Rect visiblePart(HDC dc, const Rect& rect) noexcept;
 
 inline bool isVisible(HDC dc, const Rect& rect) noexcept { return !isEmpty(visiblePart(dc, rect)); }

@@ -1,0 +1,29 @@
+// Pixel layers on their way to a device context: a scratch bitmap that is kept from layer to layer.
+#pragma once
+
+#include "vela/render/clip_gdi.h"
+#include "vela/render/pixel_buffer.h"
+
+namespace vela {
+
+// Pixels for one layer, valid until the next call; empty when Windows cannot give them. They hold whatever
+// the layer before left there.
+PixelView scratchPixels(Size size);
+
+// Blends the scratch pixels of that size, from their top left corner, over the rectangle.
+void compositeScratch(HDC dc, const Rect& rect);
+
+// Lets `fill` write the visible part of a layer that covers the rectangle, as a LayerTarget, and composites
+// it. A layer that the clip hides is not generated.
+template <typename Fill>
+void renderPixelLayer(HDC dc, const Rect& rect, Fill&& fill)
+{
+    const Rect visible = visiblePart(dc, rect);
+    const PixelView pixels = scratchPixels(sizeOf(visible));
+    if (!pixels.pixels)
+        return;
+    fill(LayerTarget{pixels, {visible.x - rect.x, visible.y - rect.y}});
+    compositeScratch(dc, visible);
+}
+
+} // namespace vela

@@ -1,0 +1,66 @@
+#include "vela/render/owned_gdi.h"
+#include "vela/render/shape.h"
+#include "vela/render/shape_rects.h"
+#include "vela/render/surface_painter.h"
+
+#include <vector>
+
+namespace vela {
+namespace {
+
+// Fills rectangles with a colour; needs no brush of its own.
+class SolidFiller {
+public:
+    SolidFiller(HDC dc, Point origin, Color color)
+        : dc_(dc), origin_(origin), brush_(dc, ::GetStockObject(DC_BRUSH)),
+          oldColor_(::SetDCBrushColor(dc, color))
+    {
+    }
+    ~SolidFiller() { ::SetDCBrushColor(dc_, oldColor_); }
+    SolidFiller(const SolidFiller&) = delete;
+    SolidFiller& operator=(const SolidFiller&) = delete;
+
+    void operator()(const Rect& rect) const
+    {
+        ::PatBlt(dc_, origin_.x + rect.x, origin_.y + rect.y, rect.width, rect.height, PATCOPY);
+    }
+
+private:
+    HDC dc_;
+    Point origin_;
+    SelectedObject brush_;
+    COLORREF oldColor_;
+};
+
+HRGN polygonRegion(ShapeKind kind, Size size)
+{
+    std::vector<POINT> corners;
+    for (const Point corner : shapePolygon(kind, {0, 0, size.width, size.height}))
+        corners.push_back({corner.x, corner.y});
+    return corners.empty() ? nullptr
+                           : ::CreatePolygonRgn(corners.data(), static_cast<int>(corners.size()), WINDING);
+}
+
+} // namespace
+
+void fillShape(HDC dc, const Rect& rect, ShapeKind kind, Color color)
+{
+    visitFill(kind, sizeOf(rect), SolidFiller(dc, {rect.x, rect.y}, color));
+}
+
+void strokeShapeOutline(HDC dc, const Rect& rect, ShapeKind kind, Color color, std::int32_t penWidth)
+{
+    visitStroke(kind, sizeOf(rect), penWidth, SolidFiller(dc, {rect.x, rect.y}, color));
+}
+
+HRGN createShapeRegion(const SurfaceStyle& style, Size size)
+{
+    if (isEmpty(size))
+        return nullptr;
+    // The right and bottom edge of a rounded region are one pixel short; a polygon's are not.
+    if (const std::int32_t diameter = cornerDiameter(style.shape, size.width, size.height))
+        return ::CreateRoundRectRgn(0, 0, size.width + 1, size.height + 1, diameter, diameter);
+    return polygonRegion(style.shape, size);
+}
+
+} // namespace vela

@@ -1,0 +1,35 @@
+// Painting of styled surfaces on a device context. Rectangles are in the context's logical pixels, which are
+// the window's client pixels. No layer reports failure: one that cannot be made is left out. UI thread only.
+#pragma once
+
+#include "vela/geometry.h"
+#include "vela/platform_handles.h"
+#include "vela/render/pixel_buffer.h"
+#include "vela/theme/surface_style.h"
+
+namespace vela {
+
+// All layers of the style, in their order. Costs nothing when the clip hides the surface.
+void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style);
+
+// One layer alone, whatever the style's switches say.
+void drawGradientShape(HDC dc, const Rect& rect, const SurfaceStyle& style);
+void drawMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style);
+void drawSpatialSurfaceShading(HDC dc, const Rect& rect, const SurfaceStyle& style);
+void drawInnerShadow(HDC dc, const Rect& rect, const SurfaceStyle& style);
+void drawNoise(HDC dc, const Rect& rect, const SurfaceStyle& style);
+
+// Fill and stroke cover exactly pixels of the shape's mask. The stroke lies inside the rectangle, the pen's
+// width deep.
+void fillShape(HDC dc, const Rect& rect, ShapeKind kind, Color color);
+void strokeShapeOutline(HDC dc, const Rect& rect, ShapeKind kind, Color color, std::int32_t penWidth);
+
+// The region that gives a window of that size the style's shape, from (0, 0); null for a plain rectangle. The
+// caller owns it.
+HRGN createShapeRegion(const SurfaceStyle& style, Size size);
+
+// The one place where software pixels reach the screen: premultiplied pixels of the rectangle's size, source
+// over what is there.
+void compositePixelBuffer(HDC dc, const Rect& rect, const PixelView& pixels);
+
+} // namespace vela
