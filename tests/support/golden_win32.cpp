@@ -73,7 +73,8 @@ Comparison compare(const PixelView& picture, const std::vector<Pixel>& golden, i
     tools::writePng(failedPath + L".difference.png",
                     {result.difference.data(), picture.size, picture.size.width});
     return AssertionFailure() << result.pixels << " pixels differ, by up to " << result.worst
-                              << "; see the .difference.png beside the test program";
+                              << "; see the .difference.png beside the test program,"
+                              << " and run with TAMBER_UPDATE_GOLDEN=1 if it should look so now";
 }
 
 } // namespace vela::testing
