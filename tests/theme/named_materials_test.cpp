@@ -1,7 +1,11 @@
 #include "vela/theme/named_materials.h"
+#include "vela/theme/oklab.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <iterator>
 #include <set>
 #include <string>
 
@@ -78,6 +82,51 @@ TEST(NamedMaterials, BecomeTheMainSurfaceOfAProfile)
     EXPECT_EQ(profile.surface, MaterialPreset::StoneMarble);
     EXPECT_EQ(profile.control, MaterialPreset::Glass);
     EXPECT_EQ(profile.materialStrength, findNamedMaterial(L"marble")->shading.materialStrength);
+}
+
+// How far two substances look apart: their colours (0.02 is just visible), the mean difference of what shapes
+// their light, and a step for another texture or another finish.
+float difference(const NamedMaterial& one, const NamedMaterial& other)
+{
+    using Shading = MaterialShading;
+    constexpr std::uint8_t Shading::*kLight[] = {&Shading::materialStrength,  &Shading::highlightOpacity,
+                                                 &Shading::reflectionOpacity, &Shading::grainOpacity,
+                                                 &Shading::materialDepth,     &Shading::roughness,
+                                                 &Shading::specular,          &Shading::textureOpacity,
+                                                 &Shading::edgeWear,          &Shading::innerGlow};
+    float light = 0;
+    for (const auto member : kLight)
+        light += std::fabs(static_cast<float>(one.shading.*member - other.shading.*member)) / 255;
+    return visualDistance(one.shading.materialTint, other.shading.materialTint) +
+           light / static_cast<float>(std::size(kLight)) + (one.preset == other.preset ? 0.0F : 0.1F) +
+           (one.shading.finish == other.shading.finish ? 0.0F : 0.05F);
+}
+
+bool areSpellingsOfOne(std::wstring_view one, std::wstring_view other)
+{
+    constexpr std::wstring_view kTwins[][2] = {{L"marble", L"mramor"}, {L"aluminium", L"aluminum"}};
+    return std::any_of(std::begin(kTwins), std::end(kTwins), [=](const auto& twins) {
+        return (one == twins[0] && other == twins[1]) || (one == twins[1] && other == twins[0]);
+    });
+}
+
+TEST(NamedMaterials, LookAlikeOnlyWhenTheyAreTwoSpellingsOfOne)
+{
+    const auto materials = namedMaterials();
+    for (std::size_t i = 0; i < materials.size(); ++i) {
+        for (std::size_t j = 0; j < i; ++j) {
+            const NamedMaterial& one = materials[i];
+            const NamedMaterial& other = materials[j];
+            SCOPED_TRACE(std::string(one.name.begin(), one.name.end()) + " and " +
+                         std::string(other.name.begin(), other.name.end()));
+            if (areSpellingsOfOne(one.name, other.name)) {
+                EXPECT_EQ(one.preset, other.preset);
+                EXPECT_EQ(one.shading, other.shading);
+            } else {
+                EXPECT_GE(difference(one, other), 0.1F);
+            }
+        }
+    }
 }
 
 } // namespace
