@@ -82,29 +82,29 @@ constexpr Substance kSubstances[] = {
     {L"tigereye", LuminousGlass, Brushed, 0x6A3A0E, 0xFFB52A,
      210, 170, 120,  40,   0,  50, 200, 255,  60,  10, 230, 120,  50,  10,   0},
     // Gems, clear and clouded.
-    {L"diamond", Gemstone, Polished, 0xE2F0FB, 0xFFFFFF,
+    {L"diamond", Gemstone, Polished, 0xF4FAFF, 0xFFFFFF,
      235, 255, 230,   4,   0,   4, 255, 255, 230, 120,  80,  30,  66,  13,  20},
     {L"ruby", Gemstone, Polished, 0xBE0024, 0xFF4060,
      202, 200, 200,   6,   0,  10, 235, 235, 170,  60,  90,  60,  58,  15,  20},
-    {L"sapphire", Gemstone, Polished, 0x0F46C4, 0x4F8CFF,
+    {L"sapphire", Gemstone, Polished, 0x0A46C8, 0x4F8CFF,
      204, 200, 200,   6,   0,  10, 235, 235, 170,  60,  90,  60,  58,  17,  30},
     {L"emerald", Gemstone, Polished, 0x00924E, 0x40E890,
      206, 190, 190,  10,   0,  20, 215, 225, 160,  60,  80,  70,  54,  12,  10},
-    {L"amethyst", Gemstone, Polished, 0x8E48CA, 0xC08CFF,
+    {L"amethyst", Gemstone, Polished, 0x984CCE, 0xC08CFF,
      200, 190, 190,   6,   0,  10, 220, 215, 160,  50, 100,  50,  58,  16,  20},
-    {L"aquamarine", Gemstone, Polished, 0x6FD3DC, 0xC8FBFF,
+    {L"aquamarine", Gemstone, Polished, 0x86E6EC, 0xC8FBFF,
      190, 220, 190,   4,   0,   8, 225, 205, 170,  40,  90,  30,  62,  19,  20},
-    {L"topaz", Gemstone, Polished, 0xEE9A2A, 0xFFE09A,
+    {L"topaz", Gemstone, Polished, 0xFFB236, 0xFFE09A,
      204, 210, 200,   4,   0,   8, 235, 230, 180,  60, 110,  40,  62,  14,  20},
     {L"garnet", BloodGloss, WetGloss, 0x6E0A1E, 0xD02848,
      255, 190, 230,  10,   0,  20, 220, 160, 120,  60,  50, 110,  54,  24,  20},
     {L"opal", LuminousGlass, Default, 0xA9E8DC, 0xFF9EC8,
      190, 150, 110,  60,   0,  30, 180, 120, 170,  40, 230,  20,  64,  26,  40},
-    {L"peridot", Gemstone, Polished, 0x9CC42C, 0xE2FF8A,
+    {L"peridot", Gemstone, Polished, 0xAEDA34, 0xE2FF8A,
      196, 200, 190,   6,   0,  12, 215, 215, 150,  40,  90,  50,  60,  18,  30},
     {L"tourmaline", Gemstone, WetGloss, 0xC62C96, 0x46D08C,
      208, 190, 200,   6,   0,  20, 200, 230, 150,  50, 110,  60,  58,  24,  90},
-    {L"citrine", Gemstone, Polished, 0xF0CE3A, 0xFFF0A0,
+    {L"citrine", Gemstone, Polished, 0xFFE452, 0xFFF0A0,
      192, 220, 190,  20,   0,  12, 220, 205, 150,  40, 110,  40,  62,  21,  20},
     {L"turquoise", StoneMarble, Cracked, 0x30B7B4, 0xA8F4EA,
      175,  90,  60,  40,   6, 110,  70, 150,  40,  20,   0,  70,  50,  11,  20},
@@ -112,12 +112,12 @@ constexpr Substance kSubstances[] = {
      190, 170, 130,  10,   0,  20, 190,  70, 200,  40, 210,  30,  66,  26, 320},
     {L"sunstone", FrostedGlass, Hammered, 0xDC7638, 0xFFC890,
      215, 140,  90,  70,  16,  40, 255, 255, 100,  60, 120,  60,  58,  14,  40},
-    {L"spinel", Gemstone, Polished, 0xE8506E, 0xFF9AB4,
+    {L"spinel", Gemstone, Polished, 0xF45C7C, 0xFF9AB4,
      204, 200, 190,   6,   0,  10, 230, 220, 160,  60,  90,  50,  58,  11,  40},
-    {L"zircon", Gemstone, Polished, 0x4FA8E8, 0xD0F0FF,
+    {L"zircon", Gemstone, Polished, 0x58B6F4, 0xD0F0FF,
      222, 240, 220,   4,   0,   4, 255, 245, 210, 110,  90,  40,  64,  20,  50},
-    {L"tanzanite", Gemstone, Polished, 0x5238BA, 0x9C86FF,
-     206, 190, 200,   6,   0,  10, 230, 230, 160,  50, 100,  60,  56,  22,  60},
+    {L"tanzanite", Gemstone, Polished, 0x5A36B8, 0x9C86FF,
+     206, 190, 200,   6,   0,  10, 200, 230, 160,  50, 100,  60,  56,  22,  60},
     {L"alexandrite", Gemstone, WetGloss, 0x2C7C78, 0xB04890,
      214, 190, 210,   6,   0,  20, 190, 235, 150,  60, 120,  80,  58,  28,  30},
     {L"jade", FrostedGlass, WetGloss, 0x4C9C6C, 0xB4F0C4,
@@ -217,9 +217,7 @@ Color bodyColor(const NamedMaterial& material) noexcept
     const Color tint = material.shading.materialTint;
     if (material.preset != Gemstone)
         return tint;
-    constexpr auto deepened = [](std::uint8_t channel) {
-        return static_cast<std::uint8_t>(channel * 7 / 10);
-    };
+    constexpr auto deepened = [](std::uint8_t channel) { return static_cast<std::uint8_t>(channel * 4 / 5); };
     return rgb(deepened(redOf(tint)), deepened(greenOf(tint)), deepened(blueOf(tint)));
 }
 
