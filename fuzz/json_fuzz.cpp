@@ -1,6 +1,6 @@
 // Any bytes, decoded and read as JSON: what is refused is refused with a place in the text; what is read is
 // well-formed, points back into the text and survives being written and read again.
-#include "tests/support/json_text.h"
+#include "tests/support/written_json.h"
 #include "vela/theme/json.h"
 #include "vela/theme/utf8.h"
 
@@ -63,11 +63,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(cursor > 0 && cursor <= text.size());
     checkTree(document.root(), std::wstring_view(text).substr(0, cursor));
 
-    const std::wstring written = jsonText(document.root());
+    const std::wstring written = writtenJson(document.root());
     JsonDocument again;
-    require(again.read(written) && jsonText(again.root()) == written);
+    require(again.read(written) && writtenJson(again.root()) == written);
     // What follows the value has no say in it.
     JsonDocument alone;
-    require(alone.read(text.substr(0, cursor)) && jsonText(alone.root()) == written);
+    require(alone.read(text.substr(0, cursor)) && writtenJson(alone.root()) == written);
     return 0;
 }

@@ -1,6 +1,6 @@
 #include "vela/theme/json.h"
 
-#include "tests/support/json_text.h"
+#include "tests/support/written_json.h"
 
 #include <clocale>
 #include <limits>
@@ -66,7 +66,7 @@ TEST(Json, ReadsWhatTheGrammarAllows)
         JsonDocument document;
         ASSERT_TRUE(document.read(row.text)) << narrow(row.text) << ": " << document.error().explanation;
         EXPECT_EQ(document.root().kind(), row.kind) << narrow(row.text);
-        EXPECT_EQ(jsonText(document.root()), row.written) << narrow(row.text);
+        EXPECT_EQ(writtenJson(document.root()), row.written) << narrow(row.text);
         EXPECT_TRUE(document.error().explanation.empty());
     }
 }
@@ -333,8 +333,8 @@ TEST(Json, KeepsTheTreeWhenTheTextGoesAndTheDocumentMoves)
     ASSERT_TRUE(document.read(std::wstring(L"{\"name\": \"kept\", \"list\": [1, 2]}")));
     const JsonValue copy = document.root();
     const JsonDocument moved = std::move(document);
-    EXPECT_EQ(jsonText(moved.root()), L"{\"list\":[1,2],\"name\":\"kept\"}");
-    EXPECT_EQ(jsonText(copy), jsonText(moved.root()));
+    EXPECT_EQ(writtenJson(moved.root()), L"{\"list\":[1,2],\"name\":\"kept\"}");
+    EXPECT_EQ(writtenJson(copy), writtenJson(moved.root()));
 }
 
 } // namespace

@@ -10,7 +10,7 @@
 
 namespace vela {
 
-inline std::wstring jsonText(std::wstring_view string)
+inline std::wstring writtenJson(std::wstring_view string)
 {
     std::wstring text = L"\"";
     for (const wchar_t unit : string) {
@@ -28,7 +28,7 @@ inline std::wstring jsonText(std::wstring_view string)
     return text + L'"';
 }
 
-inline std::wstring jsonText(double number)
+inline std::wstring writtenJson(double number)
 {
     if (std::isinf(number))
         return number < 0 ? L"-1e999" : L"1e999";
@@ -37,21 +37,22 @@ inline std::wstring jsonText(double number)
     return {text, text + length};
 }
 
-inline std::wstring jsonText(const JsonValue& value)
+inline std::wstring writtenJson(const JsonValue& value)
 {
     std::wstring text;
     switch (value.kind()) {
     case JsonKind::Null: return L"null";
     case JsonKind::Boolean: return *value.boolean() ? L"true" : L"false";
-    case JsonKind::Number: return jsonText(*value.number());
-    case JsonKind::String: return jsonText(*value.string());
+    case JsonKind::Number: return writtenJson(*value.number());
+    case JsonKind::String: return writtenJson(*value.string());
     case JsonKind::Array:
         for (const JsonValue& item : value.items())
-            text += (text.empty() ? L"" : L",") + jsonText(item);
+            text += (text.empty() ? L"" : L",") + writtenJson(item);
         return L"[" + text + L"]";
     case JsonKind::Object:
         for (const JsonMember& member : value.members())
-            text += (text.empty() ? L"" : L",") + jsonText(member.key()) + L":" + jsonText(member.value);
+            text +=
+                (text.empty() ? L"" : L",") + writtenJson(member.key()) + L":" + writtenJson(member.value);
         return L"{" + text + L"}";
     }
     return text;
