@@ -4,6 +4,7 @@
 #include "vela/theme/json.h"
 #include "vela/theme/spellings.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace vela {
@@ -58,9 +59,10 @@ void appendSkin(std::vector<SkinDefinition>& skins, const JsonValue& value)
 
 std::vector<SkinDefinition> skinsFromArray(const JsonValue& array)
 {
+    const auto items = array.items().first(std::min(array.items().size(), kMaxSkinsPerArray));
     std::vector<SkinDefinition> skins;
-    skins.reserve(array.items().size());
-    for (const JsonValue& item : array.items())
+    skins.reserve(items.size());
+    for (const JsonValue& item : items)
         appendSkin(skins, item);
     return skins;
 }

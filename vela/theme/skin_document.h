@@ -5,6 +5,7 @@
 #include "vela/theme/skin_map.h"
 #include "vela/theme/theme.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -69,6 +70,9 @@ inline constexpr SkinKey kSkinKeys[] = {
 // Reads one skin over the definition: only what is present and readable changes. False, with the definition
 // unchanged, when the value is not an object.
 bool readSkin(const JsonValue& value, SkinDefinition& skin);
+
+// More than anybody writes: a few megabytes of "{}" would otherwise become gigabytes of skins.
+inline constexpr std::size_t kMaxSkinsPerArray = 4096;
 
 // The skins of a document: those of the array "skins", or the one under "skin", or the root object itself, or
 // the elements of a root array.
