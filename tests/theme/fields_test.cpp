@@ -106,6 +106,7 @@ Sample sampleFor(FieldKind kind)
     switch (kind) {
     case FieldKind::ColorValue: return {"#123456", sizeof(Color)};
     case FieldKind::Byte: return {"201", 1};
+    case FieldKind::Length:
     case FieldKind::Integer: return {"-4321", sizeof(std::int32_t)};
     case FieldKind::Unsigned: return {"4000000000", sizeof(std::uint32_t)};
     case FieldKind::Weight: return {"heavy", sizeof(std::int32_t)};

@@ -9,10 +9,10 @@ struct ScrollAccelerationRows {
     using Record = ScrollAcceleration;
     static constexpr Field kRows[] = {
         VELA_FIELD(enabled, "enabled enable"),
-        VELA_FIELD(strength, "strength factor"),
-        VELA_FIELD(maxMultiplier, "maxMultiplier maximumMultiplier"),
-        VELA_FIELD(fastIntervalMs, "fastIntervalMs referenceIntervalMs"),
-        VELA_FIELD(resetMs, "resetMs burstResetMs"),
+        VELA_FIELD(strength, "strength factor", FieldKind::Integer),
+        VELA_FIELD(maxMultiplier, "maxMultiplier maximumMultiplier", FieldKind::Integer),
+        VELA_FIELD(fastIntervalMs, "fastIntervalMs referenceIntervalMs", FieldKind::Integer),
+        VELA_FIELD(resetMs, "resetMs burstResetMs", FieldKind::Integer),
     };
 };
 

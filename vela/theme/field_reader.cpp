@@ -105,6 +105,7 @@ bool readText(const Field& field, std::wstring_view text, void* record, void* pl
     case FieldKind::ColorGiven:
         return assign<bool>(place, parseColor(text) ? std::optional(true) : std::nullopt);
     case FieldKind::Byte: return assign<std::uint8_t>(place, parseByte(text));
+    case FieldKind::Length:
     case FieldKind::Integer: return assign<std::int32_t>(place, leadingInteger(text));
     case FieldKind::Unsigned: return assign<std::uint32_t>(place, leadingUnsigned(text));
     case FieldKind::Boolean: return assign<bool>(place, parseBoolean(text));

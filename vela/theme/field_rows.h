@@ -30,7 +30,7 @@ constexpr FieldKind kindOf() noexcept
     else if constexpr (std::is_same_v<T, std::uint8_t>)
         return FieldKind::Byte;
     else if constexpr (std::is_same_v<T, std::int32_t>)
-        return FieldKind::Integer;
+        return FieldKind::Length;
     else if constexpr (std::is_same_v<T, std::wstring>)
         return FieldKind::Text;
     else if constexpr (std::is_same_v<T, std::optional<PaletteRole>>)

@@ -16,7 +16,8 @@ enum class FieldKind : std::uint8_t {
     ColorValue, // Color
     ColorGiven, // bool, set by the mere presence of a colour
     Byte,       // std::uint8_t, clamped
-    Integer,    // std::int32_t
+    Length,     // std::int32_t, pixels at 96 DPI: it grows with the DPI
+    Integer,    // std::int32_t that does not: degrees, counts, points
     Unsigned,   // std::uint32_t
     Boolean,    // bool
     Weight,     // std::int32_t, a name or 100 to 900

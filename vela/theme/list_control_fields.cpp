@@ -28,7 +28,7 @@ struct SelectBoxRows {
         VELA_FIELD(arrowColor, "arrowColor"),
         VELA_FIELD(arrowWidth, "arrowWidth"),
         VELA_FIELD(itemHeight, "itemHeight"),
-        VELA_FIELD(maxVisibleItems, "maxVisibleItems"),
+        VELA_FIELD(maxVisibleItems, "maxVisibleItems", FieldKind::Integer),
         VELA_FIELD(dropdownGap, "dropdownGap"),
         VELA_FIELD(dropdownPadding, "dropdownPadding"),
         VELA_FIELD(dropdownItemPaddingX, "dropdownItemPaddingX"),

@@ -38,11 +38,11 @@ struct ShadingRows {
         VELA_FIELD(innerShadow, "innerShadow innerShadowOpacity insetShadow"),
         VELA_FIELD(textureOpacity, "textureOpacity textureStrength textureMix"),
         VELA_FIELD(materialScale, "materialScale"),
-        VELA_FIELD(materialAngle, "materialAngle"),
-        VELA_FIELD(materialLightAngle, "materialLightAngle lightAngle"),
+        VELA_FIELD(materialAngle, "materialAngle", FieldKind::Integer),
+        VELA_FIELD(materialLightAngle, "materialLightAngle lightAngle", FieldKind::Integer),
         VELA_FIELD(lightBlobScale, "lightBlobScale"),
-        VELA_FIELD(lightBlobAngle, "lightBlobAngle"),
-        VELA_FIELD(animationSpeed, "animationSpeed"),
+        VELA_FIELD(lightBlobAngle, "lightBlobAngle", FieldKind::Integer),
+        VELA_FIELD(animationSpeed, "animationSpeed", FieldKind::Integer),
         VELA_FIELD(innerShadowSize, "innerShadowSize innerShadowRadius insetShadowSize"),
     };
 };

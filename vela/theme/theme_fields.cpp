@@ -12,7 +12,7 @@ struct FontRows {
     using Record = FontSpec;
     static constexpr Field kRows[] = {
         VELA_FIELD(family, "fontFamily"),
-        VELA_FIELD(pointSize, "pointSize"),
+        VELA_FIELD(pointSize, "pointSize", FieldKind::Integer),
         VELA_FIELD(weight, "weight", FieldKind::Weight, &kWeightWords),
         VELA_FIELD(color, "color"),
         VELA_FIELD(disabledColor, "disabledColor"),
@@ -34,7 +34,7 @@ struct ProfileRows {
         VELA_FIELD(materialStrength, "strength"),
         VELA_BASE(MaterialShading, finish),
         VELA_FIELD(materialScale, "scale"),
-        VELA_FIELD(materialAngle, "angle"),
+        VELA_FIELD(materialAngle, "angle", FieldKind::Integer),
         VELA_BASE(SurfaceMapping, uvMapping),
     };
 };
@@ -66,10 +66,10 @@ struct ThemeRows {
     static constexpr Field kRows[] = {
         VELA_WHOLE(".", FieldKind::Record, &kPaletteFields),
         VELA_FIELD(uiFont.family, "uiFontFamily"),
-        VELA_FIELD(uiFont.pointSize, "uiPointSize"),
+        VELA_FIELD(uiFont.pointSize, "uiPointSize", FieldKind::Integer),
         VELA_FIELD(uiFont.weight, "uiWeight", FieldKind::Weight, &kWeightWords),
         VELA_FIELD(monoFont.family, "monoFontFamily"),
-        VELA_FIELD(monoFont.pointSize, "monoPointSize"),
+        VELA_FIELD(monoFont.pointSize, "monoPointSize", FieldKind::Integer),
         VELA_FIELD(monoFont.weight, "monoWeight", FieldKind::Weight, &kWeightWords),
     };
 };

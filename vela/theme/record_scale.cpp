@@ -1,0 +1,57 @@
+#include "vela/theme/record_scale.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace vela {
+
+namespace {
+
+constexpr std::int32_t kDesignDpi = 96;
+
+void scaleField(std::byte* record, const Field& field, std::int32_t dpi)
+{
+    std::byte* const place = record + field.offset;
+    switch (field.kind) {
+    case FieldKind::Length: {
+        auto& length = *reinterpret_cast<std::int32_t*>(place);
+        length = scaledLength(length, dpi);
+        break;
+    }
+    case FieldKind::Record: scaleRecord(place, tableOf(field), dpi); break;
+    case FieldKind::States:
+        for (int state = 0; state < kVisualStateCount; ++state)
+            scaleRecord(place + static_cast<std::size_t>(state) * tableOf(field).recordSize, tableOf(field),
+                        dpi);
+        break;
+    default: break; // insets count the pixels of a bitmap, everything else is no length
+    }
+}
+
+} // namespace
+
+std::int32_t scaledLength(std::int32_t designPixels, std::int32_t dpi) noexcept
+{
+    if (dpi <= 0 || dpi == kDesignDpi || designPixels == 0)
+        return designPixels;
+    const std::int64_t product = std::int64_t{designPixels} * dpi;
+    const std::int64_t rounded = (product + (product < 0 ? -kDesignDpi / 2 : kDesignDpi / 2)) / kDesignDpi;
+    const std::int64_t visible = rounded != 0 ? rounded : (designPixels < 0 ? -1 : 1);
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(visible, INT32_MIN, INT32_MAX));
+}
+
+void scaleRecord(void* record, const FieldTable& table, std::int32_t dpi)
+{
+    if (dpi == kDesignDpi)
+        return;
+    // Several rows may describe one member under different keys: each member is scaled once.
+    for (const Field& field : table.fields) {
+        const bool described = std::any_of(table.fields.data(), &field, [&field](const Field& earlier) {
+            return earlier.offset == field.offset && earlier.kind == field.kind;
+        });
+        if (!described)
+            scaleField(static_cast<std::byte*>(record), field, dpi);
+    }
+}
+
+} // namespace vela
