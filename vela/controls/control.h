@@ -141,6 +141,7 @@ protected:
     // Children that can be seen, in painting order; rebuilt when the order is dirty.
     const std::vector<Control*>& visibleChildren() const;
     Point contentOrigin() const noexcept;
+    std::int32_t dpi() const noexcept { return dpi_; }
     std::int32_t scaled(std::int32_t designPixels) const noexcept;
 
 private:

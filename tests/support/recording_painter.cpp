@@ -1,0 +1,66 @@
+#ifndef _WIN32 // the product's own renderer is linked there
+#include "tests/support/recording_painter.h"
+
+#include "vela/render/mark_painter.h"
+#include "vela/render/paint_clip.h"
+#include "vela/render/surface_painter.h"
+#include "vela/render/text.h"
+
+#include <utility>
+
+namespace vela {
+
+namespace {
+
+std::vector<testing::PaintCall>& calls()
+{
+    static std::vector<testing::PaintCall> recorded;
+    return recorded;
+}
+
+std::int32_t unitWidth(std::int32_t dpi) { return 8 * dpi / 96; }
+
+} // namespace
+
+std::vector<testing::PaintCall> testing::takePaintCalls() { return std::exchange(calls(), {}); }
+
+void paintSurface(HDC, const Rect& rect, const SurfaceStyle& style)
+{
+    calls().push_back({L"surface", rect, {}, style, style.fill});
+}
+
+void drawText(HDC, const Rect& rect, std::wstring_view text, const FontSpec& font, std::int32_t,
+              TextLook look)
+{
+    const Color color = look.tone == TextTone::Enabled ? font.color : font.disabledColor;
+    calls().push_back({L"text", rect, std::wstring(text), {}, color});
+}
+
+std::int32_t measureTextWidth(std::wstring_view text, const FontSpec&, std::int32_t dpi)
+{
+    return static_cast<std::int32_t>(text.size()) * unitWidth(dpi);
+}
+
+std::int32_t lineHeight(const FontSpec&, std::int32_t dpi) { return 2 * unitWidth(dpi); }
+
+void paintGlyph(HDC, Glyph, const Rect& box, std::int32_t, Color color)
+{
+    calls().push_back({L"glyph", box, {}, {}, color});
+}
+
+void paintFocusRing(HDC, const Rect& rect, ShapeKind, std::int32_t, Color color)
+{
+    calls().push_back({L"ring", rect, {}, {}, color});
+}
+
+void paintProgressFill(HDC, const Rect& track, const SurfaceStyle& fill, float end)
+{
+    calls().push_back(
+        {L"progress", {track.x, track.y, static_cast<std::int32_t>(end), track.height}, {}, fill, fill.fill});
+}
+
+PaintClip::PaintClip(HDC dc, const std::vector<Rect>&) : dc_(dc), saved_(0) {}
+PaintClip::~PaintClip() = default;
+
+} // namespace vela
+#endif

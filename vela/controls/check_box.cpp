@@ -1,0 +1,122 @@
+#include "vela/controls/check_box.h"
+
+#include "vela/render/mark_painter.h"
+#include "vela/render/surface_painter.h"
+#include "vela/render/text.h"
+#include "vela/theme/record_scale.h"
+#include "vela/theme/style_sheet.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vela {
+
+namespace {
+
+constexpr struct {
+    std::wstring_view word;
+    bool checked;
+} kCheckedWords[] = {{L"true", true},   {L"1", true},  {L"yes", true},
+                     {L"false", false}, {L"0", false}, {L"no", false}};
+
+constexpr const wchar_t* asText(bool checked) noexcept { return checked ? L"true" : L"false"; }
+
+} // namespace
+
+CheckBox::CheckBox(std::wstring id, Rect bounds, std::wstring text)
+    : Pressable(std::move(id), bounds), text_(std::move(text))
+{
+}
+
+bool CheckBox::applyStyle(const StyleSheet& styles)
+{
+    style_ = scaledToDpi(styles.find<CheckBoxStyle>(styleKey()), dpi());
+    invalidate(InvalidationReason::State);
+    return true;
+}
+
+const SurfaceStyle& CheckBox::boxSurface() const noexcept
+{
+    using Look = SurfaceStyle CheckBoxStyle::*;
+    static constexpr Look kUnchecked[] = {&CheckBoxStyle::boxUnchecked, &CheckBoxStyle::boxUncheckedHot,
+                                          &CheckBoxStyle::boxUncheckedPressed,
+                                          &CheckBoxStyle::boxUncheckedDisabled};
+    static constexpr Look kChecked[] = {&CheckBoxStyle::boxChecked, &CheckBoxStyle::boxCheckedHot,
+                                        &CheckBoxStyle::boxCheckedPressed,
+                                        &CheckBoxStyle::boxCheckedDisabled};
+    const int look = !isEnabled() ? 3 : isPressed() ? 2 : isHot() ? 1 : 0;
+    return style_.*(checked_ ? kChecked : kUnchecked)[look];
+}
+
+Rect CheckBox::boxRect() const noexcept
+{
+    const std::int32_t side = std::min(style_.boxSize, std::max(bounds().height, 0));
+    return {0, (bounds().height - side) / 2, side, side};
+}
+
+void CheckBox::paint(HDC dc, Point origin)
+{
+    const Rect all = movedBy(bounds(), origin);
+    const Rect box = movedBy(boxRect(), {all.x, all.y});
+    paintSurface(dc, box, boxSurface());
+    if (checked_)
+        paintGlyph(dc, Glyph::Check, box, dpi(), isEnabled() ? style_.checkColor : style_.text.disabledColor);
+    const TextTone tone = isEnabled() ? TextTone::Enabled : TextTone::Disabled;
+    const Rect caption{all.x + style_.textLeft, all.y, std::max(all.width - style_.textLeft, 0), all.height};
+    drawText(dc, caption, text_, style_.text, dpi(), {tone, TextAlign::Left, TextWrap::SingleLine});
+    if (hasFocus() && window()->showsFocus())
+        paintFocusRing(dc, movedBy(focusBounds(), {all.x, all.y}), ShapeKind::RoundedRect, dpi(),
+                       style_.text.color);
+}
+
+// The ring goes around box and caption, not around the empty rest of the row.
+Rect CheckBox::focusBounds() const
+{
+    const std::int32_t end = style_.textLeft + measureTextWidth(text_, style_.text, dpi()) + scaled(4);
+    return {-scaled(4), 0, std::min(end, bounds().width) + scaled(4), bounds().height};
+}
+
+void CheckBox::activate()
+{
+    if (!isEnabled())
+        return;
+    CommandEvent event;
+    event.control = this;
+    event.controlId = id();
+    event.action = L"change";
+    event.text = text_;
+    event.oldChecked = checked_;
+    event.newChecked = !checked_;
+    event.oldValue = asText(event.oldChecked);
+    event.newValue = asText(event.newChecked);
+    setChecked(event.newChecked);
+    if (window())
+        window()->dispatchCommand(event);
+    if (!changed_)
+        return;
+    const ChangeHandler handler = changed_;
+    handler(event);
+}
+
+PropertyList CheckBox::properties() const { return {{L"checked", asText(checked_)}}; }
+
+void CheckBox::setProperty(std::wstring_view name, std::wstring_view value)
+{
+    if (name != L"checked")
+        return;
+    const auto* const row = std::find_if(std::begin(kCheckedWords), std::end(kCheckedWords),
+                                         [value](const auto& candidate) { return candidate.word == value; });
+    if (row != std::end(kCheckedWords))
+        setChecked(row->checked);
+}
+
+AccessibleInfo CheckBox::accessibleInfo() const
+{
+    AccessibleInfo info = Control::accessibleInfo();
+    info.role = AccessibleRole::CheckBox;
+    info.action = AccessibleAction::Toggle;
+    info.checked = checked_;
+    return info;
+}
+
+} // namespace vela

@@ -1,0 +1,88 @@
+#include "vela/controls/progress_bar.h"
+
+#include "vela/render/mark_painter.h"
+#include "vela/render/shape.h"
+#include "vela/render/surface_painter.h"
+#include "vela/render/text.h"
+#include "vela/text.h"
+#include "vela/theme/record_scale.h"
+#include "vela/theme/style_sheet.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vela {
+
+namespace {
+
+Rect insetBy(const Rect& rect, std::int32_t x, std::int32_t y) noexcept
+{
+    return {rect.x + x, rect.y + y, std::max(rect.width - 2 * x, 0), std::max(rect.height - 2 * y, 0)};
+}
+
+} // namespace
+
+float progressEnd(std::int32_t trackWidth, std::int32_t percent) noexcept
+{
+    return static_cast<float>(trackWidth) * static_cast<float>(std::clamp(percent, 0, 100)) / 100.0F;
+}
+
+bool ProgressBar::applyStyle(const StyleSheet& styles)
+{
+    style_ = scaledToDpi(styles.find<ProgressBarStyle>(styleKey()), dpi());
+    invalidate(InvalidationReason::State);
+    return true;
+}
+
+std::wstring ProgressBar::text() const { return std::to_wstring(value_) + L"%"; }
+
+void ProgressBar::paint(HDC dc, Point origin)
+{
+    const Rect all = movedBy(bounds(), origin);
+    const std::int32_t labelRoom = showsLabel_ ? std::min(style_.labelWidth, all.width) : 0;
+    const Rect bar{all.x, all.y, all.width - labelRoom, all.height};
+    const Rect track = insetBy(bar, style_.insetX, style_.insetY);
+    paintSurface(dc, bar, style_.frame);
+    paintSurface(dc, track, style_.track);
+    paintProgressFill(dc, track, style_.fill, progressEnd(track.width, value_));
+    if (showsLabel_) {
+        const Rect label{bar.x + bar.width + style_.labelPadding, all.y,
+                         std::max(labelRoom - style_.labelPadding, 0), all.height};
+        drawText(
+            dc, label, text(), style_.labelText, dpi(),
+            {isEnabled() ? TextTone::Enabled : TextTone::Disabled, TextAlign::Right, TextWrap::SingleLine});
+    }
+}
+
+bool ProgressBar::containsLocal(Point point) const
+{
+    return Control::containsLocal(point) &&
+           pointInShape(style_.frameShape, bounds().width, bounds().height, point);
+}
+
+PropertyList ProgressBar::properties() const { return {{L"value", std::to_wstring(value_)}}; }
+
+void ProgressBar::setProperty(std::wstring_view name, std::wstring_view value)
+{
+    if (name == L"value")
+        setValue(leadingInteger(value).value_or(value_));
+}
+
+void ProgressBar::setValue(std::int32_t percent)
+{
+    const std::int32_t clamped = std::clamp(percent, 0, 100);
+    if (std::exchange(value_, clamped) != clamped)
+        invalidate(InvalidationReason::State);
+}
+
+AccessibleInfo ProgressBar::accessibleInfo() const
+{
+    AccessibleInfo info = Control::accessibleInfo();
+    info.role = AccessibleRole::ProgressBar;
+    info.value = text();
+    info.name.clear();
+    info.busy = value_ < 100;
+    return info;
+}
+
+} // namespace vela

@@ -1,0 +1,22 @@
+// Small smooth things drawn straight onto a device context: marks, rings around the focus, the fill of a
+// progress bar. Device pixels; the pixels themselves are made in smooth.h.
+#pragma once
+
+#include "vela/geometry.h"
+#include "vela/platform_handles.h"
+#include "vela/render/smooth.h"
+#include "vela/theme/surface_style.h"
+
+#include <cstdint>
+
+namespace vela {
+
+void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color);
+
+// A band along the inside of the shape's outline, as wide as the DPI asks for.
+void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi, Color color);
+
+// The fill's surface from the track's left edge to `end` pixels, which may be a fraction.
+void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end);
+
+} // namespace vela
