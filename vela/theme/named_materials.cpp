@@ -217,7 +217,9 @@ Color bodyColor(const NamedMaterial& material) noexcept
     const Color tint = material.shading.materialTint;
     if (material.preset != Gemstone)
         return tint;
-    constexpr auto deepened = [](std::uint8_t channel) { return static_cast<std::uint8_t>(channel * 4 / 5); };
+    constexpr auto deepened = [](std::uint8_t channel) {
+        return static_cast<std::uint8_t>(channel * 7 / 10);
+    };
     return rgb(deepened(redOf(tint)), deepened(greenOf(tint)), deepened(blueOf(tint)));
 }
 
