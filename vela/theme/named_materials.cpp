@@ -34,19 +34,30 @@ struct Substance {
 using enum MaterialPreset;
 using enum MaterialFinish;
 
+constexpr Substance respelt(Substance substance, std::wstring_view name)
+{
+    substance.name = name;
+    return substance;
+}
+
 // Polished metals wear the wet finish for its sharp band of reflected light; facets of cut gems grow as the
 // scale falls; a large depth roughens, because relief follows the grain.
 // clang-format off
+// name, preset, finish, tint, backlight
+// str  hil  ref  grn  dep  rou  spc  tex  rim wear glow  occ elev scal angle
+constexpr Substance kMarble =
+    {L"marble", StoneMarble, Polished, 0xEBE8E2, 0xFFFFFF,
+     205, 150,  60,  10,   0,  40, 170, 235,  60,  10,  20,  40,  58,  30,  20};
+constexpr Substance kAluminium =
+    {L"aluminium", BrushedMetal, Brushed, 0xC6CBD0, 0xFFFFFF,
+     200, 160, 200,  60,   6, 100, 150, 220,  60,  50,   0,  60,  54,  16,   0};
+
 constexpr Substance kSubstances[] = {
-    // name, preset, finish, tint, backlight
-    // str  hil  ref  grn  dep  rou  spc  tex  rim wear glow  occ elev scal angle
     // Stones, polished or as quarried.
     {L"zula", StoneGranite, Hammered, 0x9A948F, 0xD8D0C8,
      250, 110, 110,  60,  34, 200,  10, 255,  20,  30,   0,  60,  52,   9,   0},
-    {L"marble", StoneMarble, Polished, 0xEBE8E2, 0xFFFFFF,
-     205, 150,  60,  10,   0,  40, 170, 235,  60,  10,  20,  40,  58,  30,  20},
-    {L"mramor", StoneMarble, Polished, 0xEBE8E2, 0xFFFFFF,
-     205, 150,  60,  10,   0,  40, 170, 235,  60,  10,  20,  40,  58,  30,  20},
+    kMarble,
+    respelt(kMarble, L"mramor"),
     {L"slate", ObsidianRelief, Rough, 0x49535D, 0x8FA0AE,
      215, 120, 150, 110,  60, 230,  30, 235,  60,  60,   0, 110,  36,  26,   8},
     {L"basalt", StoneGranite, Rough, 0x303236, 0x6A6E74,
@@ -137,10 +148,8 @@ constexpr Substance kSubstances[] = {
      230, 190, 255,  10,   0,  50, 210,  60,  70,  70,   0,  80,  56,  24,  20},
     {L"titanium", BrushedMetal, Matte, 0x7D7A74, 0xC8D0DC,
      215, 150, 190,  80,  44, 140, 110,  60,  50,  50,   0,  90,  46,  14,   0},
-    {L"aluminium", BrushedMetal, Brushed, 0xC6CBD0, 0xFFFFFF,
-     200, 160, 200,  60,   6, 100, 150, 220,  60,  50,   0,  60,  54,  16,   0},
-    {L"aluminum", BrushedMetal, Brushed, 0xC6CBD0, 0xFFFFFF,
-     200, 160, 200,  60,   6, 100, 150, 220,  60,  50,   0,  60,  54,  16,   0},
+    kAluminium,
+    respelt(kAluminium, L"aluminum"),
     {L"magnesium", Metal, Matte, 0xA3A5A0, 0xE8EAE4,
      190,  90, 130, 120,  70, 190,  50,  60,  30,  20,   0,  60,  48,  10,   0},
     {L"copper", Metal, WetGloss, 0xB5643A, 0xFFBE90,
