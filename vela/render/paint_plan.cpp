@@ -2,6 +2,7 @@
 
 #include "vela/render/gradient.h"
 #include "vela/render/inner_shadow.h"
+#include "vela/render/lengths.h"
 #include "vela/render/noise.h"
 #include "vela/render/solid_layer.h"
 #include "vela/render/spatial_shading.h"
@@ -15,13 +16,6 @@ namespace {
 std::int32_t mulDiv(std::int64_t a, std::int64_t b, std::int64_t c) noexcept
 {
     return static_cast<std::int32_t>((a * b + c / 2) / c);
-}
-
-// Skins choose lengths freely; none reaches further than any screen does.
-std::int32_t sane(std::int32_t length) noexcept
-{
-    constexpr std::int32_t kFarthest = 1 << 20;
-    return std::clamp(length, -kFarthest, kFarthest);
 }
 
 Rect grownBy(const Rect& rect, std::int32_t growth) noexcept
@@ -70,7 +64,7 @@ void Planner::addGlow()
 {
     if (!style_.showGlow || style_.glowOpacity == 0)
         return;
-    const std::int32_t radius = sane(style_.glowRadius);
+    const std::int32_t radius = limitedLength(style_.glowRadius);
     const std::int32_t rings = std::min(radius, PaintPlan::kMostGlowRings);
     for (std::int32_t ring = rings; ring >= 1; --ring) {
         const std::int32_t growth = std::max(mulDiv(radius, ring, rings), 1);
@@ -83,8 +77,8 @@ void Planner::addShadow()
 {
     if (!style_.showShadow || style_.shadowOpacity == 0)
         return;
-    const Rect moved{rect_.x + sane(style_.shadowOffsetX), rect_.y + sane(style_.shadowOffsetY), rect_.width,
-                     rect_.height};
+    const Rect moved{rect_.x + limitedLength(style_.shadowOffsetX),
+                     rect_.y + limitedLength(style_.shadowOffsetY), rect_.width, rect_.height};
     add({SurfaceLayer::Shadow, moved, style_.shadow, style_.shadowOpacity});
 }
 

@@ -1,0 +1,30 @@
+// What a bitmap-skinned surface makes of its bitmap beside painting it: the outline of its layers, its hit
+// test and the room it leaves for what lies on it.
+#pragma once
+
+#include "vela/render/bitmap_skin.h"
+
+#include <optional>
+
+namespace vela {
+
+// The bitmaps of one surface; null where there is none or it could not be loaded. Borrowed.
+struct SurfaceBitmaps {
+    const SkinBitmap* skin = nullptr;
+    const SkinBitmap* mask = nullptr;
+};
+
+// The mode in effect: without the bitmap that it needs, the shape decides.
+AlphaHitMode alphaHitMode(const SurfaceStyle& style, const SurfaceBitmaps& bitmaps) noexcept;
+
+// The outline that a bitmap gives the surface's layers and its window; none when its shape does.
+std::optional<RunMask> bitmapOutline(const SurfaceStyle& style, Size surface, const SurfaceBitmaps& bitmaps);
+
+// Whether the pixel of the surface reacts to the pointer.
+bool hitSurface(const SurfaceStyle& style, Size surface, Point point, const SurfaceBitmaps& bitmaps);
+
+// The columns free for content at a height: common to all rows of its band (a band is as high as the geometry
+// says, or the whole outline when it says nothing), within the layout insets.
+Span layoutColumns(const SurfaceGeometry& geometry, const RunMask& outline, std::int32_t y);
+
+} // namespace vela
