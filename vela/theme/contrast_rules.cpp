@@ -83,7 +83,6 @@ constexpr Rule<List> kListRules[] = {
      {&List::selectedRow, &List::selectedRowHot},
      &List::surface},
     {"disabled text", Need::DisabledText, &List::disabledText, {&List::row}, &List::surface},
-    {"edge", Need::Edge, {}, {&List::surface}},
     {"selected rail", Need::Edge, {}, {&List::selectedRail}, &List::selectedRow},
 };
 
@@ -157,7 +156,6 @@ constexpr Rule<Table> kTableRules[] = {
     {"row", Need::Text, &Table::rowText, {&Table::row}, &Table::surface},
     {"selected row", Need::Text, &Table::selectedText, {&Table::selectedRow}, &Table::surface},
     {"heading", Need::Text, &Table::headerText, {&Table::header}},
-    {"edge", Need::Edge, {}, {&Table::surface}},
     {"selected rail", Need::Edge, {}, {&Table::selectedRail}, &Table::selectedRow},
     {"sort indicator", Need::Mark, &Table::sortIndicator, {&Table::header}},
     {"hot sort indicator", Need::Mark, &Table::sortIndicatorHot, {&Table::header}},

@@ -17,10 +17,9 @@ Faces standardFaces(const DeriveContext& context, const Bed& bed)
 {
     const PerState<Color>& fills = context.control;
     const Color edge = context.mark(context.edge, bed.tones);
-    const Color hotEdge = mixed(edge, context.strongText, 0.28F);
     const Color activeEdge = context.mark(context.theme.accent, bed.tones);
     return {.normal = controlFace(fills.normal, edge, Form::Raised),
-            .hot = controlFace(fills.hot, context.mark(hotEdge, bed.tones), Form::Raised),
+            .hot = controlFace(fills.hot, context.mark(context.hotEdge, bed.tones), Form::Raised),
             .pressed = controlFace(fills.pressed, edge, Form::Pressed),
             .disabled = controlFace(fills.disabled, context.quietEdge, Form::Plate),
             .active = controlFace(fills.active, activeEdge, Form::Pressed)};
@@ -81,12 +80,14 @@ Faces solidFaces(const DeriveContext& context, Hue hue, const Bed& bed)
     const Color solid = context.solid(hue);
     const Color hot =
         hue == Hue::Accent ? context.theme.accentHot : lightened(solid, context.dark ? 0.05F : -0.05F);
-    const auto face = [&](Color wanted, Form form, std::initializer_list<Color> others) {
-        return solidFace(context, context.stateFill(wanted, form, others), bed, form);
-    };
     Faces faces = standardFaces(context, bed);
-    faces.normal = face(solid, Form::Raised, {});
+    faces.normal = solidFace(context, context.stateFill(solid, Form::Raised, {}), bed);
     const Color normal = faces.normal.fill;
+    // The caption keeps its colour while the button is used.
+    const Color ink = context.inkOn(context.shades(normal, Form::Raised));
+    const auto face = [&](Color wanted, Form form, std::initializer_list<Color> others) {
+        return solidFace(context, context.fillUnder(ink, normal, wanted, form, others), bed, form);
+    };
     faces.hot = face(hot, Form::Raised, {normal});
     faces.pressed = face(mixed(solid, bed.fill, 0.2F), Form::Pressed, {normal, faces.hot.fill});
     faces.active = face(mixed(solid, context.strongText, 0.15F), Form::Pressed,

@@ -29,17 +29,19 @@ constexpr StatusHue kStatusHues[] = {
     {Hue::Danger, 0.91F, 0.42F, 0.18F, 0.52F, 0.64F},
 };
 constexpr float kPull = 0.14F; // how far a status hue leans towards the theme's accent
+constexpr float kHuesApart = 0.09F;
+constexpr float kAside = 0.11F;
 
-Color statusColor(const StatusHue& status, Color accent)
+Color statusColor(const StatusHue& status, Color accent, bool dark)
 {
     const Oklab lead = oklabOf(accent);
     const float a = status.a + kPull * lead.a / 0.15F;
     const float b = status.b + kPull * lead.b / 0.15F;
     const float chroma = status.chroma / std::sqrt(a * a + b * b);
     Oklab lab = {std::clamp(lead.lightness, status.darkest, status.lightest), a * chroma, b * chroma};
-    // A status must not pass for the accent itself.
-    if (visualDistance(colorOf(lab), accent) < 0.09F)
-        lab.lightness += lead.lightness > (status.darkest + status.lightest) / 2 ? -0.11F : 0.11F;
+    // A status must not pass for the accent itself: in the light it gets deeper, in the dark it steps aside.
+    if (visualDistance(colorOf(lab), accent) < kHuesApart)
+        lab.lightness += dark && lead.lightness < (status.darkest + status.lightest) / 2 ? kAside : -kAside;
     return colorOf(lab);
 }
 
@@ -78,6 +80,7 @@ DeriveContext::DeriveContext(const Theme& theme_)
       textAim((kTextContrast + kRimOfRatio) * (materials ? kMaterialRoom : 1)),
       markAim((kMarkContrast + kRimOfRatio) * (materials ? kMaterialRoom : 1))
 {
+    dark = strongestOn(theme.panel) == hexColor(0xFFFFFF);
     resolveHues();
     resolveGrounds();
     resolveInks();
@@ -89,7 +92,7 @@ void DeriveContext::resolveHues()
     solids_[static_cast<int>(Hue::Neutral)] = theme.control;
     solids_[static_cast<int>(Hue::Accent)] = theme.accent;
     for (const StatusHue& status : kStatusHues)
-        solids_[static_cast<int>(status.hue)] = statusColor(status, theme.accent);
+        solids_[static_cast<int>(status.hue)] = statusColor(status, theme.accent, dark);
 }
 
 void DeriveContext::resolveGrounds()
@@ -112,7 +115,7 @@ void DeriveContext::resolveGrounds()
                .card = near(theme.control, 0.024F),
                .raisedCard = near(theme.control, 0.036F),
                .dashboard = near(theme.shell, 0.030F),
-               .dangerPopup = near(solid(Hue::Danger), 0.020F)};
+               .dangerPopup = near(solid(Hue::Danger), 0.009F)};
     header.fill = groundFill(theme.header);
     header.tones = shades(header.fill, Form::Ground);
 }
@@ -124,6 +127,7 @@ void DeriveContext::resolveInks()
     mutedText = readable({theme.mutedText}, ground.tones);
     disabledText = faint(text, ground.tones);
     edge = mark(theme.border, ground.tones);
+    hotEdge = mark(mixed(edge, strongText, 0.16F), ground.tones);
     quietEdge = mixed(ground.fill, edge, 0.45F);
     hairline = towards(ground.fill, theme.border, 0.16F);
     inks_[static_cast<int>(Hue::Neutral)] = text;
@@ -164,13 +168,15 @@ Color DeriveContext::stateFill(Color wanted, Form form, std::initializer_list<Co
 Color DeriveContext::fillUnder(Color ink, Color base, Color wanted, Form form,
                                std::initializer_list<Color> others) const noexcept
 {
-    const auto fits = [&](Color color) {
-        return isApart(color, others) && contrastRatio(ink, shades(color, form)) >= textAim;
-    };
+    const auto legible = [&](Color color) { return contrastRatio(ink, shades(color, form)) >= textAim; };
+    const auto fits = [&](Color color) { return isApart(color, others) && legible(color); };
     for (const float amount : {1.0F, 0.6F, 0.35F, 0.2F, 0.1F}) {
         const Color color = mixed(base, wanted, amount);
-        if (fits(color))
-            return color;
+        if (!legible(color))
+            continue;
+        const Color distinct = nearestFitting(color, fits);
+        if (fits(distinct))
+            return distinct;
     }
     return nearestFitting(base, fits);
 }
@@ -205,7 +211,7 @@ Color DeriveContext::inkOn(const Tones& on) const noexcept
     const Color roles[] = {theme.text, theme.textHot, theme.shell, theme.panel, theme.control};
     const Color strongest =
         *std::ranges::max_element(roles, {}, [&on](Color role) { return contrastRatio(role, on); });
-    return reaching(strongest, on, textAim);
+    return reaching(strongest, on, textAim * kInkRoom);
 }
 
 Color DeriveContext::mark(Color wanted, const Tones& on) const noexcept

@@ -50,7 +50,8 @@ public:
     Color strongText = 0;
     Color mutedText = 0;
     Color disabledText = 0;
-    Color edge = 0;      // the border of a control
+    Color edge = 0; // the border of a control
+    Color hotEdge = 0;
     Color quietEdge = 0; // the border of a disabled control
     Color hairline = 0;  // separators and the edges of panels
     Color focus = 0;     // focus rings

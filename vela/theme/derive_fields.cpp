@@ -49,11 +49,6 @@ SurfaceStyle focusedField(const DeriveContext& context, Color fill, ShapeKind sh
     return surface;
 }
 
-Color hotEdge(const DeriveContext& context)
-{
-    return context.mark(mixed(context.edge, context.strongText, 0.28F), context.ground.tones);
-}
-
 void addAttachments(const DeriveContext& context, Color ink, Color field, TextInputStyle& style)
 {
     const Color chip =
@@ -78,7 +73,7 @@ void buildTextInput(const DeriveContext& context, StyleSheet& sheet)
     TextInputStyle style;
     style.shape = context.look.controlShape;
     style.surface = sunkenOf(context, fills.normal, context.edge, style.shape);
-    style.hotSurface = sunkenOf(context, fills.hot, hotEdge(context), style.shape);
+    style.hotSurface = sunkenOf(context, fills.hot, context.hotEdge, style.shape);
     style.pressedSurface = sunkenOf(context, fills.pressed, context.edge, style.shape);
     style.focusedSurface = focusedField(context, fills.focused, style.shape);
     style.disabledSurface =
@@ -116,7 +111,7 @@ void buildCheckBox(const DeriveContext& context, StyleSheet& sheet)
     style.textLeft = 28;
     style.text = textOn(context, context.ground.tones, {context.text});
     style.boxUnchecked = sunkenOf(context, fills.normal, context.edge, style.shape);
-    style.boxUncheckedHot = sunkenOf(context, fills.hot, hotEdge(context), style.shape);
+    style.boxUncheckedHot = sunkenOf(context, fills.hot, context.hotEdge, style.shape);
     style.boxUncheckedPressed = sunkenOf(context, fills.pressed, context.edge, style.shape);
     style.boxUncheckedDisabled =
         surfaceOf(context, {.fill = fills.disabled, .border = context.quietEdge}, style.shape);
@@ -155,7 +150,7 @@ void buildSelectBox(const DeriveContext& context, StyleSheet& sheet)
     style.dropdownShape =
         context.look.panelShape == ShapeKind::Rect ? ShapeKind::RoundedRect : context.look.panelShape;
     style.surface = surfaceOf(context, face(fills.normal, context.edge, Form::Raised), style.shape);
-    style.hotSurface = surfaceOf(context, face(fills.hot, hotEdge(context), Form::Raised), style.shape);
+    style.hotSurface = surfaceOf(context, face(fills.hot, context.hotEdge, Form::Raised), style.shape);
     style.pressedSurface = surfaceOf(context, face(fills.pressed, context.edge, Form::Pressed), style.shape);
     style.disabledSurface =
         surfaceOf(context, face(fills.disabled, context.quietEdge, Form::Plate), style.shape);

@@ -62,7 +62,7 @@ void buildListBox(const DeriveContext& context, StyleSheet& sheet)
     style.shape = context.look.panelShape;
     style.rowShape = context.look.slimTracks ? ShapeKind::RoundedRect : ShapeKind::Rect;
     style.selectedRowShape = style.rowShape;
-    style.surface = groundOf(context, fills.list, context.edge, style.shape);
+    style.surface = groundOf(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
     style.row = bareSurface(context, style.rowShape);
     style.rowHot = plateOf(context, fills.hot, style.rowShape);
     style.rowPressed = plateOf(context, fills.pressed, style.rowShape);
@@ -84,7 +84,7 @@ void buildTableList(const DeriveContext& context, StyleSheet& sheet)
     const Tones tones = tonesOf(context, fills);
     TableListStyle style;
     style.shape = context.look.panelShape;
-    style.surface = groundOf(context, fills.list, context.edge, style.shape);
+    style.surface = groundOf(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
     style.rowText = textOn(context, tones, {fills.ink});
     style.selectedText = textOn(context, tones, {context.theme.textHot, fills.ink});
     const Color ink = style.rowText.color;
