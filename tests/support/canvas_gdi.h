@@ -1,8 +1,7 @@
 // A device context with pixels that a test can read.
 #pragma once
 
-#include "vela/render/owned_gdi.h"
-#include "vela/render/pixel_buffer.h"
+#include "vela/render/dib_gdi.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -12,25 +11,11 @@ namespace vela::testing {
 
 class Canvas {
 public:
-    explicit Canvas(Size size, Color ground = 0) : size_(size), dc_(::CreateCompatibleDC(nullptr))
-    {
-        BITMAPINFO info{};
-        info.bmiHeader = {sizeof(BITMAPINFOHEADER), size.width, -size.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        bitmap_.reset(::CreateDIBSection(dc_.get(), &info, DIB_RGB_COLORS, &bits_, nullptr, 0));
-        previous_ = ::SelectObject(dc_.get(), bitmap_.get());
-        clear(ground);
-    }
-    ~Canvas() { ::SelectObject(dc_.get(), previous_); }
-    Canvas(const Canvas&) = delete;
-    Canvas& operator=(const Canvas&) = delete;
+    explicit Canvas(Size size, Color ground = 0) : size_(size), surface_(size) { clear(ground); }
 
-    HDC dc() const noexcept { return dc_.get(); }
+    HDC dc() const noexcept { return surface_.dc(); }
     Size size() const noexcept { return size_; }
-    PixelView view() const noexcept
-    {
-        ::GdiFlush();
-        return {static_cast<Pixel*>(bits_), size_, size_.width};
-    }
+    PixelView view() const noexcept { return surface_.pixels(); }
 
     void clear(Color ground)
     {
@@ -78,10 +63,7 @@ private:
     }
 
     Size size_;
-    OwnedMemoryDc dc_;
-    OwnedBitmap bitmap_;
-    void* bits_ = nullptr;
-    HGDIOBJ previous_ = nullptr;
+    DibSurface surface_;
 };
 
 } // namespace vela::testing

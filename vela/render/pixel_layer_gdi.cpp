@@ -1,6 +1,6 @@
 #include "vela/render/pixel_layer_gdi.h"
 
-#include "vela/render/owned_gdi.h"
+#include "vela/render/dib_gdi.h"
 #include "vela/render/surface_painter.h"
 
 #include <algorithm>
@@ -18,35 +18,9 @@ constexpr std::int32_t kSizeStep = 64;
 
 constexpr std::int64_t areaOf(Size size) noexcept { return std::int64_t{size.width} * size.height; }
 
-// A top-down DIB section of 32 bits, selected into a memory context of its own.
-class Bitmap {
-public:
-    explicit Bitmap(Size size) : size_(size), dc_(::CreateCompatibleDC(nullptr))
-    {
-        BITMAPINFO info{};
-        info.bmiHeader = {sizeof(BITMAPINFOHEADER), size.width, -size.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        void* bits = nullptr;
-        bitmap_.reset(::CreateDIBSection(dc_.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        if (bitmap_)
-            selected_.emplace(dc_.get(), bitmap_.get());
-        pixels_ = static_cast<Pixel*>(bits);
-    }
-
-    Size size() const noexcept { return size_; }
-    HDC dc() const noexcept { return dc_.get(); }
-    Pixel* pixels() const noexcept { return pixels_; } // null when there is no bitmap
-
-private:
-    Size size_;
-    OwnedMemoryDc dc_;
-    OwnedBitmap bitmap_;
-    std::optional<SelectedObject> selected_; // last: let go first
-    Pixel* pixels_ = nullptr;
-};
-
-std::optional<Bitmap>& scratch()
+std::optional<DibSurface>& scratch()
 {
-    static std::optional<Bitmap> bitmap;
+    static std::optional<DibSurface> bitmap;
     return bitmap;
 }
 
@@ -72,15 +46,15 @@ PixelView scratchPixels(Size size)
 {
     if (isEmpty(size) || areaOf(size) > std::numeric_limits<std::int32_t>::max() / 8)
         return {};
-    std::optional<Bitmap>& bitmap = scratch();
+    std::optional<DibSurface>& bitmap = scratch();
     if (!bitmap || bitmap->size().width < size.width || bitmap->size().height < size.height)
         bitmap.emplace(scratchSizeFor(size));
-    if (!bitmap->pixels()) {
+    if (!*bitmap) {
         bitmap.reset();
         return {};
     }
-    ::GdiFlush(); // a blend out of these pixels may still be queued
-    return {bitmap->pixels(), size, bitmap->size().width};
+    const PixelView all = bitmap->pixels();
+    return {all.pixels, size, all.stride};
 }
 
 void compositeScratch(HDC dc, const Rect& rect)
