@@ -1,0 +1,22 @@
+// The sheets that the gallery draws, one function each.
+#pragma once
+
+#include "tools/gallery/sheet_gdi.h"
+#include "vela/theme/skin_document.h"
+#include "vela/theme/style_sheet.h"
+
+#include <string>
+
+namespace gallery {
+
+// Each returns whether its file could be written.
+bool drawShapeSheet(const std::wstring& path);
+bool drawGradientSheet(const std::wstring& path);
+bool drawLayerSheet(const std::wstring& path);
+bool drawGlyphSheet(const std::wstring& path);
+bool drawTypeSheet(const std::wstring& path);
+
+// All control kinds of a skin with their variants and states.
+bool drawSkinSheet(const std::wstring& path, const vela::SkinDefinition& skin);
+
+} // namespace gallery
