@@ -202,10 +202,42 @@ void expectKeysReachTheirMembers()
     EXPECT_GT(tested, 0U) << table.name;
 }
 
+// Every key of a record set at once.
+template <typename Record>
+Record changedRecord()
+{
+    const Record original{};
+    SkinMap map;
+    for (const Leaf& leaf : leavesOf(Fields<Record>::kTable)) {
+        const auto* const member = reinterpret_cast<const std::byte*>(&original) + leaf.offsets.front();
+        map.addText(widened(leaf.path), widened(memberSize(*leaf.field) ? sampleText(leaf, member) : "x"));
+    }
+    map.sort();
+    Record record;
+    readRecord(SkinView(map), record);
+    return record;
+}
+
+template <typename Record>
+void expectCopiesToBeEqual()
+{
+    const Record changed = changedRecord<Record>();
+    Record copy;
+    EXPECT_FALSE(copy == changed);
+    copyRecord(Fields<Record>::kTable, &changed, &copy);
+    EXPECT_TRUE(copy == changed) << Fields<Record>::kTable.name;
+}
+
 template <typename... Record>
 void expectAllKeysReachTheirMembers(std::tuple<VariantTable<Record>...>*)
 {
     (expectKeysReachTheirMembers<Record>(), ...);
+}
+
+template <typename... Record>
+void expectAllCopiesToBeEqual(std::tuple<VariantTable<Record>...>*)
+{
+    (expectCopiesToBeEqual<Record>(), ...);
 }
 
 TEST(Fields, EveryKeyOfEveryRecordReachesItsOwnMemberAlone)
@@ -218,6 +250,11 @@ TEST(Fields, EveryKeyOfEveryRecordReachesItsOwnMemberAlone)
     expectKeysReachTheirMembers<ScrollAcceleration>();
     expectKeysReachTheirMembers<MaterialProfile>();
     expectKeysReachTheirMembers<Theme>();
+}
+
+TEST(Fields, CopyingByTheTablesCopiesEveryMember)
+{
+    expectAllCopiesToBeEqual(static_cast<StyleSheet::Tables*>(nullptr));
 }
 
 } // namespace

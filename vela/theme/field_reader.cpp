@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <utility>
@@ -138,6 +139,16 @@ bool readText(const Field& field, std::wstring_view text, void* record, void* pl
 
 constexpr std::string_view kShapeSuffix = "Shape";
 
+// The key with the state in place of its "*".
+std::wstring keyOfState(std::string_view pattern, std::string_view state)
+{
+    const std::size_t star = pattern.find('*');
+    std::wstring key;
+    for (const std::string_view part : {pattern.substr(0, star), state, pattern.substr(star + 1)})
+        key.append(part.begin(), part.end());
+    return key;
+}
+
 // Finds what stands under each key of a field.
 class KeyWalk {
 public:
@@ -162,10 +173,8 @@ public:
 
 private:
     // Most keys of a record are absent; their first letter tells so without a search.
-    bool mayHold(std::string_view key) const noexcept
-    {
-        return (initials_ & SkinView::initialOf(static_cast<wchar_t>(key.front()))) != 0;
-    }
+    bool mayHold(wchar_t first) const noexcept { return (initials_ & SkinView::initialOf(first)) != 0; }
+    bool mayHold(std::string_view key) const noexcept { return mayHold(static_cast<wchar_t>(key.front())); }
 
     // "trackShape" may be written "track"; "shape" alone may be the text of the record itself.
     template <typename Visit>
@@ -181,12 +190,10 @@ private:
     template <typename Visit>
     bool eachState(std::string_view pattern, Visit& visit) const
     {
-        const std::size_t star = pattern.find('*');
         for (const Spellings& row : kVisualStateWords.rows) {
             const bool done = anyWord(row.words, [&](std::string_view word) {
-                std::string key(pattern);
-                key.replace(star, 1, word);
-                return mayHold(key) && visit(view_.at(std::string_view(key)), static_cast<int>(row.value));
+                const std::wstring key = keyOfState(pattern, word);
+                return mayHold(key.front()) && visit(view_.at(std::wstring_view(key)), int{row.value});
             });
             if (done)
                 return true;
@@ -291,17 +298,45 @@ private:
     KeyStyle style_;
 };
 
+// Of the members that hold plain bytes; the others of a control's record are surfaces and fonts.
+std::size_t plainSize(FieldKind kind) noexcept
+{
+    switch (kind) {
+    case FieldKind::Boolean:
+    case FieldKind::ColorGiven:
+    case FieldKind::Byte:
+    case FieldKind::Word: return 1;
+    case FieldKind::ColorValue:
+    case FieldKind::Length:
+    case FieldKind::Integer:
+    case FieldKind::Unsigned:
+    case FieldKind::Weight: return sizeof(std::int32_t);
+    case FieldKind::InsetSides: return sizeof(Insets);
+    case FieldKind::Text:
+    case FieldKind::Role:
+    case FieldKind::Colors:
+    case FieldKind::Record:
+    case FieldKind::States:
+    case FieldKind::Geometry:
+    case FieldKind::SurfaceMaterial:
+    case FieldKind::SurfaceImage:
+    case FieldKind::SurfaceImagePath:
+    case FieldKind::SurfaceAlphaShape:
+    case FieldKind::ProfileMaterial:
+    case FieldKind::ProfilePreset: return 0;
+    }
+    return 0;
+}
+
 // Whether the name is the first segment of the key, whose "*" stands for each state.
 bool startsKey(std::string_view key, std::wstring_view name)
 {
     const std::string_view segment = key.substr(0, key.find('.'));
-    const std::size_t star = segment.find('*');
-    if (star == std::string_view::npos)
+    if (segment.find('*') == std::string_view::npos)
         return isName(name, segment);
     for (const Spellings& row : kVisualStateWords.rows) {
-        const bool found = anyWord(row.words, [&](std::string_view word) {
-            return isName(name, std::string(segment).replace(star, 1, word));
-        });
+        const bool found = anyWord(
+            row.words, [&](std::string_view word) { return sameName(name, keyOfState(segment, word)); });
         if (found)
             return true;
     }
@@ -340,6 +375,30 @@ void spreadShapes(const FieldTable& table, void* record) noexcept
             shapeSurface(field, record, memberAt<ShapeKind>(record, field.shapedBy));
         else if (field.kind == FieldKind::Record)
             spreadShapes(tableOf(field), &memberAt<std::byte>(record, field.offset));
+    }
+}
+
+void copyRecord(const FieldTable& table, const void* from, void* to)
+{
+    if (&table == &Fields<SurfaceStyle>::kTable) {
+        *static_cast<SurfaceStyle*>(to) = *static_cast<const SurfaceStyle*>(from);
+        return;
+    }
+    if (&table == &Fields<FontSpec>::kTable) {
+        *static_cast<FontSpec*>(to) = *static_cast<const FontSpec*>(from);
+        return;
+    }
+    for (const Field& field : table.fields) {
+        const auto* const source = static_cast<const std::byte*>(from) + field.offset;
+        auto* const target = static_cast<std::byte*>(to) + field.offset;
+        if (field.kind == FieldKind::Record || field.kind == FieldKind::States) {
+            const std::size_t count = field.kind == FieldKind::States ? kVisualStateCount : 1;
+            for (std::size_t i = 0; i < count; ++i)
+                copyRecord(tableOf(field), source + i * tableOf(field).recordSize,
+                           target + i * tableOf(field).recordSize);
+        } else {
+            std::memcpy(target, source, plainSize(field.kind));
+        }
     }
 }
 

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <optional>
 #include <tuple>
 #include <vector>
 
@@ -54,30 +53,30 @@ constexpr Layer kLayers[] = {
     {kVariantsSection, KeyStyle::Full},
 };
 
-// The variants of one kind without its record type, so that one reader serves all kinds.
+struct VariantRef {
+    std::wstring_view name;
+    void* record = nullptr; // null: there is no such variant
+};
+
+// The variants of one kind without its record type, so that one reader serves all kinds. The code for 21
+// types of large records is kept to these two functions; all else goes by their field tables.
 struct VariantAccess {
-    std::size_t (*count)(const StyleSheet&);
-    std::wstring_view (*name)(const StyleSheet&, std::size_t index);
-    void* (*record)(StyleSheet&, std::size_t index);
-    void (*addCopyOfDefault)(StyleSheet&, std::wstring_view name);
-    void (*copy)(void* to, const void* from);
+    VariantRef (*at)(StyleSheet&, std::size_t index);
+    void (*add)(StyleSheet&, std::wstring_view name);
 };
 
 template <typename Record>
 constexpr VariantAccess accessTo()
 {
     return {
-        [](const StyleSheet& sheet) { return sheet.table<Record>().size(); },
-        [](const StyleSheet& sheet, std::size_t index) -> std::wstring_view {
-            return (sheet.table<Record>().begin() + static_cast<std::ptrdiff_t>(index))->name;
+        [](StyleSheet& sheet, std::size_t index) -> VariantRef {
+            auto& table = sheet.table<Record>();
+            if (index >= table.size())
+                return {};
+            auto& variant = *(table.begin() + static_cast<std::ptrdiff_t>(index));
+            return {variant.name, &variant.record};
         },
-        [](StyleSheet& sheet, std::size_t index) -> void* {
-            return &(sheet.table<Record>().begin() + static_cast<std::ptrdiff_t>(index))->record;
-        },
-        [](StyleSheet& sheet, std::wstring_view name) {
-            sheet.table<Record>().set(name, sheet.find<Record>(kDefaultVariant));
-        },
-        [](void* to, const void* from) { *static_cast<Record*>(to) = *static_cast<const Record*>(from); },
+        [](StyleSheet& sheet, std::wstring_view name) { sheet.table<Record>().ensure(name); },
     };
 }
 
@@ -89,21 +88,43 @@ constexpr std::array<VariantAccess, sizeof...(Record)> accessToAll(std::tuple<Va
 
 constexpr auto kAccess = accessToAll(static_cast<StyleSheet::Tables*>(nullptr));
 
-const VariantAccess& accessOf(const ControlSection& section) noexcept
-{
-    return kAccess[static_cast<std::size_t>(section.kind)];
-}
-
-std::optional<std::size_t> indexOf(const StyleSheet& sheet, const ControlSection& section,
-                                   std::wstring_view variant)
-{
-    const VariantAccess& access = accessOf(section);
-    for (std::size_t i = 0; i < access.count(sheet); ++i) {
-        if (sameName(access.name(sheet, i), variant))
-            return i;
+// The variants of one kind in a sheet, by index: additions move the records.
+class Variants {
+public:
+    Variants(StyleSheet& sheet, const ControlSection& section)
+        : sheet_(sheet), section_(section), access_(kAccess[static_cast<std::size_t>(section.kind)])
+    {
     }
-    return std::nullopt;
-}
+
+    void* record(std::size_t index) const { return access_.at(sheet_, index).record; }
+
+    void* find(std::wstring_view name) const
+    {
+        for (std::size_t i = 0;; ++i) {
+            const VariantRef variant = access_.at(sheet_, i);
+            if (!variant.record || sameName(variant.name, name))
+                return variant.record;
+        }
+    }
+
+    // Adds a copy of the default where there is no such variant. Null when there are too many already.
+    void* ensure(std::wstring_view name) const
+    {
+        if (void* const known = find(name))
+            return known;
+        if (record(kMaxVariants - 1))
+            return nullptr;
+        access_.add(sheet_, name);
+        void* const added = find(name);
+        copyRecord(*section_.fields, find(kDefaultVariant), added);
+        return added;
+    }
+
+private:
+    StyleSheet& sheet_;
+    const ControlSection& section_;
+    const VariantAccess& access_;
+};
 
 // What a block inherits from; empty when it inherits nothing.
 std::wstring_view inheritedName(const SkinView& block)
@@ -140,7 +161,7 @@ StyleName parseStyleName(std::wstring_view text)
 class KindReader {
 public:
     KindReader(StyleSheet& sheet, const SkinView& layer, KeyStyle keys, const ControlSection& section)
-        : sheet_(sheet), layer_(layer), keys_(keys), section_(section), access_(accessOf(section))
+        : sheet_(sheet), layer_(layer), keys_(keys), section_(section), variants_(sheet, section)
     {
     }
 
@@ -199,8 +220,8 @@ private:
 
     void readIntoAll(const SkinView& block)
     {
-        for (std::size_t i = 0; i < access_.count(sheet_); ++i)
-            readStyle(block, access_.record(sheet_, i));
+        for (std::size_t i = 0; void* const record = variants_.record(i); ++i)
+            readStyle(block, record);
     }
 
     void readVariant(std::vector<Variant>& variants, Variant& variant, int depth)
@@ -209,24 +230,14 @@ private:
         if (variant.progress != Progress::Waiting || !isStyle)
             return;
         variant.progress = Progress::Open;
-        if (const std::optional<std::size_t> index = ensureVariant(variant.name)) {
-            inherit(variants, variant, *index, depth);
-            readStyle(variant.block, access_.record(sheet_, *index));
+        if (variants_.ensure(variant.name)) {
+            inherit(variants, variant, depth);
+            readStyle(variant.block, variants_.find(variant.name));
         }
         variant.progress = Progress::Done;
     }
 
-    // Empty when the kind has as many variants as it may have.
-    std::optional<std::size_t> ensureVariant(std::wstring_view name)
-    {
-        const std::optional<std::size_t> known = indexOf(sheet_, section_, name);
-        if (known || access_.count(sheet_) >= kMaxVariants)
-            return known;
-        access_.addCopyOfDefault(sheet_, name);
-        return access_.count(sheet_) - 1;
-    }
-
-    void inherit(std::vector<Variant>& variants, const Variant& variant, std::size_t index, int depth)
+    void inherit(std::vector<Variant>& variants, const Variant& variant, int depth)
     {
         const std::wstring_view name = inheritedName(variant.block);
         if (name.empty() || depth >= kMaxInheritance)
@@ -236,17 +247,16 @@ private:
         if (base != variants.end())
             readVariant(variants, *base, depth + 1);
         const bool isCircle = base != variants.end() && base->progress == Progress::Open;
-        if (const std::optional<std::size_t> from = indexOf(sheet_, section_, name)) {
+        void* const record = variants_.find(variant.name); // after additions, which move the records
+        if (const void* const from = variants_.find(name)) {
             if (!isCircle)
-                access_.copy(access_.record(sheet_, index), access_.record(sheet_, *from));
+                copyRecord(*section_.fields, from, record);
             return;
         }
         const StyleName style = parseStyleName(name);
         if (!style.section)
             return;
-        eachBlock(*style.section, [&](const SkinView& block) {
-            readStyle(block.at(style.variant), access_.record(sheet_, index));
-        });
+        eachBlock(*style.section, [&](const SkinView& block) { readStyle(block.at(style.variant), record); });
     }
 
     void readStyle(const SkinView& block, void* record)
@@ -265,11 +275,8 @@ private:
                 const StyleName style = parseStyleName(inheritedName(block.at(key)));
                 if (!style.section || style.section->fields != &tableOf(field))
                     return false;
-                const std::optional<std::size_t> from = indexOf(sheet_, *style.section, style.variant);
-                if (from)
-                    accessOf(*style.section)
-                        .copy(static_cast<std::byte*>(record) + field.offset,
-                              accessOf(*style.section).record(sheet_, *from));
+                if (const void* const from = Variants(sheet_, *style.section).find(style.variant))
+                    copyRecord(tableOf(field), from, static_cast<std::byte*>(record) + field.offset);
                 return false;
             });
         }
@@ -279,15 +286,15 @@ private:
     const SkinView& layer_;
     KeyStyle keys_;
     const ControlSection& section_;
-    const VariantAccess& access_;
+    Variants variants_;
 };
 
 void spreadDerivedShapes(StyleSheet& sheet)
 {
     for (const ControlSection& section : kSections) {
-        const VariantAccess& access = accessOf(section);
-        for (std::size_t i = 0; i < access.count(sheet); ++i)
-            spreadShapes(*section.fields, access.record(sheet, i));
+        const Variants variants(sheet, section);
+        for (std::size_t i = 0; void* const record = variants.record(i); ++i)
+            spreadShapes(*section.fields, record);
     }
 }
 

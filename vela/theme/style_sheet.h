@@ -55,7 +55,7 @@ public:
         friend bool operator==(const Variant&, const Variant&) = default;
     };
 
-    VariantTable() { variants_.push_back({std::wstring(kDefaultVariant), {}}); }
+    VariantTable() { ensure(kDefaultVariant); }
 
     // The default record when there is no variant of that name.
     const Record& find(std::wstring_view name) const noexcept
@@ -79,9 +79,17 @@ public:
 
     Record& set(std::wstring_view name, Record record)
     {
+        return ensure(name) = std::move(record);
+    }
+
+    // The record of that name; a plain one is added when there is none. Additions move the other records.
+    Record& ensure(std::wstring_view name)
+    {
         if (Record* const known = tryFind(name))
-            return *known = std::move(record);
-        return variants_.emplace_back(Variant{std::wstring(name), std::move(record)}).record;
+            return *known;
+        Variant& added = variants_.emplace_back();
+        added.name = name;
+        return added.record;
     }
 
     std::size_t size() const noexcept { return variants_.size(); }

@@ -116,6 +116,15 @@ struct SurfaceGeometry {
 };
 
 struct SurfaceStyle : MaterialShading, SurfaceMapping {
+    // Defaulted, but not inline: every control's record holds surfaces by the dozen, and five special members
+    // of seventy fields each would be repeated for all of them.
+    SurfaceStyle() noexcept;
+    SurfaceStyle(const SurfaceStyle& other);
+    SurfaceStyle(SurfaceStyle&& other) noexcept;
+    SurfaceStyle& operator=(const SurfaceStyle& other);
+    SurfaceStyle& operator=(SurfaceStyle&& other) noexcept;
+    ~SurfaceStyle();
+
     ShapeKind shape = ShapeKind::RoundedRect;
     MaterialPreset material = MaterialPreset::None;
     bool materialEnabled = false; // internal: set by the material that was chosen, never by a key
@@ -159,7 +168,7 @@ struct SurfaceStyle : MaterialShading, SurfaceMapping {
     Boxed<BitmapSkin> image;
     Boxed<SurfaceGeometry> geometry;
 
-    friend bool operator==(const SurfaceStyle&, const SurfaceStyle&) = default;
+    friend bool operator==(const SurfaceStyle& left, const SurfaceStyle& right);
 };
 
 } // namespace vela

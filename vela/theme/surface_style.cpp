@@ -1,0 +1,14 @@
+#include "vela/theme/surface_style.h"
+
+namespace vela {
+
+SurfaceStyle::SurfaceStyle() noexcept = default;
+SurfaceStyle::SurfaceStyle(const SurfaceStyle& other) = default;
+SurfaceStyle::SurfaceStyle(SurfaceStyle&& other) noexcept = default;
+SurfaceStyle& SurfaceStyle::operator=(const SurfaceStyle& other) = default;
+SurfaceStyle& SurfaceStyle::operator=(SurfaceStyle&& other) noexcept = default;
+SurfaceStyle::~SurfaceStyle() = default;
+
+bool operator==(const SurfaceStyle& left, const SurfaceStyle& right) = default;
+
+} // namespace vela
