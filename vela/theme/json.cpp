@@ -142,7 +142,7 @@ private:
     static void setKind(JsonValue& value, JsonKind kind, std::size_t size = 0) noexcept
     {
         value.kind_ = kind;
-        value.size_ = size & kMaxJsonSize;
+        value.size_ = size & kMaxJsonSize; // nothing is larger than the text it came from
     }
 
     bool fail(std::string_view explanation) noexcept
