@@ -1,4 +1,5 @@
-#include "app/app_start_win32.h"
+// The installed application's file: reading its version and starting it.
+#include "app/setup_effects_win32.h"
 
 #include "app/files_win32.h"
 
@@ -38,7 +39,7 @@ std::vector<std::byte> versionResource(const vela::SystemLibrary& library, const
 
 } // namespace
 
-std::optional<ProductVersion> productVersion(const std::wstring& path)
+std::optional<ProductVersion> WindowsEffects::productVersion(const std::wstring& path)
 {
     constexpr DWORD kSignature = 0xFEEF04BD;
     const vela::SystemLibrary library(L"version.dll");
@@ -56,7 +57,7 @@ std::optional<ProductVersion> productVersion(const std::wstring& path)
                           HIWORD(fixed.dwProductVersionLS), LOWORD(fixed.dwProductVersionLS)};
 }
 
-WindowsError startHidden(const std::wstring& commandLine, const std::wstring& folder)
+WindowsError WindowsEffects::startHidden(const std::wstring& commandLine, const std::wstring& folder)
 {
     std::wstring writableCommandLine = commandLine; // CreateProcessW writes into it
     STARTUPINFOW startup{};
@@ -74,7 +75,7 @@ WindowsError startHidden(const std::wstring& commandLine, const std::wstring& fo
     return kNoError;
 }
 
-WindowsError startVisible(const std::wstring& program, const std::wstring& folder)
+WindowsError WindowsEffects::startVisible(const std::wstring& program, const std::wstring& folder)
 {
     constexpr INT_PTR kLargestError = 32;
     const PlainErrorMode errorMode;

@@ -1,7 +1,8 @@
 #include "app/files_win32.h"
 
 #include "app/paths.h"
-#include "vela/owned_win32.h"
+#include "app/process_win32.h"
+#include "app/setup_effects_win32.h"
 
 #include <cstring>
 
@@ -91,7 +92,7 @@ std::wstring reachablePath(const std::wstring& path)
     return extendedPath(full);
 }
 
-std::wstring tempFolder()
+std::wstring WindowsEffects::tempFolder()
 {
     // The longest that GetTempPathW can return, and its terminator.
     std::array<wchar_t, MAX_PATH + 2> folder{};
@@ -99,13 +100,13 @@ std::wstring tempFolder()
     return length < folder.size() ? std::wstring(folder.data(), length) : std::wstring();
 }
 
-bool fileExists(const std::wstring& path)
+bool WindowsEffects::fileExists(const std::wstring& path)
 {
     const DWORD attributes = ::GetFileAttributesW(reachablePath(path).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
-WindowsError createFolders(const std::wstring& folder)
+WindowsError WindowsEffects::createFolders(const std::wstring& folder)
 {
     const std::wstring path = reachablePath(folder);
     return isFolder(path) ? kNoError : createMissingFolders(path);
@@ -121,7 +122,12 @@ WindowsError copyFileOver(const std::wstring& source, const std::wstring& target
     return outcome(::CopyFileW(from.c_str(), to.c_str(), FALSE));
 }
 
-WindowsError deleteFile(const std::wstring& path)
+WindowsError WindowsEffects::copySetup(const std::wstring& target)
+{
+    return copyFileOver(programPath(), target);
+}
+
+WindowsError WindowsEffects::deleteFile(const std::wstring& path)
 {
     return outcome(::DeleteFileW(reachablePath(path).c_str()));
 }

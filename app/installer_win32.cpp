@@ -1,4 +1,5 @@
-#include "app/installer_win32.h"
+// The Windows Installer: asked about products through its library, run through its program.
+#include "app/setup_effects_win32.h"
 
 #include "app/identity.h"
 #include "app/installer_command.h"
@@ -52,7 +53,7 @@ InstallerExit runAndWait(const std::wstring& program, const std::wstring& parame
 
 } // namespace
 
-RelatedProduct relatedProduct(std::uint32_t index)
+RelatedProduct WindowsEffects::relatedProduct(std::uint32_t index)
 {
     using EnumRelatedProducts =
         UINT WINAPI(LPCWSTR upgradeCode, DWORD reserved, DWORD index, LPWSTR productCode);
@@ -65,7 +66,7 @@ RelatedProduct relatedProduct(std::uint32_t index)
     return {error, code.data()};
 }
 
-InstallerExit runInstaller(const std::wstring& parameters)
+InstallerExit WindowsEffects::runInstaller(const std::wstring& parameters)
 {
     // By its full path, and working in the system folder: nothing that lies beside the setup can be meant.
     const std::wstring folder = systemFolder();

@@ -1,4 +1,5 @@
-#include "app/package_win32.h"
+// The application's installer package: a resource of this program, written to a file for the installer.
+#include "app/setup_effects_win32.h"
 
 #include "app/files_win32.h"
 
@@ -72,9 +73,9 @@ private:
 
 } // namespace
 
-PackageOutcome extractEmbeddedPackage(HMODULE module, const std::wstring& target)
+PackageOutcome WindowsEffects::extractPackage(const std::wstring& target)
 {
-    const EmbeddedPackage package = findPackage(module);
+    const EmbeddedPackage package = findPackage(module_);
     if (package.outcome.fault != PackageFault::None)
         return package.outcome;
     const vela::OwnedFile file(::CreateFileW(reachablePath(target).c_str(), GENERIC_WRITE, 0, nullptr,
@@ -90,9 +91,9 @@ PackageOutcome extractEmbeddedPackage(HMODULE module, const std::wstring& target
     return {};
 }
 
-PinOutcome pinEmbeddedPackage(HMODULE module, const std::wstring& path)
+PinOutcome WindowsEffects::pinPackage(const std::wstring& path)
 {
-    const EmbeddedPackage package = findPackage(module);
+    const EmbeddedPackage package = findPackage(module_);
     vela::OwnedFile file(::CreateFileW(reachablePath(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
                                        OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!file)

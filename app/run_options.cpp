@@ -20,7 +20,8 @@ RunOptions readRunOptions(const CommandLine& commandLine, SetupEffects& effects)
 
 bool startsWithWindowsByDefault(SetupEffects& effects)
 {
-    return !isProductInstalled(effects) || effects.fileExists(startupShortcutPath(effects));
+    // The shortcut first: with it the answer is yes, installed or not, and the installer need not be asked.
+    return effects.fileExists(startupShortcutPath(effects)) || !isProductInstalled(effects);
 }
 
 bool hasDesktopShortcut(SetupEffects& effects) { return effects.fileExists(desktopShortcutPath(effects)); }

@@ -1,6 +1,5 @@
-#include "app/running_process_win32.h"
-
-#include "vela/owned_win32.h"
+// Other processes: listing them, asking their windows, waiting for their end, ending them.
+#include "app/setup_effects_win32.h"
 
 #include <tlhelp32.h>
 
@@ -59,7 +58,7 @@ private:
 
 } // namespace
 
-std::vector<ProcessEntry> runningProcesses()
+std::vector<ProcessEntry> WindowsEffects::runningProcesses()
 {
     const vela::OwnedFile snapshot(::CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0));
     if (!snapshot)
@@ -73,7 +72,7 @@ std::vector<ProcessEntry> runningProcesses()
     return processes;
 }
 
-OpenedProcess openProcess(std::uint32_t id, ProcessAccess access)
+OpenedProcess WindowsEffects::openProcess(std::uint32_t id, ProcessAccess access)
 {
     const DWORD rights = SYNCHRONIZE | (access == ProcessAccess::WaitAndTerminate ? PROCESS_TERMINATE : 0);
     vela::OwnedKernelObject process(::OpenProcess(rights, FALSE, id));

@@ -17,6 +17,7 @@ using WindowsError = std::uint32_t;
 inline constexpr WindowsError kNoError = 0;
 inline constexpr WindowsError kErrorFileNotFound = 2;
 inline constexpr WindowsError kErrorInvalidData = 13;
+inline constexpr WindowsError kErrorGenFailure = 31;
 inline constexpr WindowsError kErrorNoMoreItems = 259;
 inline constexpr WindowsError kErrorRevisionMismatch = 1306;
 

@@ -1,13 +1,7 @@
 #include "app/setup_effects_win32.h"
 
-#include "app/app_start_win32.h"
 #include "app/files_win32.h"
-#include "app/installer_win32.h"
-#include "app/package_win32.h"
-#include "app/process_win32.h"
-#include "app/running_process_win32.h"
 #include "app/setup_runs.h"
-#include "app/shell_win32.h"
 
 namespace setup {
 namespace {
@@ -34,10 +28,6 @@ std::wstring timeStamp()
 
 std::uint32_t WindowsEffects::ownProcessId() { return ::GetCurrentProcessId(); }
 
-std::wstring WindowsEffects::tempFolder() { return setup::tempFolder(); }
-
-std::wstring WindowsEffects::knownFolder(KnownFolder folder) { return setup::knownFolder(folder); }
-
 std::wstring WindowsEffects::environmentVariable(const wchar_t* name)
 {
     const DWORD size = ::GetEnvironmentVariableW(name, nullptr, 0);
@@ -45,8 +35,6 @@ std::wstring WindowsEffects::environmentVariable(const wchar_t* name)
     value.resize(size != 0 ? ::GetEnvironmentVariableW(name, value.data(), size) : 0);
     return value;
 }
-
-bool WindowsEffects::fileExists(const std::wstring& path) { return setup::fileExists(path); }
 
 void WindowsEffects::writeLogLine(const std::wstring& line)
 {
@@ -62,57 +50,5 @@ void WindowsEffects::writeLogLine(const std::wstring& line)
 
 // The setup has no windows yet: a run goes on as if the notice had been read and closed.
 void WindowsEffects::showNotice(const Notice&) {}
-
-RelatedProduct WindowsEffects::relatedProduct(std::uint32_t index) { return setup::relatedProduct(index); }
-
-PackageOutcome WindowsEffects::extractPackage(const std::wstring& target)
-{
-    return extractEmbeddedPackage(module_, target);
-}
-
-PinOutcome WindowsEffects::pinPackage(const std::wstring& path) { return pinEmbeddedPackage(module_, path); }
-
-InstallerExit WindowsEffects::runInstaller(const std::wstring& parameters)
-{
-    return setup::runInstaller(parameters);
-}
-
-WindowsError WindowsEffects::createFolders(const std::wstring& folder)
-{
-    return setup::createFolders(folder);
-}
-
-WindowsError WindowsEffects::copySetup(const std::wstring& target)
-{
-    return copyFileOver(programPath(), target);
-}
-
-std::int32_t WindowsEffects::createShellLink(const ShellLink& link) { return setup::createShellLink(link); }
-
-WindowsError WindowsEffects::deleteFile(const std::wstring& path) { return setup::deleteFile(path); }
-
-void WindowsEffects::notifyShellChanged() { setup::notifyShellChanged(); }
-
-std::optional<ProductVersion> WindowsEffects::productVersion(const std::wstring& path)
-{
-    return setup::productVersion(path);
-}
-
-WindowsError WindowsEffects::startHidden(const std::wstring& commandLine, const std::wstring& folder)
-{
-    return setup::startHidden(commandLine, folder);
-}
-
-WindowsError WindowsEffects::startVisible(const std::wstring& program, const std::wstring& folder)
-{
-    return setup::startVisible(program, folder);
-}
-
-std::vector<ProcessEntry> WindowsEffects::runningProcesses() { return setup::runningProcesses(); }
-
-OpenedProcess WindowsEffects::openProcess(std::uint32_t id, ProcessAccess access)
-{
-    return setup::openProcess(id, access);
-}
 
 } // namespace setup

@@ -1,4 +1,5 @@
-// The setup's effects on a real machine. Used by one thread at a time.
+// The setup's effects on a real machine, used by one thread at a time. Each group of them has a file of its
+// own: files, package, installer, shell, app_start, running_process.
 #pragma once
 
 #include "app/setup_effects.h"

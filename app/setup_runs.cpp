@@ -67,7 +67,8 @@ bool runInstaller(SetupEffects& effects, const std::wstring& parameters, SetupAc
     const InstallerExit exit = effects.runInstaller(parameters);
     result.exitCode = exit.code;
     const bool succeeded = exit.finished && exit.code == 0;
-    noteStep(effects, exit.finished ? L"run installer" : L"start installer", exit.code, parameters);
+    const WindowsError error = exit.finished || exit.code != 0 ? exit.code : kErrorGenFailure;
+    noteStep(effects, exit.finished ? L"run installer" : L"start installer", error, parameters);
     if (!succeeded)
         result.message = describeInstallerExitCode(exit.code);
     return succeeded;

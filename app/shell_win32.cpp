@@ -1,6 +1,6 @@
-#include "app/shell_win32.h"
+// The shell: known folders, links, the notification after a change.
+#include "app/setup_effects_win32.h"
 
-#include "app/files_win32.h"
 #include "app/paths.h"
 
 #include "vela/com_pointer_win32.h"
@@ -71,7 +71,6 @@ HRESULT describeLink(IShellLinkW& shellLink, const ShellLink& link)
 
 HRESULT writeLink(const ShellLink& link)
 {
-    createFolders(parentFolder(link.link));
     vela::ComPointer<IShellLinkW> shellLink;
     HRESULT result = ::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
                                         shellLink.putVoid());
@@ -87,7 +86,7 @@ HRESULT writeLink(const ShellLink& link)
 
 } // namespace
 
-std::wstring knownFolder(KnownFolder folder)
+std::wstring WindowsEffects::knownFolder(KnownFolder folder)
 {
     for (const FolderId& row : kFolderIds) {
         if (row.folder != folder)
@@ -99,12 +98,18 @@ std::wstring knownFolder(KnownFolder folder)
     return {};
 }
 
-std::int32_t createShellLink(const ShellLink& link)
+std::int32_t WindowsEffects::createShellLink(const ShellLink& link)
 {
     const ComApartment apartment;
-    return static_cast<std::int32_t>(FAILED(apartment.result()) ? apartment.result() : writeLink(link));
+    if (FAILED(apartment.result()))
+        return static_cast<std::int32_t>(apartment.result());
+    createFolders(parentFolder(link.link)); // without it, saving the link fails and says why
+    return static_cast<std::int32_t>(writeLink(link));
 }
 
-void notifyShellChanged() { ::SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr); }
+void WindowsEffects::notifyShellChanged()
+{
+    ::SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
+}
 
 } // namespace setup

@@ -1,9 +1,8 @@
-#include "app/app_start_win32.h"
 #include "app/files_win32.h"
 #include "app/instance_guard_win32.h"
-#include "app/package_win32.h"
 #include "app/paths.h"
 #include "app/process_win32.h"
+#include "app/setup_effects_win32.h"
 
 #include <gtest/gtest.h>
 
@@ -15,10 +14,10 @@ namespace {
 class Files : public testing::Test {
 protected:
     Files()
-        : folder_(
-              joinPath(tempFolder(), L"Tamber t\u011bst \u4e2d " + std::to_wstring(::GetCurrentProcessId())))
+        : folder_(joinPath(effects_.tempFolder(),
+                           L"Tamber t\u011bst \u4e2d " + std::to_wstring(::GetCurrentProcessId())))
     {
-        EXPECT_EQ(createFolders(folder_), kNoError);
+        EXPECT_EQ(effects_.createFolders(folder_), kNoError);
     }
     ~Files() override { ::RemoveDirectoryW(folder_.c_str()); }
 
@@ -43,6 +42,7 @@ protected:
         return text;
     }
 
+    WindowsEffects effects_{nullptr}; // the test program itself: no package in it
     const std::wstring folder_;
 };
 
@@ -51,17 +51,17 @@ TEST_F(Files, FoldersAreCreatedWithTheirParentsAtAnyLength)
     std::vector<std::wstring> levels{folder_};
     while (levels.back().size() < 400)
         levels.push_back(joinPath(levels.back(), std::wstring(60, L'\u017e')));
-    EXPECT_EQ(createFolders(levels.back()), kNoError);
-    EXPECT_EQ(createFolders(levels.back()), kNoError) << "a folder that is there is fine";
+    EXPECT_EQ(effects_.createFolders(levels.back()), kNoError);
+    EXPECT_EQ(effects_.createFolders(levels.back()), kNoError) << "a folder that is there is fine";
 
     const std::wstring source = in(L"source");
     const std::wstring target = joinPath(levels.back(), L"target");
     write(source, "bytes");
     EXPECT_EQ(copyFileOver(source, target), kNoError);
-    EXPECT_TRUE(fileExists(target));
-    EXPECT_EQ(deleteFile(target), kNoError);
-    EXPECT_EQ(deleteFile(target), kErrorFileNotFound);
-    EXPECT_EQ(deleteFile(source), kNoError);
+    EXPECT_TRUE(effects_.fileExists(target));
+    EXPECT_EQ(effects_.deleteFile(target), kNoError);
+    EXPECT_EQ(effects_.deleteFile(target), kErrorFileNotFound);
+    EXPECT_EQ(effects_.deleteFile(source), kNoError);
     for (std::size_t level = levels.size(); --level > 0;)
         EXPECT_TRUE(::RemoveDirectoryW(reachablePath(levels[level]).c_str()));
 }
@@ -70,11 +70,11 @@ TEST_F(Files, AFileInTheWayOfAFolderIsAnError)
 {
     const std::wstring file = in(L"file");
     write(file, "");
-    EXPECT_NE(createFolders(file), kNoError);
-    EXPECT_NE(createFolders(joinPath(file, L"a\\b")), kNoError);
-    EXPECT_NE(createFolders(L"Q:\\no such drive"), kNoError);
-    EXPECT_FALSE(fileExists(folder_)) << "a folder is no file";
-    deleteFile(file);
+    EXPECT_NE(effects_.createFolders(file), kNoError);
+    EXPECT_NE(effects_.createFolders(joinPath(file, L"a\\b")), kNoError);
+    EXPECT_NE(effects_.createFolders(L"Q:\\no such drive"), kNoError);
+    EXPECT_FALSE(effects_.fileExists(folder_)) << "a folder is no file";
+    effects_.deleteFile(file);
 }
 
 TEST_F(Files, ACopyReplacesAReadOnlyFile)
@@ -88,8 +88,8 @@ TEST_F(Files, ACopyReplacesAReadOnlyFile)
     EXPECT_EQ(read(target), "new");
     EXPECT_NE(copyFileOver(in(L"absent"), target), kNoError);
     EXPECT_EQ(read(target), "new");
-    deleteFile(source);
-    deleteFile(target);
+    effects_.deleteFile(source);
+    effects_.deleteFile(target);
 }
 
 TEST_F(Files, TheSameFileUnderAnotherNameCountsAsCopied)
@@ -107,31 +107,31 @@ TEST_F(Files, TheSameFileUnderAnotherNameCountsAsCopied)
         EXPECT_EQ(copyFileOver(joinPath(folder_, L".\\SOURCE"), other), kNoError);
     }
     EXPECT_EQ(read(source), "bytes");
-    deleteFile(source);
-    deleteFile(other);
+    effects_.deleteFile(source);
+    effects_.deleteFile(other);
 }
 
 TEST_F(Files, AProgramWithoutAPackageSaysSoAndPinsNothing)
 {
     const std::wstring path = in(L"package");
-    EXPECT_EQ(extractEmbeddedPackage(nullptr, path).fault, PackageFault::Absent);
-    EXPECT_FALSE(fileExists(path)) << "nothing is created before the package is found";
+    EXPECT_EQ(effects_.extractPackage(path).fault, PackageFault::Absent);
+    EXPECT_FALSE(effects_.fileExists(path)) << "nothing is created before the package is found";
     write(path, "not the package");
-    const PinOutcome pinned = pinEmbeddedPackage(nullptr, path);
+    const PinOutcome pinned = effects_.pinPackage(path);
     EXPECT_EQ(pinned.pin, nullptr);
     EXPECT_NE(pinned.error, kNoError);
-    EXPECT_EQ(deleteFile(path), kNoError) << "a file that was refused is not held";
+    EXPECT_EQ(effects_.deleteFile(path), kNoError) << "a file that was refused is not held";
 }
 
 TEST_F(Files, AVersionIsReadOnlyFromAVersionBlock)
 {
-    EXPECT_TRUE(productVersion(L"C:\\windows\\system32\\kernel32.dll"));
-    EXPECT_FALSE(productVersion(programPath())) << "the test program has none";
+    EXPECT_TRUE(effects_.productVersion(L"C:\\windows\\system32\\kernel32.dll"));
+    EXPECT_FALSE(effects_.productVersion(programPath())) << "the test program has none";
     const std::wstring text = in(L"text");
     write(text, "MZ but no program");
-    EXPECT_FALSE(productVersion(text));
-    EXPECT_FALSE(productVersion(in(L"absent")));
-    deleteFile(text);
+    EXPECT_FALSE(effects_.productVersion(text));
+    EXPECT_FALSE(effects_.productVersion(in(L"absent")));
+    effects_.deleteFile(text);
 }
 
 TEST(SetupInstanceGuard, LetsOneSetupWorkAtATime)
