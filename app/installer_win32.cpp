@@ -70,6 +70,8 @@ InstallerExit WindowsEffects::runInstaller(const std::wstring& parameters)
 {
     // By its full path, and working in the system folder: nothing that lies beside the setup can be meant.
     const std::wstring folder = systemFolder();
+    if (folder.empty())
+        return {false, ERROR_PATH_NOT_FOUND};
     return runAndWait(joinPath(folder, kInstallerProgram), parameters, folder);
 }
 

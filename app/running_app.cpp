@@ -47,8 +47,8 @@ void waitForProcessExit(SetupEffects& effects, std::uint32_t id, std::uint32_t m
     if (id == 0 || id == effects.ownProcessId())
         return;
     const OpenedProcess opened = effects.openProcess(id, ProcessAccess::Wait);
-    if (opened.process)
-        opened.process->wait(milliseconds);
+    const bool stays = opened.process && opened.process->wait(milliseconds) == WaitOutcome::TimedOut;
+    noteStep(effects, L"wait for process", stays ? kWaitTimeout : opened.error, vela::decimalText(id));
 }
 
 void closeRunningApp(SetupEffects& effects)

@@ -18,6 +18,7 @@ inline constexpr WindowsError kNoError = 0;
 inline constexpr WindowsError kErrorFileNotFound = 2;
 inline constexpr WindowsError kErrorInvalidData = 13;
 inline constexpr WindowsError kErrorGenFailure = 31;
+inline constexpr WindowsError kWaitTimeout = 258;
 inline constexpr WindowsError kErrorNoMoreItems = 259;
 inline constexpr WindowsError kErrorRevisionMismatch = 1306;
 

@@ -83,13 +83,19 @@ bool copySetupInto(SetupEffects& effects, const std::wstring& folder, std::wstri
     return false;
 }
 
+void notifyShell(SetupEffects& effects)
+{
+    effects.notifyShellChanged();
+    noteStep(effects, L"notify shell", kNoError);
+}
+
 bool integrate(SetupEffects& effects, const std::wstring& folder, const InstallRequest& request,
                std::wstring& message)
 {
     if (!copySetupInto(effects, folder, message) ||
         !configureShortcuts(effects, folder, request.startWithWindows, request.desktopShortcut, message))
         return false;
-    effects.notifyShellChanged();
+    notifyShell(effects);
     const std::wstring exePath = joinPath(folder, kApplicationFile);
     if (!verifyInstalledVersion(effects, exePath, message))
         return false;
@@ -128,6 +134,8 @@ SetupActionResult runUninstall(SetupEffects& effects)
 {
     SetupActionResult result = beginRun(effects, L"uninstall");
     const std::vector<std::wstring> codes = relatedProductCodes(effects);
+    noteStep(effects, L"find installed products", kNoError,
+             vela::decimalText(static_cast<std::uint32_t>(codes.size())));
     if (codes.empty()) {
         result.success = true;
         return result;
@@ -138,7 +146,7 @@ SetupActionResult runUninstall(SetupEffects& effects)
             return result;
     }
     removeShortcuts(effects);
-    effects.notifyShellChanged();
+    notifyShell(effects);
     result.success = true;
     return result;
 }

@@ -240,6 +240,7 @@ TEST(UninstallRun, SucceedsUntouchedWhenNothingIsInstalled)
     RecordingEffects effects;
     EXPECT_TRUE(runUninstall(effects).success);
     EXPECT_THAT(effects.calls, IsEmpty());
+    EXPECT_THAT(effects.log, ElementsAre(L"find installed products: ok (0)"));
 
     effects.products.assign(100000, L""); // an installer that never says where its list ends
     EXPECT_TRUE(runUninstall(effects).success);
