@@ -15,6 +15,8 @@ namespace {
 
 constexpr UINT kCloseRequest = WM_APP + 0x759;
 
+bool deaf = false; // to the close request; set before the window is there
+
 bool hasArgument(std::wstring_view commandLine, std::wstring_view name)
 {
     return commandLine.find(name) != std::wstring_view::npos;
@@ -63,7 +65,7 @@ LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARA
 {
     switch (message) {
     case kCloseRequest:
-        if (::GetWindowLongPtrW(window, GWLP_USERDATA) == 0) {
+        if (!deaf) {
             note(L"close", {});
             ::DestroyWindow(window);
         }
@@ -73,7 +75,7 @@ LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     }
 }
 
-void openWindow(HINSTANCE instance, bool deaf, int show)
+void openWindow(HINSTANCE instance, int show)
 {
     WNDCLASSW windowClass{};
     windowClass.lpfnWndProc = windowProcedure;
@@ -85,7 +87,6 @@ void openWindow(HINSTANCE instance, bool deaf, int show)
     const HWND window =
         ::CreateWindowExW(0, windowClass.lpszClassName, L"Tamber", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT,
                           CW_USEDEFAULT, 640, 400, nullptr, nullptr, instance, nullptr);
-    ::SetWindowLongPtrW(window, GWLP_USERDATA, deaf);
     ::ShowWindow(window, show);
 }
 
@@ -99,8 +100,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int show)
         ::Sleep(INFINITE);
         return 0;
     }
-    openWindow(instance, hasArgument(commandLine, L"--deaf"),
-               hasArgument(commandLine, L"--start-hidden") ? SW_HIDE : show);
+    deaf = hasArgument(commandLine, L"--deaf");
+    openWindow(instance, hasArgument(commandLine, L"--start-hidden") ? SW_HIDE : show);
     MSG message{};
     while (::GetMessageW(&message, nullptr, 0, 0) > 0)
         ::DispatchMessageW(&message);
