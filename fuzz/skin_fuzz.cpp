@@ -1,11 +1,10 @@
-// Any bytes, read as a skin document as the catalogue does, up to the style sheets of its skins: nothing in a
-// skin can make a reader fail, and the same skin always gives the same sheet.
+// Any bytes, read as a skin document as the catalogue does, up to the style sheet of its first skin: nothing
+// in a skin makes a reader fail or leads to a value outside its field's range.
 #include "vela/theme/json.h"
 #include "vela/theme/skin_document.h"
 #include "vela/theme/style_sections.h"
 #include "vela/theme/utf8.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -14,9 +13,6 @@
 namespace {
 
 using namespace vela;
-
-// A sheet takes far longer than reading a skin; more of them would only slow the hunt down.
-constexpr std::size_t kMostSheets = 2;
 
 void require(bool holds)
 {
@@ -47,10 +43,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         checkFont(skin.theme.monoFont);
         require(!skin.category.empty() && skin.source == kExternalSource);
     }
-    for (std::size_t i = 0; i < std::min(skins.size(), kMostSheets); ++i) {
-        const StyleSheet sheet = buildStyleSheet(skins[i]);
-        sheet.forEachTable([](ControlKind, const auto& table) { checkTable(table); });
-        require(buildStyleSheet(skins[i]) == sheet);
-    }
+    // A sheet takes far longer than reading a skin: more than one would only slow the hunt down.
+    if (!skins.empty())
+        buildStyleSheet(skins.front()).forEachTable([](ControlKind, const auto& table) {
+            checkTable(table);
+        });
     return 0;
 }
