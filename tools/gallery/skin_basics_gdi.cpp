@@ -1,7 +1,7 @@
 // Title bar, buttons, texts, check boxes, chips and progress bars.
 #include "tools/gallery/skin_parts_gdi.h"
 
-#include "vela/render/smooth_drawing.h"
+#include "vela/render/mark_painter.h"
 #include "vela/render/surface_painter.h"
 
 #include <algorithm>
@@ -66,8 +66,8 @@ void SkinPage::button(const Rect& rect, const ButtonStyle& style, VisualState st
 void SkinPage::arrow(const Rect& rect, vela::Color color, bool up) const
 {
     const std::int32_t side = std::min({rect.width, rect.height, 12});
-    vela::drawGlyph(sheet.dc(), up ? vela::Glyph::ChevronUp : vela::Glyph::ChevronDown,
-                    centered(rect, {side, side}), kDpi, color);
+    vela::paintGlyph(sheet.dc(), up ? vela::Glyph::ChevronUp : vela::Glyph::ChevronDown,
+                     centered(rect, {side, side}), kDpi, color);
 }
 
 std::int32_t drawTitleBar(const SkinPage& page, Rect bar, std::wstring_view title)
@@ -91,8 +91,8 @@ std::int32_t drawTitleBar(const SkinPage& page, Rect bar, std::wstring_view titl
         page.surface(place, style.titleButton.surface[button.state]);
         const vela::FontSpec& font = style.titleButton.text[button.state];
         const std::int32_t side = vela::captionGlyphSize(kDpi);
-        vela::drawGlyph(page.sheet.dc(), button.glyph, centered(place, {side, side}), kDpi,
-                        button.state == VisualState::Disabled ? font.disabledColor : font.color);
+        vela::paintGlyph(page.sheet.dc(), button.glyph, centered(place, {side, side}), kDpi,
+                         button.state == VisualState::Disabled ? font.disabledColor : font.color);
         right -= style.buttonWidth + style.buttonGap;
     }
     return bar.y + bar.height;
@@ -148,7 +148,7 @@ std::int32_t drawCheckBoxes(const SkinPage& page, vela::Point place)
         const bool disabled = i % 4 == 3;
         page.surface(box, style.*state.box);
         if (state.checked)
-            vela::drawGlyph(page.sheet.dc(), vela::Glyph::Check, inset(box, 3, 3), kDpi, style.checkColor);
+            vela::paintGlyph(page.sheet.dc(), vela::Glyph::Check, inset(box, 3, 3), kDpi, style.checkColor);
         page.text({cell.x + style.textLeft, cell.y, cell.width - style.textLeft, cell.height}, state.name,
                   style.text, {.tone = disabled ? TextTone::Disabled : TextTone::Enabled});
     }
@@ -181,8 +181,8 @@ std::int32_t drawProgressBars(const SkinPage& page, vela::Point place)
         Rect track = inset(frame, style.insetX, style.insetY);
         track.width -= style.labelWidth;
         page.surface(track, style.track);
-        vela::paintProgressSurface(page.sheet.dc(), track, style.fill,
-                                   static_cast<float>(track.width * value) / 100.0F);
+        vela::paintProgressFill(page.sheet.dc(), track, style.fill,
+                                static_cast<float>(track.width * value) / 100.0F);
         page.text({track.x + track.width, frame.y, style.labelWidth, frame.height},
                   std::to_wstring(value) + L"%", style.labelText, {.align = TextAlign::Center});
         left += frame.width + 14;

@@ -1,7 +1,7 @@
 // Text inputs, select boxes, scroll bars, tabs, list boxes, tables, menus and calendars.
 #include "tools/gallery/skin_parts_gdi.h"
 
-#include "vela/render/smooth_drawing.h"
+#include "vela/render/mark_painter.h"
 #include "vela/render/surface_painter.h"
 
 #include <string>
@@ -78,8 +78,8 @@ std::int32_t drawTextInputs(const SkinPage& page, vela::Point place)
                       chip.y + (chip.height - style.attachmentRemoveExtent) / 2, style.attachmentRemoveExtent,
                       style.attachmentRemoveExtent};
     page.surface(remove, style.attachmentRemoveSurface);
-    vela::drawGlyph(page.sheet.dc(), vela::Glyph::Close, inset(remove, 4, 4), kDpi,
-                    style.attachmentIconColor);
+    vela::paintGlyph(page.sheet.dc(), vela::Glyph::Close, inset(remove, 4, 4), kDpi,
+                     style.attachmentIconColor);
 
     const auto& selectable = page.styles.find<vela::SelectableTextStyle>(vela::kDefaultVariant);
     const Rect log{place.x + 190, place.y + 84, 368, 26};
@@ -213,8 +213,8 @@ std::int32_t drawTable(const SkinPage& page, vela::Point place)
                                      : i == 2 ? style.highSeverityText
                                               : style.rowText;
         if (rows[i].severity)
-            vela::fillSmoothShape(page.sheet.dc(), vela::ShapeKind::RoundedRect,
-                                  inset({row.x + 178, row.y, 92, row.height}, 0, 4), *rows[i].severity);
+            vela::paintBadge(page.sheet.dc(), inset({row.x + 178, row.y, 92, row.height}, 0, 4),
+                             vela::ShapeKind::RoundedRect, *rows[i].severity);
         page.text({row.x + 10, row.y, 150, row.height}, rows[i].name, font);
         page.text({row.x + 186, row.y, 84, row.height}, rows[i].kind, font);
         vela::fillShape(page.sheet.dc(), {row.x, row.y + row.height - 1, row.width, 1}, vela::ShapeKind::Rect,
@@ -254,19 +254,19 @@ std::int32_t drawMenu(const SkinPage& page, vela::Point place)
         if (i < 2)
             page.surface(item, i == 0 ? style.popupItemHotSurface : style.popupItemPressedSurface);
         if (i == 1)
-            vela::drawGlyph(page.sheet.dc(), vela::Glyph::Check,
-                            centered({item.x, item.y, style.checkColumnWidth, item.height}, {12, 12}), kDpi,
-                            style.check);
+            vela::paintGlyph(page.sheet.dc(), vela::Glyph::Check,
+                             centered({item.x, item.y, style.checkColumnWidth, item.height}, {12, 12}), kDpi,
+                             style.check);
         page.text({item.x + style.checkColumnWidth, item.y, 120, item.height}, kItems[i], style.itemText);
         page.text({item.x + item.width - style.shortcutColumnWidth, item.y, style.shortcutColumnWidth - 10,
                    item.height},
                   kShortcuts[i], style.shortcutText, {.align = TextAlign::Right});
         if (i == 2)
-            vela::drawGlyph(page.sheet.dc(), vela::Glyph::ChevronRight,
-                            centered({item.x + item.width - style.submenuArrowWidth, item.y,
-                                      style.submenuArrowWidth, item.height},
-                                     {10, 10}),
-                            kDpi, style.arrow);
+            vela::paintGlyph(page.sheet.dc(), vela::Glyph::ChevronRight,
+                             centered({item.x + item.width - style.submenuArrowWidth, item.y,
+                                       style.submenuArrowWidth, item.height},
+                                      {10, 10}),
+                             kDpi, style.arrow);
         top += style.popupItemHeight;
         if (i == 1) {
             vela::fillShape(page.sheet.dc(),
@@ -301,9 +301,9 @@ std::int32_t drawCalendar(const SkinPage& page, vela::Point place)
     for (const auto& [glyph, x] :
          {std::pair{vela::Glyph::ChevronLeft, header.x},
           std::pair{vela::Glyph::ChevronRight, header.x + header.width - style.navButtonExtent}})
-        vela::drawGlyph(page.sheet.dc(), glyph,
-                        centered({x, header.y, style.navButtonExtent, header.height}, {12, 12}), kDpi,
-                        style.arrowColor);
+        vela::paintGlyph(page.sheet.dc(), glyph,
+                         centered({x, header.y, style.navButtonExtent, header.height}, {12, 12}), kDpi,
+                         style.arrowColor);
     constexpr std::wstring_view kDays[] = {L"Po", L"Út", L"St", L"Čt", L"Pá", L"So", L"Ne"};
     const std::int32_t cell = inside.width / 7;
     for (int day = 0; day < 7; ++day)

@@ -2,7 +2,7 @@
 #include "tools/gallery/gallery_gdi.h"
 #include "tools/gallery/skin_parts_gdi.h"
 
-#include "vela/render/smooth_drawing.h"
+#include "vela/render/mark_painter.h"
 #include "vela/theme/style_sections.h"
 
 #include <algorithm>
@@ -88,14 +88,15 @@ std::int32_t drawPopups(const SkinPage& page, vela::Point place)
         const Rect icon{popup.x + style.paddingX, popup.y + (style.headerHeight - style.iconSize) / 2,
                         style.iconSize, style.iconSize};
         page.surface(icon, style.icon);
-        vela::drawGlyph(page.sheet.dc(), vela::Glyph::Info,
-                        centered(icon, {style.iconSize / 2, style.iconSize / 2}), kDpi, style.iconText.color);
+        vela::paintGlyph(page.sheet.dc(), vela::Glyph::Info,
+                         centered(icon, {style.iconSize / 2, style.iconSize / 2}), kDpi,
+                         style.iconText.color);
         page.text({icon.x + icon.width + 14, popup.y, 260, style.headerHeight}, L"Nainstalovano",
                   style.titleText);
         const Rect close{popup.x + popup.width - 40, popup.y + 8, 30, 26};
         page.surface(close, style.closeButton.surface.normal);
-        vela::drawGlyph(page.sheet.dc(), vela::Glyph::Close, centered(close, {10, 10}), kDpi,
-                        style.closeButton.text.normal.color);
+        vela::paintGlyph(page.sheet.dc(), vela::Glyph::Close, centered(close, {10, 10}), kDpi,
+                         style.closeButton.text.normal.color);
         page.text(inset({popup.x, popup.y + style.headerHeight, popup.width, 80}, style.paddingX,
                         style.paddingY / 2),
                   L"Tamber je připraven. Po zavření tohoto okna se aplikace otevře.", style.messageText,

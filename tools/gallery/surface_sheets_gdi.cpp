@@ -1,6 +1,6 @@
 // Sheets of surfaces without any control: shapes, gradients, layers, glyphs.
 #include "tools/gallery/gallery_gdi.h"
-#include "vela/render/smooth_drawing.h"
+#include "vela/render/mark_painter.h"
 #include "vela/render/surface_painter.h"
 #include "vela/theme/derive_style_sheet.h"
 #include "vela/theme/palette.h"
@@ -184,17 +184,17 @@ bool drawGlyphSheet(const std::wstring& path)
         for (std::int32_t glyph = 0; glyph < vela::kGlyphCount; ++glyph) {
             const Rect cell{kMargin + glyph * kCell, top, kCell, kCell};
             const std::int32_t side = 2 * vela::captionGlyphSize(dpi);
-            vela::drawGlyph(sheet.dc(), static_cast<vela::Glyph>(glyph), centered(cell, {side, side}), dpi,
-                            sheet.look().ink);
+            vela::paintGlyph(sheet.dc(), static_cast<vela::Glyph>(glyph), centered(cell, {side, side}), dpi,
+                             sheet.look().ink);
         }
         top += kCell;
     }
     for (std::int32_t shape = 0; shape < 9; ++shape) {
         const Rect cell{kMargin + shape * kCell, top, kCell, kCell};
-        vela::fillSmoothShape(sheet.dc(), static_cast<ShapeKind>(shape), centered(cell, {44, 28}),
-                              hexColor(0x6FA3A8));
-        vela::strokeSmoothShape(sheet.dc(), static_cast<ShapeKind>(shape), centered(cell, {54, 38}), 1.5F,
-                                hexColor(0xE2AA58));
+        vela::paintBadge(sheet.dc(), centered(cell, {44, 28}), static_cast<ShapeKind>(shape),
+                         hexColor(0x6FA3A8));
+        vela::paintFocusRing(sheet.dc(), centered(cell, {54, 38}), static_cast<ShapeKind>(shape), kDpi,
+                             hexColor(0xE2AA58));
     }
     return sheet.save(path);
 }

@@ -16,6 +16,9 @@ void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color co
 // A band along the inside of the shape's outline, as wide as the DPI asks for.
 void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi, Color color);
 
+// A dot or a small plate behind a symbol.
+void paintBadge(HDC dc, const Rect& rect, ShapeKind shape, Color color);
+
 // The fill's surface from the track's left edge to `end` pixels, which may be a fraction.
 void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end);
 

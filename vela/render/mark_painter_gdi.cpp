@@ -1,6 +1,6 @@
 #include "vela/render/mark_painter.h"
 
-#include "vela/render/owned_gdi.h"
+#include "vela/render/dib_gdi.h"
 #include "vela/render/pixel_layer_gdi.h"
 #include "vela/render/surface_painter.h"
 
@@ -14,53 +14,13 @@ namespace {
 constexpr float kDesignDpi = 96.0F;
 constexpr float kFocusRingWidth = 2.0F; // pixels at 96 DPI: the least that is seen on every monitor
 
-// A bitmap of our own that shows what the device context shows in that rectangle, in the same coordinates.
-class PaintedCopy {
-public:
-    PaintedCopy(HDC dc, const Rect& rect) : size_(sizeOf(rect)), memory_(::CreateCompatibleDC(dc))
-    {
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof(info.bmiHeader);
-        info.bmiHeader.biWidth = size_.width;
-        info.bmiHeader.biHeight = -size_.height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        void* bits = nullptr;
-        bitmap_ = OwnedBitmap(::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        pixels_ = static_cast<Pixel*>(bits);
-        if (!bitmap_ || !memory_)
-            return;
-        previous_ = ::SelectObject(memory_.get(), bitmap_.get());
-        ::BitBlt(memory_.get(), 0, 0, size_.width, size_.height, dc, rect.x, rect.y, SRCCOPY);
-        ::SetViewportOrgEx(memory_.get(), -rect.x, -rect.y, nullptr);
-    }
-    ~PaintedCopy()
-    {
-        if (previous_)
-            ::SelectObject(memory_.get(), previous_);
-    }
-    PaintedCopy(const PaintedCopy&) = delete;
-    PaintedCopy& operator=(const PaintedCopy&) = delete;
-
-    explicit operator bool() const noexcept { return previous_ != nullptr; }
-    HDC dc() const noexcept { return memory_.get(); }
-
-    // The pixels, all of them opaque: GDI leaves their alpha undefined.
-    PixelView opaquePixels() noexcept
-    {
-        ::GdiFlush();
-        const std::ptrdiff_t count = std::ptrdiff_t{size_.width} * size_.height;
-        std::for_each(pixels_, pixels_ + count, [](Pixel& pixel) { pixel |= 0xFF000000; });
-        return {pixels_, size_, size_.width};
-    }
-
-private:
-    Size size_;
-    OwnedMemoryDc memory_;
-    OwnedBitmap bitmap_;
-    Pixel* pixels_ = nullptr;
-    HGDIOBJ previous_ = nullptr;
-};
+// GDI leaves the alpha of what it draws undefined.
+void makeOpaque(const PixelView& pixels)
+{
+    for (std::int32_t y = 0; y < pixels.size.height; ++y)
+        std::for_each(pixels.row(y), pixels.row(y) + pixels.size.width,
+                      [](Pixel& pixel) { pixel |= 0xFF000000; });
+}
 
 } // namespace
 
@@ -79,19 +39,31 @@ void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi,
     });
 }
 
+void paintBadge(HDC dc, const Rect& rect, ShapeKind shape, Color color)
+{
+    renderPixelLayer(dc, rect, [&](const LayerTarget& target) {
+        fillSmoothShape(target, shape, {0, 0, rect.width, rect.height}, color);
+    });
+}
+
 // The whole fill is painted on a copy of what lies under it; of that picture the part up to the end is laid
 // back with a smooth edge.
 void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end)
 {
-    if (isEmpty(track) || end <= 0.0F)
+    const float reach = std::clamp(end, 0.0F, static_cast<float>(track.width));
+    const Rect filled{track.x, track.y, static_cast<std::int32_t>(std::ceil(reach)), track.height};
+    const Rect visible = visiblePart(dc, filled);
+    const DibSurface copy(sizeOf(visible));
+    if (isEmpty(visible) || !copy)
         return;
-    PaintedCopy copy(dc, track);
-    if (!copy)
-        return;
+    ::BitBlt(copy.dc(), 0, 0, visible.width, visible.height, dc, visible.x, visible.y, SRCCOPY);
+    ::SetViewportOrgEx(copy.dc(), -visible.x, -visible.y, nullptr);
     paintSurface(copy.dc(), track, fill);
-    const PixelView pixels = copy.opaquePixels();
-    cutToProgress({pixels, {0, 0}}, fill.shape, {0, 0, track.width, track.height}, end);
-    compositePixelBuffer(dc, track, pixels);
+    const PixelView pixels = copy.pixels();
+    makeOpaque(pixels);
+    cutToProgress({pixels, {visible.x - track.x, visible.y - track.y}}, fill.shape,
+                  {0, 0, track.width, track.height}, reach);
+    compositePixelBuffer(dc, visible, pixels);
 }
 
 } // namespace vela

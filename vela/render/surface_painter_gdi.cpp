@@ -3,38 +3,62 @@
 #include "vela/render/clip_gdi.h"
 #include "vela/render/paint_plan.h"
 #include "vela/render/pixel_layer_gdi.h"
+#include "vela/render/surface_bitmaps.h"
+#include "vela/render/surface_outline.h"
 
 namespace vela {
 namespace {
 
-void paintStep(HDC dc, const PaintStep& step, const Rect& surface, const SurfaceStyle& style)
+// One surface while it is painted.
+struct Surface {
+    HDC dc;
+    Rect rect;
+    const SurfaceStyle& style;
+    const LoadedBitmaps& bitmaps;
+};
+
+void paintPixels(const Surface& surface, const PaintStep& step)
 {
+    const SurfaceStyle& style = surface.style;
+    const RunMask* const outline = surfaceOutline(style, sizeOf(step.rect), surface.bitmaps);
+    const Coverage coverage = outline ? Coverage(*outline) : Coverage(style.shape, sizeOf(step.rect));
+    renderPixelLayer(surface.dc, step.rect, [&](const LayerTarget& target) {
+        if (step.layer == SurfaceLayer::Bitmap)
+            fillBitmap(target, coverage, *surface.bitmaps.skin, bitmapPlacement(style, coverage.size()));
+        else
+            fillLayer(target, coverage, step, style, {surface.rect.x, surface.rect.y});
+    });
+}
+
+void paintStep(const Surface& surface, const PaintStep& step)
+{
+    const ShapeKind shape = surface.style.shape;
     switch (step.layer) {
-    case SurfaceLayer::Fill: return fillShape(dc, step.rect, style.shape, step.color);
+    case SurfaceLayer::Fill: return fillShape(surface.dc, step.rect, shape, step.color);
     case SurfaceLayer::Border:
     case SurfaceLayer::Outline:
-        return strokeShapeOutline(dc, step.rect, style.shape, step.color, step.penWidth);
-    case SurfaceLayer::Bitmap: return;
-    case SurfaceLayer::Material: return drawMaterialOverlay(dc, step.rect, style);
-    default: break;
+        return strokeShapeOutline(surface.dc, step.rect, shape, step.color, step.penWidth);
+    case SurfaceLayer::Material: return drawMaterialOverlay(surface.dc, step.rect, surface.style);
+    default: return paintPixels(surface, step);
     }
-    const Coverage coverage(style.shape, sizeOf(step.rect));
-    renderPixelLayer(dc, step.rect, [&](const LayerTarget& target) {
-        fillLayer(target, coverage, step, style, {surface.x, surface.y});
-    });
 }
 
 void drawLayer(HDC dc, SurfaceLayer layer, const Rect& rect, const SurfaceStyle& style)
 {
-    paintStep(dc, {layer, rect}, rect, style);
+    paintStep({dc, rect, style, surfaceBitmaps(style)}, {layer, rect});
 }
 
 } // namespace
 
 void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
-    for (const PaintStep& step : paintPlan(style, rect, clipBox(dc)))
-        paintStep(dc, step, rect, style);
+    if (!isVisible(dc, rect))
+        return; // before any bitmap is loaded for it
+    const LoadedBitmaps bitmaps = surfaceBitmaps(style);
+    const Surface surface{dc, rect, style, bitmaps};
+    const BitmapCover cover = bitmaps.skin ? bitmaps.skin->cover() : BitmapCover::None;
+    for (const PaintStep& step : paintPlan(style, rect, clipBox(dc), cover))
+        paintStep(surface, step);
 }
 
 void drawGradientShape(HDC dc, const Rect& rect, const SurfaceStyle& style)
