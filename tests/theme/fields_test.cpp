@@ -3,6 +3,7 @@
 
 #include "tests/theme/skin_text.h"
 #include "vela/theme/field_reader.h"
+#include "vela/theme/record_copy.h"
 #include "vela/theme/style_sections.h"
 
 #include <gtest/gtest.h>

@@ -44,6 +44,16 @@ TEST(RecordScale, CountsAndTimesStay)
     EXPECT_EQ(scaled.itemHeight, 2 * SelectBoxStyle{}.itemHeight);
 }
 
+TEST(RecordScale, WhatIsDescribedTwiceGrowsOnce)
+{
+    TabsStyle tabs;
+    tabs.itemButton.surface.hot.glowRadius = 10;
+    BitmapButtonStyle button;
+    button.image.glowRadius = 10;
+    EXPECT_EQ(scaledToDpi(tabs, 192).itemButton.surface.hot.glowRadius, 20);
+    EXPECT_EQ(scaledToDpi(button, 192).image.glowRadius, 20);
+}
+
 TEST(RecordScale, AThinLineStaysVisibleAndAHugeOneSaturates)
 {
     EXPECT_EQ(scaledLength(1, 40), 1);

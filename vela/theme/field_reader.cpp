@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <optional>
 #include <string>
 #include <utility>
@@ -298,36 +297,6 @@ private:
     KeyStyle style_;
 };
 
-// Of the members that hold plain bytes; the others of a control's record are surfaces and fonts.
-std::size_t plainSize(FieldKind kind) noexcept
-{
-    switch (kind) {
-    case FieldKind::Boolean:
-    case FieldKind::ColorGiven:
-    case FieldKind::Byte:
-    case FieldKind::Word: return 1;
-    case FieldKind::ColorValue:
-    case FieldKind::Length:
-    case FieldKind::Integer:
-    case FieldKind::Unsigned:
-    case FieldKind::Weight: return sizeof(std::int32_t);
-    case FieldKind::InsetSides: return sizeof(Insets);
-    case FieldKind::Text:
-    case FieldKind::Role:
-    case FieldKind::Colors:
-    case FieldKind::Record:
-    case FieldKind::States:
-    case FieldKind::Geometry:
-    case FieldKind::SurfaceMaterial:
-    case FieldKind::SurfaceImage:
-    case FieldKind::SurfaceImagePath:
-    case FieldKind::SurfaceAlphaShape:
-    case FieldKind::ProfileMaterial:
-    case FieldKind::ProfilePreset: return 0;
-    }
-    return 0;
-}
-
 // Whether the name is the first segment of the key, whose "*" stands for each state.
 bool startsKey(std::string_view key, std::wstring_view name)
 {
@@ -375,30 +344,6 @@ void spreadShapes(const FieldTable& table, void* record) noexcept
             shapeSurface(field, record, memberAt<ShapeKind>(record, field.shapedBy));
         else if (field.kind == FieldKind::Record)
             spreadShapes(tableOf(field), &memberAt<std::byte>(record, field.offset));
-    }
-}
-
-void copyRecord(const FieldTable& table, const void* from, void* to)
-{
-    if (&table == &Fields<SurfaceStyle>::kTable) {
-        *static_cast<SurfaceStyle*>(to) = *static_cast<const SurfaceStyle*>(from);
-        return;
-    }
-    if (&table == &Fields<FontSpec>::kTable) {
-        *static_cast<FontSpec*>(to) = *static_cast<const FontSpec*>(from);
-        return;
-    }
-    for (const Field& field : table.fields) {
-        const auto* const source = static_cast<const std::byte*>(from) + field.offset;
-        auto* const target = static_cast<std::byte*>(to) + field.offset;
-        if (field.kind == FieldKind::Record || field.kind == FieldKind::States) {
-            const std::size_t count = field.kind == FieldKind::States ? kVisualStateCount : 1;
-            for (std::size_t i = 0; i < count; ++i)
-                copyRecord(tableOf(field), source + i * tableOf(field).recordSize,
-                           target + i * tableOf(field).recordSize);
-        } else {
-            std::memcpy(target, source, plainSize(field.kind));
-        }
     }
 }
 

@@ -36,8 +36,4 @@ bool isFieldKey(const FieldTable& table, std::wstring_view key, KeyStyle keys = 
 // Writes the shape fields of a record, and of the records within it, into the surfaces they shape.
 void spreadShapes(const FieldTable& table, void* record) noexcept;
 
-// Assigns one record of the table's type to another. For code that serves many types: the compiler's own
-// assignment of records that hold dozens of surfaces is long.
-void copyRecord(const FieldTable& table, const void* from, void* to);
-
 } // namespace vela

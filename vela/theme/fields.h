@@ -73,6 +73,10 @@ inline const FieldTable& tableOf(const Field& field) noexcept
     return *static_cast<const FieldTable*>(field.detail);
 }
 
+// A member of a nested record, listed without keys because a shape of this record shapes it. The nested
+// record's own table describes it.
+inline bool isShapedOnly(const Field& field) noexcept { return *field.keys == '\0'; }
+
 inline bool holdsShape(const Field& field) noexcept
 {
     return field.kind == FieldKind::Word && field.detail == &kShapeWords;

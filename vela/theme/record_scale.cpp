@@ -49,7 +49,7 @@ void scaleRecord(void* record, const FieldTable& table, std::int32_t dpi)
         const bool described = std::any_of(table.fields.data(), &field, [&field](const Field& earlier) {
             return earlier.offset == field.offset && earlier.kind == field.kind;
         });
-        if (!described)
+        if (!described && !isShapedOnly(field))
             scaleField(static_cast<std::byte*>(record), field, dpi);
     }
 }

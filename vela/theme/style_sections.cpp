@@ -2,6 +2,7 @@
 
 #include "vela/theme/derive_style_sheet.h"
 #include "vela/theme/field_reader.h"
+#include "vela/theme/record_copy.h"
 
 #include <algorithm>
 #include <array>
