@@ -65,6 +65,9 @@ bool hasWindow(DWORD processId)
 
 void SetupTest::SetUp()
 {
+    // Under Wine a desktop that nobody uses is taken down, and starts anew for every program that has a
+    // window.
+    ::GetDesktopWindow();
     removeEverything();
     std::filesystem::create_directories(kPlayground);
 }
