@@ -320,6 +320,30 @@ void readRecord(const SkinView& view, const FieldTable& table, void* record, Key
         RecordReader(view, table, record, keys).read();
 }
 
+bool acceptsText(const Field& field, std::wstring_view text)
+{
+    // One place of each type that a field can have; which one the text lands in follows from the kind.
+    SurfaceStyle surface;
+    MaterialProfile profile;
+    Insets insets;
+    std::wstring string;
+    std::vector<ThemeColor> colors;
+    std::optional<PaletteRole> role;
+    std::uint32_t scalar = 0;
+    switch (field.kind) {
+    case FieldKind::SurfaceMaterial:
+    case FieldKind::SurfaceImagePath:
+    case FieldKind::SurfaceAlphaShape: return readText(field, text, &surface, &surface);
+    case FieldKind::ProfileMaterial: return readText(field, text, &profile, &profile);
+    case FieldKind::ProfilePreset: return readText(field, text, &profile, &profile.control);
+    case FieldKind::Text: return readText(field, text, nullptr, &string);
+    case FieldKind::Colors: return readText(field, text, nullptr, &colors);
+    case FieldKind::Role: return readText(field, text, nullptr, &role);
+    case FieldKind::InsetSides: return readText(field, text, nullptr, &insets);
+    default: return readText(field, text, nullptr, &scalar);
+    }
+}
+
 bool isFieldKey(const FieldTable& table, std::wstring_view key, KeyStyle keys)
 {
     for (const Field& field : table.fields) {

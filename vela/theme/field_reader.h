@@ -33,6 +33,9 @@ void readRecord(const SkinMap& map, std::wstring_view prefix, Record& record)
 // Whether a key is that of a field, or the first segment of one.
 bool isFieldKey(const FieldTable& table, std::wstring_view key, KeyStyle keys = KeyStyle::Full);
 
+// Whether a text, in place of what the field holds, would be read; for tools, since reading reports nothing.
+bool acceptsText(const Field& field, std::wstring_view text);
+
 // Writes the shape fields of a record, and of the records within it, into the surfaces they shape.
 void spreadShapes(const FieldTable& table, void* record) noexcept;
 
