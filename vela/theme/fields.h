@@ -29,12 +29,12 @@ enum class FieldKind : std::uint8_t {
     Record,     // a record of its own; its table is the detail
     States,     // PerState of such a record
     Geometry,   // Boxed<SurfaceGeometry>, made when one of its keys is present; its table is the detail
-    // These three work on the whole SurfaceStyle:
+    // These work on the whole SurfaceStyle:
     SurfaceMaterial, // a named material or a preset
     SurfaceImage,    // the bitmap and its tint; the table of BitmapSkin is the detail
     SurfaceImagePath,
     SurfaceAlphaShape, // a word of AlphaHitMode where a shape may stand, or a switch
-    // This one on the whole MaterialProfile:
+    // And these on the MaterialProfile:
     ProfileMaterial,
     ProfilePreset, // MaterialPreset, a named material counts as its preset
 };

@@ -77,10 +77,7 @@ public:
         return nullptr;
     }
 
-    Record& set(std::wstring_view name, Record record)
-    {
-        return ensure(name) = std::move(record);
-    }
+    Record& set(std::wstring_view name, Record record) { return ensure(name) = std::move(record); }
 
     // The record of that name; a plain one is added when there is none. Additions move the other records.
     Record& ensure(std::wstring_view name)

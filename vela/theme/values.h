@@ -1,5 +1,5 @@
-// The scalar values that skins write as text, beside the integers of vela/text.h. None of the readers throws, depends on the locale or overflows;
-// all give nothing for text that is not such a value.
+// The scalar values that skins write as text, beside the integers of vela/text.h. None of the readers throws,
+// depends on the locale or overflows; all give nothing for text that is not such a value.
 #pragma once
 
 #include "vela/theme/color.h"
