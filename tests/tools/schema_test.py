@@ -30,6 +30,11 @@ class SchemaTest(unittest.TestCase):
         kept = (SOURCE / "resources/skin.schema.json").read_text(encoding="utf-8")
         self.assertTrue(kept == self.text, "resources/skin.schema.json is out of date: skin_lint --schema makes it")
 
+    def test_the_reference_of_keys_is_current(self):
+        made = subprocess.run([LINT, "--keys"], check=True, capture_output=True).stdout.decode()
+        kept = (SOURCE / "docs/skin-keys.md").read_text(encoding="utf-8")
+        self.assertTrue(kept == made, "docs/skin-keys.md is out of date: skin_lint --keys makes it")
+
     def test_the_default_document_is_valid(self):
         self.assertEqual(self.errors(json.loads((SOURCE / "resources/00-vela-default-skins.json").read_text())), [])
 

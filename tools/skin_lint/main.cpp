@@ -1,6 +1,8 @@
 // skin_lint [--json] FILE...   what the program would silently pass over in skin documents; exit code 0 or 1
 // skin_lint --schema           the JSON Schema of skin documents, for editors
+// skin_lint --keys             the reference of all keys, as Markdown
 #include "tools/skin_lint/document_lint.h"
+#include "tools/skin_lint/key_reference.h"
 #include "tools/skin_lint/schema.h"
 #include "vela/theme/skin_files.h"
 #include "vela/theme/utf8.h"
@@ -41,9 +43,15 @@ FileReport lintFile(const char* path, std::vector<KnownId>& known)
 
 int usage()
 {
-    std::cerr << "usage: skin_lint [--json] FILE...\n       skin_lint --schema\n";
+    std::cerr << "usage: skin_lint [--json] FILE...\n       skin_lint --schema | --keys\n";
     return 2;
 }
+
+// Options that print something made from the descriptions of skins, and nothing else.
+constexpr struct {
+    const char* option;
+    std::string (*make)();
+} kPrinted[] = {{"--schema", skinSchema}, {"--keys", keyReference}};
 
 } // namespace
 
@@ -52,9 +60,11 @@ int main(int argc, char** argv)
     bool json = false;
     std::vector<const char*> files;
     for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--schema") == 0) {
-            std::cout << skinSchema();
-            return 0;
+        for (const auto& printed : kPrinted) {
+            if (std::strcmp(argv[i], printed.option) == 0) {
+                std::cout << printed.make();
+                return 0;
+            }
         }
         if (std::strcmp(argv[i], "--json") == 0)
             json = true;
