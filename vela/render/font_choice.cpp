@@ -1,5 +1,7 @@
 #include "vela/render/font_choice.h"
 
+#include "vela/mul_div.h"
+
 #include "vela/text.h"
 
 #include <algorithm>
@@ -23,13 +25,13 @@ constexpr std::wstring_view kFontExtensions[] = {L".ttf", L".otf", L".ttc", L".o
 
 // A point size comes from a skin and may be anything; beyond this no text fits a screen.
 constexpr std::int32_t kMaxPointSize = 400;
+constexpr std::int32_t kPointsPerInch = 72;
 
 } // namespace
 
 std::int32_t emPixels(std::int32_t pointSize, std::int32_t dpi) noexcept
 {
-    const std::int64_t points = std::clamp(pointSize, 1, kMaxPointSize);
-    return static_cast<std::int32_t>((points * std::clamp(dpi, 1, 9600) + 36) / 72); // rounded like MulDiv
+    return mulDiv(std::clamp(pointSize, 1, kMaxPointSize), std::clamp(dpi, 1, 9600), kPointsPerInch);
 }
 
 FontFace chooseFace(std::wstring_view family, std::int32_t weight,

@@ -1,5 +1,7 @@
 #include "vela/render/paint_plan.h"
 
+#include "vela/mul_div.h"
+
 #include "vela/render/gradient.h"
 #include "vela/render/inner_shadow.h"
 #include "vela/render/lengths.h"
@@ -11,12 +13,6 @@
 
 namespace vela {
 namespace {
-
-// a * b / c for lengths, rounded half up as the system's own MulDiv does.
-std::int32_t mulDiv(std::int64_t a, std::int64_t b, std::int64_t c) noexcept
-{
-    return static_cast<std::int32_t>((a * b + c / 2) / c);
-}
 
 Rect grownBy(const Rect& rect, std::int32_t growth) noexcept
 {

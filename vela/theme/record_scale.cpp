@@ -1,13 +1,13 @@
 #include "vela/theme/record_scale.h"
 
+#include "vela/mul_div.h"
+
 #include <algorithm>
 #include <cstddef>
 
 namespace vela {
 
 namespace {
-
-constexpr std::int32_t kDesignDpi = 96;
 
 void scaleField(std::byte* record, const Field& field, std::int32_t dpi)
 {
@@ -34,10 +34,8 @@ std::int32_t scaledLength(std::int32_t designPixels, std::int32_t dpi) noexcept
 {
     if (dpi <= 0 || dpi == kDesignDpi || designPixels == 0)
         return designPixels;
-    const std::int64_t product = std::int64_t{designPixels} * dpi;
-    const std::int64_t rounded = (product + (product < 0 ? -kDesignDpi / 2 : kDesignDpi / 2)) / kDesignDpi;
-    const std::int64_t visible = rounded != 0 ? rounded : (designPixels < 0 ? -1 : 1);
-    return static_cast<std::int32_t>(std::clamp<std::int64_t>(visible, INT32_MIN, INT32_MAX));
+    const std::int32_t scaled = mulDiv(designPixels, dpi, kDesignDpi);
+    return scaled != 0 ? scaled : (designPixels < 0 ? -1 : 1);
 }
 
 void scaleRecord(void* record, const FieldTable& table, std::int32_t dpi)
