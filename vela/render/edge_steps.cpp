@@ -8,110 +8,132 @@ namespace {
 
 using Steps = std::uint8_t;
 
-// Steps to the outline for each column of one row, when the search goes towards the row before: straight on
-// and along both diagonals. They follow from those of the row before, one more in a covered pixel, none in
-// any other, so a whole surface is searched in one walk.
+// By value: the compiler turns loops of it into vector code.
+constexpr Steps lesser(Steps a, Steps b) noexcept { return a < b ? a : b; }
+
+// One row's steps towards the rows before it: straight on and along both diagonals. One column beyond the
+// outline stands on either side of the surface.
+class FrontRow {
+public:
+    explicit FrontRow(std::int32_t width) : stride_(static_cast<std::size_t>(width) + 2), steps_(3 * stride_)
+    {
+    }
+
+    Steps* up() { return steps_.data() + 1; }
+    Steps* upLeft() { return steps_.data() + stride_ + 1; }
+    Steps* upRight() { return steps_.data() + 2 * stride_ + 1; }
+    void clear() { std::fill(steps_.begin(), steps_.end(), Steps{0}); }
+    void fill(std::int32_t width, Steps steps)
+    {
+        for (Steps* const direction : {up(), upLeft(), upRight()})
+            std::fill_n(direction, width, steps);
+    }
+
+private:
+    std::size_t stride_;
+    std::vector<Steps> steps_;
+};
+
+// Walks over a surface row by row. The steps of a row follow from those of the row before, one more in a
+// covered pixel and none in any other, so one walk searches from every pixel.
 class Front {
 public:
-    // Outside the surface is outline. When the walk starts inside it, what lies before is out of reach.
-    Front(std::int32_t width, Steps limit, bool atSurfaceEdge)
-        : limit_(limit), stride_(static_cast<std::size_t>(width) + 2), storage_(2 * kDirections * stride_)
+    // When the walk starts inside the surface, what lies before is out of reach.
+    Front(std::int32_t width, Steps limit, bool atSurfaceEdge) : limit_(limit), before_(width), here_(width)
     {
         if (!atSurfaceEdge)
-            for (std::size_t direction = 0; direction < kDirections; ++direction)
-                std::fill_n(next(direction), width, beyond());
+            here_.fill(width, static_cast<Steps>(limit + 1));
     }
 
     void enterRow()
     {
-        std::swap(now_, next_);
-        std::fill_n(storage_.begin() + static_cast<std::ptrdiff_t>(next_ * kDirections * stride_),
-                    kDirections * stride_, Steps{0});
+        std::swap(before_, here_);
+        here_.clear();
     }
 
-    void cover(Span run)
+    // Lowers the steps found so far to those of this walk.
+    void cover(Span run, Steps* __restrict straight, Steps* __restrict diagonal)
     {
-        for (std::size_t direction = 0; direction < kDirections; ++direction) {
-            const Steps* before = now(direction) + static_cast<std::ptrdiff_t>(direction) - 1;
-            Steps* here = next(direction);
-            for (std::int32_t x = run.begin; x < run.end; ++x)
-                here[x] = static_cast<Steps>(std::min(before[x], limit_) + 1);
+        const Steps limit = limit_;
+        const Steps* const wasUp = before_.up();
+        const Steps* const wasUpLeft = before_.upLeft() - 1;
+        const Steps* const wasUpRight = before_.upRight() + 1;
+        Steps* __restrict up = here_.up();
+        Steps* __restrict upLeft = here_.upLeft();
+        Steps* __restrict upRight = here_.upRight();
+        const auto oneMore = [limit](Steps steps) { return static_cast<Steps>(lesser(steps, limit) + 1); };
+        for (std::int32_t x = run.begin; x < run.end; ++x) {
+            up[x] = oneMore(wasUp[x]);
+            straight[x] = lesser(straight[x], up[x]);
+        }
+        for (std::int32_t x = run.begin; x < run.end; ++x) {
+            upLeft[x] = oneMore(wasUpLeft[x]);
+            upRight[x] = oneMore(wasUpRight[x]);
+            diagonal[x] = lesser(diagonal[x], lesser(upLeft[x], upRight[x]));
         }
     }
 
-    Steps straight(std::int32_t x) const { return next(1)[x]; }
-    Steps diagonal(std::int32_t x) const { return std::min(next(0)[x], next(2)[x]); }
-    Steps beyond() const { return static_cast<Steps>(limit_ + 1); }
-
 private:
-    static constexpr std::size_t kDirections =
-        3; // the column to the left, the same one, the one to the right
-
-    // One column of outline stands on either side of the surface.
-    const Steps* now(std::size_t direction) const
-    {
-        return storage_.data() + (now_ * kDirections + direction) * stride_ + 1;
-    }
-    Steps* next(std::size_t direction)
-    {
-        return storage_.data() + (next_ * kDirections + direction) * stride_ + 1;
-    }
-    const Steps* next(std::size_t direction) const
-    {
-        return storage_.data() + (next_ * kDirections + direction) * stride_ + 1;
-    }
-
     Steps limit_;
-    std::size_t stride_;
-    std::size_t now_ = 1;
-    std::size_t next_ = 0;
-    std::vector<Steps> storage_;
+    FrontRow before_;
+    FrontRow here_;
 };
 
 } // namespace
 
 EdgeSteps::EdgeSteps(const Coverage& coverage, Span visibleRows, std::uint8_t limit)
-    : rows_(intersect({0, coverage.size().height}, {visibleRows.begin - limit, visibleRows.end + limit})),
-      width_(coverage.size().width), limit_(limit),
-      straight_(static_cast<std::size_t>(rows_.length()) * static_cast<std::size_t>(width_)),
-      diagonal_(straight_.size())
+    : size_(coverage.size()),
+      rows_(intersect({0, size_.height}, {visibleRows.begin - limit, visibleRows.end + limit})),
+      limit_(limit),
+      straight_(static_cast<std::size_t>(rows_.length()) * static_cast<std::size_t>(size_.width),
+                static_cast<Steps>(limit + 1)),
+      diagonal_(straight_)
 {
-    searchDown(coverage);
-    searchUp(coverage);
+    searchUpwards(coverage);
+    searchDownwards(coverage);
+    searchSideways(coverage);
 }
 
-// Looks up and to both sides.
-void EdgeSteps::searchDown(const Coverage& coverage)
+void EdgeSteps::searchUpwards(const Coverage& coverage)
 {
-    Front front(width_, limit_, rows_.begin == 0);
+    Front front(size_.width, limit_, rows_.begin == 0);
     for (std::int32_t y = rows_.begin; y < rows_.end; ++y) {
         front.enterRow();
-        Steps* const straight = straight_.data() + offset(y);
-        Steps* const diagonal = diagonal_.data() + offset(y);
-        coverage.forEachRun(y, {0, width_}, [&](Span run) {
-            front.cover(run);
-            for (std::int32_t x = run.begin; x < run.end; ++x) {
-                const std::int32_t side = std::min(x - run.begin + 1, run.end - x);
-                straight[x] = static_cast<Steps>(std::min<std::int32_t>(side, front.straight(x)));
-                diagonal[x] = front.diagonal(x);
-            }
+        coverage.forEachRun(y, {0, size_.width}, [&](Span run) {
+            front.cover(run, straight_.data() + offset(y), diagonal_.data() + offset(y));
         });
     }
 }
 
-// Looks down.
-void EdgeSteps::searchUp(const Coverage& coverage)
+void EdgeSteps::searchDownwards(const Coverage& coverage)
 {
-    Front front(width_, limit_, rows_.end == coverage.size().height);
+    Front front(size_.width, limit_, rows_.end == size_.height);
     for (std::int32_t y = rows_.end - 1; y >= rows_.begin; --y) {
         front.enterRow();
-        Steps* const straight = straight_.data() + offset(y);
-        Steps* const diagonal = diagonal_.data() + offset(y);
-        coverage.forEachRun(y, {0, width_}, [&](Span run) {
-            front.cover(run);
-            for (std::int32_t x = run.begin; x < run.end; ++x) {
-                straight[x] = std::min(straight[x], front.straight(x));
-                diagonal[x] = std::min(diagonal[x], front.diagonal(x));
+        coverage.forEachRun(y, {0, size_.width}, [&](Span run) {
+            front.cover(run, straight_.data() + offset(y), diagonal_.data() + offset(y));
+        });
+    }
+}
+
+// To both ends of each run, and to the edges of the surface, which are one step nearer than what lies beyond.
+void EdgeSteps::searchSideways(const Coverage& coverage)
+{
+    for (std::int32_t y = rows_.begin; y < rows_.end; ++y) {
+        Steps* const row = straight_.data() + offset(y);
+        const std::int32_t toRow = std::min({y, size_.height - 1 - y, std::int32_t{limit_} + 1});
+        const auto lower = [row](std::int32_t x, std::int32_t steps) {
+            row[x] = static_cast<Steps>(std::min<std::int32_t>(row[x], steps));
+        };
+        coverage.forEachRun(y, {0, size_.width}, [&](Span run) {
+            for (std::int32_t x = run.begin; x < run.end; ++x)
+                row[x] = lesser(row[x], static_cast<Steps>(toRow));
+            const std::int32_t reach = std::min<std::int32_t>(limit_ + 1, run.length());
+            for (std::int32_t i = 0; i < reach; ++i) {
+                const std::int32_t left = run.begin + i;
+                const std::int32_t right = run.end - 1 - i;
+                lower(left, std::min(i + 1, left));
+                lower(right, std::min(i + 1, size_.width - 1 - right));
             }
         });
     }

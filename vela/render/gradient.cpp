@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <vector>
 
 namespace vela {
 namespace {
@@ -80,6 +81,18 @@ void fillAlongAxis(const LayerTarget& target, const Coverage& coverage, const Co
     const double alongColumn = axis.acrossV * perPixel(coverage.size().height);
     paintCovered(target, coverage, [&](Pixel* first, Span run, std::int32_t y) {
         ramp.fillRun(first, run.length(), axis.offset + alongRow * run.begin + alongColumn * y, alongRow);
+    });
+}
+
+// All rows are parts of one.
+void fillAcross(const LayerTarget& target, const Coverage& coverage, const ColorRamp& ramp, const Axis& axis)
+{
+    const Rect visible = target.visible();
+    const double step = axis.acrossU * perPixel(coverage.size().width);
+    std::vector<Pixel> row(static_cast<std::size_t>(visible.width));
+    ramp.fillRun(row.data(), visible.width, axis.offset + step * visible.x, step);
+    paintCovered(target, coverage, [&](Pixel* first, Span run, std::int32_t) {
+        std::copy_n(row.data() + (run.begin - visible.x), run.length(), first);
     });
 }
 
@@ -184,8 +197,11 @@ void fillGradient(const LayerTarget& target, const Coverage& coverage, const Sur
     case GradientKind::Diamond: return fillDiamond(target, coverage, ramp);
     case GradientKind::Conic:
         return fillConic(target, coverage, colorTable(ramp, isReversed(style.gradientDirection)));
-    default: return fillAlongAxis(target, coverage, ramp, axisOf(style.gradientDirection));
+    default: break;
     }
+    const Axis& axis = axisOf(style.gradientDirection);
+    return axis.acrossV == 0 ? fillAcross(target, coverage, ramp, axis)
+                             : fillAlongAxis(target, coverage, ramp, axis);
 }
 
 } // namespace vela

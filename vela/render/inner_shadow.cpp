@@ -19,24 +19,82 @@ constexpr std::int64_t kLargestSearchedArea = 10000;
 constexpr std::int64_t kSmallestRectangularArea = 48001;
 constexpr float kDiagonalStep = 0.7071067811865476F;
 
-// How the shadow fades over a distance: a wide falloff and a sharper one close to the edge. Both are 0 from
+// How strong the shadow is at a distance: a wide falloff and a sharper one close to the edge. Both are 0 from
 // the shadow's size on.
-struct Fading {
-    std::vector<float> wide;
-    std::vector<float> close;
+struct Falloff {
+    float wide = 0;
+    float close = 0;
+};
 
-    Fading(std::int32_t size, std::int32_t count, float perStep)
+Falloff falloffAt(float distance, std::int32_t size) noexcept
+{
+    const auto reach = static_cast<float>(size);
+    const float closeReach = std::max(0.42F * reach, 1.0F);
+    return {std::pow(std::max(0.0F, 1 - distance / reach), 1.42F),
+            std::pow(std::max(0.0F, 1 - distance / closeReach), 2.25F)};
+}
+
+// Of four pixels, by falloff.
+struct Falloffs {
+    Float4 wide;
+    Float4 close;
+};
+
+Falloffs gathered(const Falloff& a, const Falloff& b, const Falloff& c, const Falloff& d) noexcept
+{
+    return {Float4{a.wide, b.wide, c.wide, d.wide}, Float4{a.close, b.close, c.close, d.close}};
+}
+
+// The falloff for each column of a row, by its distance to the nearer side. It is read in fours.
+class FalloffByColumn {
+public:
+    FalloffByColumn(std::int32_t size, std::int32_t width)
+        : wide_(static_cast<std::size_t>(width) + simd::kLanes), close_(wide_.size())
     {
-        const auto reach = static_cast<float>(size);
-        const float closeReach = std::max(0.42F * reach, 1.0F);
-        wide.reserve(static_cast<std::size_t>(count));
-        close.reserve(static_cast<std::size_t>(count));
-        for (std::int32_t step = 0; step < count; ++step) {
-            const float distance = static_cast<float>(step) * perStep;
-            wide.push_back(std::pow(std::max(0.0F, 1 - distance / reach), 1.42F));
-            close.push_back(std::pow(std::max(0.0F, 1 - distance / closeReach), 2.25F));
+        for (std::int32_t x = 0; x < std::min(size, (width + 1) / 2); ++x) {
+            const Falloff falloff = falloffAt(static_cast<float>(x), size);
+            for (const std::int32_t column : {x, width - 1 - x}) {
+                wide_[static_cast<std::size_t>(column)] = falloff.wide;
+                close_[static_cast<std::size_t>(column)] = falloff.close;
+            }
         }
     }
+
+    Falloffs at(std::int32_t x) const noexcept
+    {
+        return {simd::load(wide_.data() + x), simd::load(close_.data() + x)};
+    }
+
+private:
+    std::vector<float> wide_;
+    std::vector<float> close_;
+};
+
+// The falloff for each pair of a straight and a diagonal number of steps: that of the shorter distance.
+class FalloffBySteps {
+public:
+    FalloffBySteps(std::int32_t size, std::int32_t mostSteps)
+        : stride_(static_cast<std::size_t>(mostSteps) + 1)
+    {
+        table_.reserve(stride_ * stride_);
+        for (std::int32_t steps = 0; steps <= mostSteps; ++steps)
+            table_.insert(table_.end(), stride_, falloffAt(static_cast<float>(steps), size));
+        for (std::size_t steps = 0; steps < stride_; ++steps) {
+            const Falloff slanted = falloffAt(static_cast<float>(steps) * kDiagonalStep, size);
+            for (std::size_t at = steps; at < table_.size(); at += stride_)
+                table_[at] = {std::max(table_[at].wide, slanted.wide),
+                              std::max(table_[at].close, slanted.close)};
+        }
+    }
+
+    const Falloff& at(std::uint8_t straight, std::uint8_t diagonal) const noexcept
+    {
+        return table_[straight * stride_ + diagonal];
+    }
+
+private:
+    std::size_t stride_;
+    std::vector<Falloff> table_;
 };
 
 // The darkness of a position on the surface where both falloffs are full.
@@ -110,9 +168,10 @@ public:
     void byOutline(const Coverage& coverage);
 
 private:
-    UInt4 shade(std::int32_t x, Float4 wide, Float4 close) const
+    UInt4 shade(std::int32_t x, const Falloffs& falloff) const
     {
-        const Float4 value = (position_(x) * wide + simd::splat(0.18F) * close) * simd::splat(strength_);
+        const Float4 value =
+            (position_(x) * falloff.wide + simd::splat(0.18F) * falloff.close) * simd::splat(strength_);
         const Float4 alpha = simd::lesser(value + simd::splat(0.5F), simd::splat(255.0F));
         return simd::lookUp(shades_.data(), simd::truncated(alpha));
     }
@@ -125,35 +184,30 @@ private:
     std::array<Pixel, 256> shades_;
 };
 
-// Distances are whole numbers; beyond the shadow's size along both axes nothing is drawn.
+// The nearest of the four edges counts: it is the one with the strongest falloff.
 void ShadowPainter::byRectangle(const Coverage& coverage)
 {
-    const std::int32_t deepest = std::min(shadowSize_, (std::min(size_.width, size_.height) + 1) / 2);
-    const Fading fading(shadowSize_, deepest + 1, 1.0F);
-    const std::int32_t lastColumn = size_.width - 1;
+    const FalloffByColumn columns(shadowSize_, size_.width);
     paintCovered(target_, coverage, [&](Pixel* first, Span run, std::int32_t y) {
-        const std::int32_t toRow = std::min({y, size_.height - 1 - y, deepest});
+        const std::int32_t toRow = std::min(y, size_.height - 1 - y);
+        const Falloff row =
+            toRow < shadowSize_ ? falloffAt(static_cast<float>(toRow), shadowSize_) : Falloff{};
         position_.enterRow(y);
-        const auto edge = [&](Span columns) {
-            simd::writeInFours(
-                first + (columns.begin - run.begin), columns.begin, columns.end, [&](std::int32_t x) {
-                    std::size_t at[simd::kLanes];
-                    for (std::int32_t lane = 0; lane < simd::kLanes; ++lane)
-                        at[lane] = static_cast<std::size_t>(
-                            std::max(std::min({x + lane, lastColumn - x - lane, toRow}), 0));
-                    const auto& [wide, close] = fading;
-                    return shade(x, Float4{wide[at[0]], wide[at[1]], wide[at[2]], wide[at[3]]},
-                                 Float4{close[at[0]], close[at[1]], close[at[2]], close[at[3]]});
-                });
+        const auto write = [&](Span part) {
+            if (!part.empty())
+                simd::writeInFours(first + (part.begin - run.begin), part.begin, part.end,
+                                   [&](std::int32_t x) {
+                                       const Falloffs column = columns.at(x);
+                                       return shade(x, {simd::greater(column.wide, simd::splat(row.wide)),
+                                                        simd::greater(column.close, simd::splat(row.close))});
+                                   });
         };
-        if (toRow < shadowSize_)
-            return edge(run);
-        const Span middle = intersect(run, {shadowSize_, size_.width - shadowSize_});
-        if (middle.empty())
-            return edge(run);
-        edge({run.begin, middle.begin});
-        simd::fillPixels(first + (middle.begin - run.begin), middle.length(), 0);
-        edge({middle.end, run.end});
+        const Span deep = intersect(run, {shadowSize_, size_.width - shadowSize_});
+        if (toRow < shadowSize_ || deep.empty())
+            return write(run);
+        write({run.begin, deep.begin});
+        simd::fillPixels(first + (deep.begin - run.begin), deep.length(), 0);
+        write({deep.end, run.end});
     });
 }
 
@@ -162,27 +216,22 @@ void ShadowPainter::byOutline(const Coverage& coverage)
     const auto limit = static_cast<std::uint8_t>(std::clamp(std::min(shadowSize_, 32) + 2, 3, 34));
     const Rect visible = target_.visible();
     const EdgeSteps steps(coverage, {visible.y, visible.y + visible.height}, limit);
-    const Fading straight(shadowSize_, limit + 2, 1.0F);
-    const Fading diagonal(shadowSize_, limit + 2, kDiagonalStep);
+    const FalloffBySteps falloff(shadowSize_, limit + 1);
     paintCovered(target_, coverage, [&](Pixel* first, Span run, std::int32_t y) {
-        const std::uint8_t* const straightSteps = steps.straight(y);
-        const std::uint8_t* const diagonalSteps = steps.diagonal(y);
-        const std::int32_t toRow = std::min(y, size_.height - 1 - y);
+        const std::uint8_t* const straight = steps.straight(y);
+        const std::uint8_t* const diagonal = steps.diagonal(y);
+        const std::int32_t last = run.end - 1;
         position_.enterRow(y);
         simd::writeInFours(first, run.begin, run.end, [&](std::int32_t x) {
-            Float4 wide{};
-            Float4 close{};
-            const std::int32_t lanes = std::min(simd::kLanes, run.end - x);
-            for (std::int32_t lane = 0; lane < lanes; ++lane) {
-                const std::int32_t column = x + lane;
-                const std::int32_t toEdge = std::min({column, size_.width - 1 - column, toRow});
-                const auto near =
-                    static_cast<std::size_t>(std::min<std::int32_t>(straightSteps[column], toEdge));
-                const std::size_t slanted = diagonalSteps[column];
-                wide[lane] = std::max(straight.wide[near], diagonal.wide[slanted]);
-                close[lane] = std::max(straight.close[near], diagonal.close[slanted]);
-            }
-            return shade(x, wide, close);
+            const auto at = [&](std::int32_t lane) -> const Falloff& {
+                const std::int32_t column = std::min(x + lane, last);
+                return falloff.at(straight[column], diagonal[column]);
+            };
+            const Falloffs four = gathered(at(0), at(1), at(2), at(3));
+            // Most pixels of a surface lie deeper than the shadow.
+            const float strongest =
+                std::max(std::max(four.wide[0], four.wide[1]), std::max(four.wide[2], four.wide[3]));
+            return strongest > 0 ? shade(x, four) : UInt4{};
         });
     });
 }

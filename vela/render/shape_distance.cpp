@@ -2,6 +2,7 @@
 
 #include "vela/render/shape.h"
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -27,6 +28,19 @@ EdgeSample BoxEdge::at(Float4 x, float y) const noexcept
     const Float4 beyond = inCorner ? reach : (sideways ? beyondX : beyondY);
     return {simd::splat(radius_) - beyond, fromMiddle < zero ? -outX : outX,
             downFromMiddle < 0 ? -outY : outY};
+}
+
+// What lies so deep is a box again, smaller and with smaller corners; in the rows of its corners only the
+// part between their circles' middles is taken.
+InnerRange BoxEdge::innerRange(float depth, float y) const noexcept
+{
+    const float down = std::abs(y - middleY_);
+    const float corner = std::max(radius_ - depth, 0.0F);
+    const float halfHeight = halfHeight_ + radius_ - depth;
+    if (down > halfHeight)
+        return {1, 0};
+    const float halfWidth = halfWidth_ + radius_ - depth - (down > halfHeight - corner ? corner : 0);
+    return {middleX_ - halfWidth, middleX_ + halfWidth};
 }
 
 PolygonEdge::PolygonEdge(ShapeKind kind, const Rect& rect)
@@ -57,6 +71,23 @@ EdgeSample PolygonEdge::at(Float4 x, float y) const noexcept
         nearest.outY = nearer ? simd::splat(side.outY) : nearest.outY;
     }
     return nearest;
+}
+
+InnerRange PolygonEdge::innerRange(float depth, float y) const noexcept
+{
+    InnerRange range{-1e6F, 1e6F};
+    for (std::size_t i = 0; i < count_; ++i) {
+        const Side& side = sides_[i];
+        // (side.x - x) * outX + (side.y - y) * outY >= depth
+        const float room = (side.y - y) * side.outY - depth;
+        if (side.outX > 0)
+            range.high = std::min(range.high, side.x + room / side.outX);
+        else if (side.outX < 0)
+            range.low = std::max(range.low, side.x + room / side.outX);
+        else if (room < 0)
+            return {1, 0};
+    }
+    return range;
 }
 
 BoxEdge boxEdge(ShapeKind kind, const Rect& rect) noexcept

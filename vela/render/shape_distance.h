@@ -16,6 +16,13 @@ struct EdgeSample {
     simd::Float4 outY;
 };
 
+// The x between which a row of points lies at least so deep inside the shape; none when low exceeds high. It
+// may be a little less than what is so deep, never more.
+struct InnerRange {
+    float low;
+    float high;
+};
+
 // A rectangle with round corners, as a pill is too.
 class BoxEdge {
 public:
@@ -26,6 +33,7 @@ public:
     }
 
     EdgeSample at(simd::Float4 x, float y) const noexcept;
+    InnerRange innerRange(float depth, float y) const noexcept;
 
 private:
     float middleX_;
@@ -41,6 +49,7 @@ public:
     PolygonEdge(ShapeKind kind, const Rect& rect);
 
     EdgeSample at(simd::Float4 x, float y) const noexcept;
+    InnerRange innerRange(float depth, float y) const noexcept;
 
 private:
     struct Side {

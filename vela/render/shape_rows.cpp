@@ -41,6 +41,8 @@ constexpr Wide distanceToBand(Wide position, Wide low, Wide high) noexcept
 // How far a circle reaches to the side at a distance above or below its centre. Both lengths are doubled.
 Wide reachOfCircle(Wide diameter, Wide distance) noexcept
 {
+    if (distance == 0)
+        return diameter; // most rows of most shapes
     return floorRoot(diameter * diameter - distance * distance);
 }
 
@@ -113,16 +115,15 @@ DoubledLimits limitsOfRow(ShapeKind kind, Size size, Wide y) noexcept
 {
     const Wide w = size.width;
     const Wide h = size.height;
-    const Wide inset = shapeInset(size.width, size.height);
     switch (kind) {
     case ShapeKind::RoundedRect: return roundedRow(w, h, y);
     case ShapeKind::Pill: return w >= h ? horizontalPillRow(w, h, y) : verticalPillRow(w, h, y);
     case ShapeKind::Diamond: return diamondRow(w, h, y);
     case ShapeKind::Bevel:
     case ShapeKind::Octagon: return cutCornersRow(cornerCut(kind, size.width, size.height), w, h, y);
-    case ShapeKind::Hexagon: return hexagonRow(inset, w, h, y);
-    case ShapeKind::SlantRight: return slantRightRow(inset, w, h, y);
-    case ShapeKind::SlantLeft: return slantLeftRow(inset, w, h, y);
+    case ShapeKind::Hexagon: return hexagonRow(shapeInset(size.width, size.height), w, h, y);
+    case ShapeKind::SlantRight: return slantRightRow(shapeInset(size.width, size.height), w, h, y);
+    case ShapeKind::SlantLeft: return slantLeftRow(shapeInset(size.width, size.height), w, h, y);
     default: return {0, 2 * (w - 1)};
     }
 }

@@ -49,14 +49,21 @@ public:
         const Float4 inwards = simd::greater(edge.distance, zero) / simd::splat(roundedWidth_);
         const Float4 fade = simd::greater(one - inwards, zero);
         // The outermost pixel catches the light like a polished arris.
-        const Float4 arris = simd::lesser(simd::greater(simd::splat(1.5F) - edge.distance, zero), one);
+        const Float4 arris = simd::lesser(simd::greater(simd::splat(kArrisWidth) - edge.distance, zero), one);
         const Float4 slope = simd::splat(edgeSlope_) * fade * fade + simd::splat(rim_) * arris;
         const Float4 towardsLight = edge.outX * simd::splat(lightX_) + edge.outY * simd::splat(lightY_);
-        return towardsLight * slope + (x - simd::splat(middleX_)) * simd::splat(faceX_) +
-               simd::splat((y - middleY_) * faceY_);
+        return towardsLight * slope + faceAt(x, y);
     }
 
+    // The same where the edges do not reach.
+    Float4 faceAt(Float4 x, float y) const noexcept
+    {
+        return x * simd::splat(faceX_) + simd::splat((y - middleY_) * faceY_ - middleX_ * faceX_);
+    }
+    float edgeReach() const noexcept { return std::max(roundedWidth_, kArrisWidth); }
+
 private:
+    static constexpr float kArrisWidth = 1.5F;
     static constexpr float kRadiansPerDegree = std::numbers::pi_v<float> / 180;
     float lightX_;
     float lightY_;
@@ -106,15 +113,29 @@ void shadeBody(const LayerTarget& target, const Coverage& coverage, const Surfac
 {
     const Relief relief(style, coverage.size());
     const Shades shades = shadesOf(style);
+    const auto shade = [&shades](Float4 light) {
+        const Float4 place = light * simd::splat(static_cast<float>(kFlat)) + simd::splat(kFlat + 0.5F);
+        const Float4 inRange = simd::lesser(simd::greater(place, Float4{}), simd::splat(2.0F * kFlat));
+        return simd::lookUp(shades.data(), simd::truncated(inRange));
+    };
+    const auto centres = [](std::int32_t column) {
+        return simd::toFloat(simd::splat(column) + Int4{0, 1, 2, 3}) + simd::splat(0.5F);
+    };
     paintCovered(target, coverage, [&](Pixel* first, Span run, std::int32_t row) {
         const float y = static_cast<float>(row) + 0.5F;
-        simd::writeInFours(first, run.begin, run.end, [&](std::int32_t column) {
-            const Float4 x = simd::toFloat(simd::splat(column) + Int4{0, 1, 2, 3}) + simd::splat(0.5F);
-            const Float4 light = relief.at(x, y, edge.at(x, y)) * simd::splat(static_cast<float>(kFlat)) +
-                                 simd::splat(kFlat + 0.5F);
-            const Float4 inRange = simd::lesser(simd::greater(light, Float4{}), simd::splat(2.0F * kFlat));
-            return simd::lookUp(shades.data(), simd::truncated(inRange));
-        });
+        const InnerRange range = edge.innerRange(relief.edgeReach(), y);
+        const Span face = intersect(run, {static_cast<std::int32_t>(std::max(range.low, 0.0F)) + 1,
+                                          static_cast<std::int32_t>(std::max(range.high, 0.0F))});
+        const auto nearEdge = [&](std::int32_t column) {
+            const Float4 x = centres(column);
+            return shade(relief.at(x, y, edge.at(x, y)));
+        };
+        const auto onFace = [&](std::int32_t column) { return shade(relief.faceAt(centres(column), y)); };
+        if (face.empty())
+            return simd::writeInFours(first, run.begin, run.end, nearEdge);
+        simd::writeInFours(first, run.begin, face.begin, nearEdge);
+        simd::writeInFours(first + (face.begin - run.begin), face.begin, face.end, onFace);
+        simd::writeInFours(first + (face.end - run.begin), face.end, run.end, nearEdge);
     });
 }
 
