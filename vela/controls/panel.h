@@ -12,6 +12,8 @@ namespace vela {
 class Panel : public Control {
 public:
     using Control::Control;
+    Panel(const Panel&) = delete;
+    Panel& operator=(const Panel&) = delete;
     ~Panel() override;
 
     bool isContainer() const override { return true; }

@@ -40,8 +40,8 @@ Color reaching(Color wanted, const Tones& ground, float ratio) noexcept;
 // The first of the colours that reaches the ratio, else the one that comes nearest, nudged to it.
 Color pickReaching(std::initializer_list<Color> wanted, const Tones& ground, float ratio) noexcept;
 
-// Whether black or white text reaches the ratio on a face whose shading reaches that far to either side of its
-// colour, in Oklab lightness. There are middle tones on which neither does.
+// Whether black or white text reaches the ratio on a face whose shading reaches that far to either side of
+// its colour, in Oklab lightness. There are middle tones on which neither does.
 bool isReadableFace(Color face, float shading, float ratio) noexcept;
 // The wanted colour, made darker or lighter until it is such a face.
 Color readableFace(Color wanted, float shading, float ratio) noexcept;
