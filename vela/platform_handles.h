@@ -4,10 +4,12 @@
 
 struct HDC__;
 struct HFONT__;
+struct HINSTANCE__;
 struct HRGN__;
 struct HWND__;
 
 using HDC = HDC__*;
 using HFONT = HFONT__*;
+using HINSTANCE = HINSTANCE__*;
 using HRGN = HRGN__*;
 using HWND = HWND__*;

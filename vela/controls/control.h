@@ -23,6 +23,8 @@ class Panel;
 class StyleSheet;
 struct BitmapSkin;
 
+enum class DialogRole : std::uint8_t { Primary, Cancel };
+
 class Control {
 public:
     Control(std::wstring id, Rect bounds);
@@ -79,6 +81,13 @@ public:
 
     // Beyond the shared order.
     virtual bool acceptsFocus() const { return false; }
+    // The pointer is an I-beam over it.
+    virtual bool showsTextCursor() const { return false; }
+    // Where the next character will stand, in local pixels; none when the control takes no text.
+    virtual std::optional<Rect> caretRect() const { return std::nullopt; }
+    // The control that Enter or Escape activates when nothing that has the focus takes the key; null for
+    // none.
+    virtual Control* dialogControl(DialogRole) const { return nullptr; }
     virtual AccessibleInfo accessibleInfo() const;
 
     const std::wstring& id() const noexcept { return id_; }

@@ -45,6 +45,7 @@ inline constexpr std::uint32_t kKeyLeft = 0x25;
 inline constexpr std::uint32_t kKeyUp = 0x26;
 inline constexpr std::uint32_t kKeyRight = 0x27;
 inline constexpr std::uint32_t kKeyDown = 0x28;
+inline constexpr std::uint32_t kKeySnapshot = 0x2C; // Print Screen
 inline constexpr std::uint32_t kKeyInsert = 0x2D;
 inline constexpr std::uint32_t kKeyDelete = 0x2E;
 inline constexpr std::uint32_t kKeyF12 = 0x7B;

@@ -45,6 +45,8 @@ public:
     // The control is about to go: no pointer to it may be kept.
     virtual void controlDetached(Control& control) = 0;
 
+    virtual bool isMaximised() const { return false; }
+
     virtual bool diagnosticsEnabled() const = 0;
     virtual void writeDiagnostic(std::wstring_view line) = 0;
 };

@@ -1,0 +1,97 @@
+// Real windows for tests, with the pointer and the keyboard of the desktop they stand on.
+#pragma once
+
+#include "vela/controls/window.h"
+
+#include <string>
+#include <vector>
+
+#include <windows.h>
+
+namespace vela::testing {
+
+// A window that only records what would leave the process.
+class TestWindow : public Window {
+public:
+    TestWindow() { setQuitOnDestroy(false); }
+    ~TestWindow() override { destroy(); }
+
+    void writeDiagnostic(std::wstring_view line) override { lines.emplace_back(line); }
+
+    std::vector<std::wstring> lines;
+    int clips = 0;
+    int destroyed = 0;
+
+protected:
+    void onDestroyed() override { ++destroyed; }
+    void openScreenClip() override { ++clips; }
+};
+
+// Everything that waits in the queue, and the input that is still on its way into it.
+inline void drainMessages(DWORD settleMilliseconds = 30)
+{
+    const ULONGLONG end = ::GetTickCount64() + settleMilliseconds;
+    do {
+        MSG message{};
+        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            if (message.message == WM_QUIT)
+                return ::PostQuitMessage(static_cast<int>(message.wParam));
+            ::TranslateMessage(&message);
+            ::DispatchMessageW(&message);
+        }
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+    } while (::GetTickCount64() < end);
+}
+
+struct Desktop {
+    static Rect workArea()
+    {
+        RECT work{};
+        ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+        return {work.left, work.top, work.right - work.left, work.bottom - work.top};
+    }
+    static Rect clipBox(HDC dc)
+    {
+        RECT box{};
+        ::GetClipBox(dc, &box);
+        return {box.left, box.top, box.right - box.left, box.bottom - box.top};
+    }
+    static void movePointer(HWND window, Point client)
+    {
+        POINT at{client.x, client.y};
+        ::ClientToScreen(window, &at);
+        INPUT input{};
+        input.type = INPUT_MOUSE;
+        input.mi.dx = at.x * 65536 / ::GetSystemMetrics(SM_CXSCREEN) + 1;
+        input.mi.dy = at.y * 65536 / ::GetSystemMetrics(SM_CYSCREEN) + 1;
+        input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+        ::SendInput(1, &input, sizeof input);
+    }
+    static void button(DWORD flags)
+    {
+        INPUT input{};
+        input.type = INPUT_MOUSE;
+        input.mi.dwFlags = flags;
+        ::SendInput(1, &input, sizeof input);
+    }
+    static void keyHalf(WORD code, bool down)
+    {
+        INPUT input{};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = code;
+        input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
+        ::SendInput(1, &input, sizeof input);
+    }
+    static void key(WORD code)
+    {
+        keyHalf(code, true);
+        keyHalf(code, false);
+    }
+    static void holdControl(bool down)
+    {
+        keyHalf(VK_CONTROL, down);
+        drainMessages();
+    }
+};
+
+} // namespace vela::testing

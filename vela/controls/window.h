@@ -1,0 +1,131 @@
+// A top-level window of the toolkit: it owns the tree of controls, shows it through a back buffer and takes
+// the system's messages into it. The object outlives its window; without one its operations do nothing. All
+// of it belongs to the thread that created the window.
+#pragma once
+
+#include "vela/controls/command_handlers.h"
+#include "vela/controls/debug_overlay.h"
+#include "vela/controls/input_router.h"
+#include "vela/controls/panel.h"
+#include "vela/controls/pointer_clock.h"
+#include "vela/controls/window_host.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace vela {
+
+class StyleSheet;
+
+// What `create` takes from Windows' own vocabulary.
+struct WindowStyle {
+    std::uint32_t style = 0;    // WS_
+    std::uint32_t extended = 0; // WS_EX_
+};
+
+class Window : public WindowHost {
+public:
+    // Sees every message first; true when it handled the message, with the answer in the last argument.
+    using MessageHook =
+        std::function<bool(HWND, unsigned message, std::uintptr_t, std::intptr_t, std::intptr_t& result)>;
+    // Gives the styles for the system's present light or dark and high-contrast mode.
+    using StyleSource = std::function<std::shared_ptr<const StyleSheet>()>;
+
+    Window();
+    ~Window() override;
+
+    // The client size is in 96-DPI pixels and grows with the monitor that shows the window: the owner's, or
+    // the one under the pointer. False when Windows refuses; then there is no handle.
+    bool create(HINSTANCE instance, std::wstring title, Size client, WindowStyle style, HWND owner = nullptr);
+    void destroy();
+
+    HWND handle() const noexcept { return handle_; }
+    Panel& root() noexcept { return root_; }
+    const std::wstring& title() const noexcept { return title_; }
+
+    // Before `create`. A custom frame has no standard non-client area; its resize band lies inside the client
+    // edge, in 96-DPI pixels, and 0 means that the frame cannot be dragged.
+    void setCustomFrame(bool custom) noexcept { customFrame_ = custom; }
+    void setResizeBorder(std::int32_t pixels) noexcept { resizeBorder_ = pixels; }
+    void setQuitOnDestroy(bool quits) noexcept { quitOnDestroy_ = quits; }
+    void setCloseOnDeactivate(bool closes) noexcept { closeOnDeactivate_ = closes; }
+    void setTooltipDelay(std::uint32_t milliseconds) noexcept { tooltipDelay_ = milliseconds; }
+    void setDiagnostics(bool on) noexcept { diagnostics_ = on; }
+    void setMessageHook(MessageHook hook) { messageHook_ = std::move(hook); }
+    bool isInSizeMove() const noexcept { return inSizeMove_; }
+    const DebugOverlay& debugOverlay() const noexcept { return debugOverlay_; }
+
+    // Gives every control of the tree its record at the window's DPI, and the root the panel surface; kept
+    // for a later change of DPI. Controls added afterwards need another call.
+    void applyStyles(std::shared_ptr<const StyleSheet> styles);
+    // Asked at once, and again when the user switches between light and dark or to high contrast.
+    void setStyleSource(StyleSource source);
+
+    // A handler for one action, or, with an empty action, for all.
+    CommandHandlers::Subscription subscribe(std::wstring action, CommandHandlers::Handler handler);
+    void unsubscribe(CommandHandlers::Subscription subscription);
+
+    // Carries out what a title bar asks for by the action's name; false for an action that is none of the
+    // title bar's.
+    bool performChromeAction(std::wstring_view action);
+
+    // Lays the tree out for the client area as it is.
+    void layoutTree();
+    // The smallest client area in which the tree fits, and the window around it, no larger than the work
+    // area.
+    Size minimumClientSize() const;
+    Size minimumTrackSize() const;
+
+    bool isAlive() const override;
+    Rect clientRect() const override;
+    std::int32_t dpi() const override { return dpi_; }
+    void invalidateClient(const Rect& rect, InvalidationReason reason) override;
+    void minimumSizeChanged() override {} // settled when Windows next asks
+    void dispatchCommand(CommandEvent& event) override { commands_.dispatch(event); }
+    void captureMouse(Control* control) override;
+    const Control* focusedControl() const override;
+    void focusControl(Control* control) override { input_.focus(control); }
+    bool showsFocus() const override { return input_.showsFocus(); }
+    void controlDetached(Control& control) override;
+    bool isMaximised() const override { return maximised_; }
+    bool diagnosticsEnabled() const override { return diagnostics_; }
+    void writeDiagnostic(std::wstring_view line) override;
+
+protected:
+    virtual void onCreated() {}
+    virtual void onDestroyed() {}
+    // Starts the system's screen clip.
+    virtual void openScreenClip();
+
+private:
+    class Native; // the side that talks to Windows
+    friend class Native;
+
+    void styleTree(Control& control);
+
+    HWND handle_ = nullptr;
+    std::wstring title_;
+    Panel root_;
+    bool customFrame_ = false;
+    std::int32_t resizeBorder_ = 0;
+    bool quitOnDestroy_ = true;
+    MessageHook messageHook_;
+    bool maximised_ = false;
+    bool inSizeMove_ = false;
+    bool diagnostics_;
+    bool closeOnDeactivate_ = false;
+    std::uint32_t tooltipDelay_ = 650;
+    Size lastClientSize_;
+    std::int32_t dpi_ = 96;
+    InputRouter input_;
+    CommandHandlers commands_;
+    TooltipClock tooltipClock_;
+    DebugOverlay debugOverlay_;
+    std::shared_ptr<const StyleSheet> styles_;
+    StyleSource styleSource_;
+    std::unique_ptr<Native> native_;
+};
+
+} // namespace vela

@@ -1,0 +1,120 @@
+// The side of a window that talks to Windows: one handler for each message it takes part in.
+#pragma once
+
+#include "vela/controls/window.h"
+
+#include "vela/controls/window_diagnostics.h"
+#include "vela/controls/window_geometry.h"
+#include "vela/render/dib_gdi.h"
+
+#include <optional>
+
+#include <windows.h>
+
+namespace vela {
+
+inline constexpr wchar_t kWindowClass[] = L"VelaDesignWindow";
+inline constexpr UINT_PTR kWindowTimer = 1201;
+inline constexpr UINT kWindowTimerPeriod = 125; // milliseconds
+
+struct IconTraits {
+    using Handle = HICON;
+    static Handle empty() noexcept { return nullptr; }
+    static void close(Handle icon) noexcept { ::DestroyIcon(icon); }
+};
+using OwnedIcon = Owned<IconTraits>;
+
+// The monitor a window is on, or would open on, and what of it programs may cover.
+struct MonitorAreas {
+    Rect monitor;
+    Rect work;
+    std::int32_t dpi = 96;
+};
+MonitorAreas monitorAreas(HMONITOR monitor) noexcept;
+
+constexpr Rect toRect(const RECT& rect) noexcept
+{
+    return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+}
+constexpr RECT toRECT(const Rect& rect) noexcept
+{
+    return {rect.x, rect.y, rect.x + rect.width, rect.y + rect.height};
+}
+
+class Window::Native {
+public:
+    explicit Native(Window& window) noexcept : window_(window) {}
+
+    bool create(HINSTANCE instance, Size client, WindowStyle style, HWND owner);
+    // The window's corners, shadow and border, its shape where it is no plain rectangle, and its icons.
+    void dressFrame();
+    void applyShape();
+    void loadIcons(HINSTANCE instance);
+    void beginMove();
+    void captureMouse(bool capture);
+    void readClientSize();
+    Size frameExtra() const noexcept;
+
+private:
+    static LRESULT CALLBACK procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    static bool registerClass(HINSTANCE instance) noexcept;
+    LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam) const noexcept;
+
+    // Life (window_procedure_win32.cpp).
+    LRESULT onCreate();
+    LRESULT onDestroy();
+    LRESULT onActivate(WPARAM wParam, LPARAM lParam);
+    LRESULT onActivateApp(WPARAM wParam, LPARAM lParam);
+    LRESULT onFocus(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT onSettingChange(WPARAM wParam, LPARAM lParam);
+    LRESULT onSystemLook(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT onTimer(WPARAM wParam, LPARAM lParam);
+    void deactivate();
+    void clearHover();
+    void refreshMetrics();
+    void restyle();
+
+    // Frame (window_frame_win32.cpp).
+    LRESULT onMove();
+    LRESULT onSize(WPARAM wParam);
+    LRESULT onSizeMove(bool inside) noexcept;
+    LRESULT onMinMaxInfo(MINMAXINFO& info) const;
+    LRESULT onNcHitTest(LPARAM lParam) const;
+    LRESULT onNcDoubleClick(WPARAM wParam, LPARAM lParam) const;
+    LRESULT onFrameMessage(UINT message, WPARAM wParam, LPARAM lParam) const noexcept;
+    LRESULT onSizing(WPARAM edge, RECT& proposed) const;
+    LRESULT onDpiChanged(WPARAM wParam, const RECT& suggested);
+    FrameFacts frameFacts(Point cursorScreen) const;
+
+    // Input (window_input_win32.cpp).
+    LRESULT onMouseMove(LPARAM lParam);
+    LRESULT onMouseLeave();
+    LRESULT onMouseButton(UINT message, LPARAM lParam);
+    LRESULT onMouseWheel(WPARAM wParam, LPARAM lParam);
+    LRESULT onContextMenu(WPARAM wParam, LPARAM lParam);
+    LRESULT onCaptureChanged(LPARAM lParam);
+    LRESULT onSetCursor(WPARAM wParam, LPARAM lParam) const;
+    LRESULT onKeyDown(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT onKeyUp(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT onCharacter(WPARAM wParam);
+    LRESULT onImeComposition(UINT message, WPARAM wParam, LPARAM lParam) const;
+    void pressDebugKey(const KeyEvent& event);
+
+    // Painting (window_paint_gdi.cpp).
+    LRESULT onPaint();
+    void paintTree(HDC dc);
+
+    Window& window_;
+    std::optional<DibSurface> backBuffer_;
+    OwnedIcon smallIcon_;
+    OwnedIcon largeIcon_;
+    ClickCounter clicks_;
+    std::uint64_t lastTick_ = 0;
+    wchar_t highSurrogate_ = 0;
+    bool shaped_ = false;
+    bool trackingLeave_ = false;
+    bool snapshotDown_ = false;
+};
+
+} // namespace vela

@@ -1,0 +1,33 @@
+// Painting of a window: the damaged part of the tree into a buffer that lives as long as the window keeps its
+// size, and from there to the screen.
+#include "vela/controls/window_native_win32.h"
+
+#include "vela/render/owned_gdi.h"
+
+namespace vela {
+
+LRESULT Window::Native::onPaint()
+{
+    const HWND handle = window_.handle_;
+    // Before BeginPaint, which forgets it: the damage itself rather than the rectangle around it.
+    const OwnedRegion damage(::CreateRectRgn(0, 0, 0, 0));
+    ::GetUpdateRgn(handle, damage.get(), FALSE);
+    PAINTSTRUCT paint{};
+    const HDC screen = ::BeginPaint(handle, &paint);
+    const Size size = window_.lastClientSize_;
+    const bool fresh = !backBuffer_ || backBuffer_->size() != size;
+    if (fresh && !isEmpty(size))
+        backBuffer_.emplace(size);
+    if (screen && backBuffer_ && *backBuffer_ && !isEmpty(size)) {
+        ::SelectClipRgn(backBuffer_->dc(), fresh ? nullptr : damage.get());
+        paintTree(backBuffer_->dc());
+        const Rect part = toRect(paint.rcPaint);
+        ::BitBlt(screen, part.x, part.y, part.width, part.height, backBuffer_->dc(), part.x, part.y, SRCCOPY);
+    }
+    ::EndPaint(handle, &paint);
+    return 0;
+}
+
+void Window::Native::paintTree(HDC dc) { window_.root_.paint(dc, {}); }
+
+} // namespace vela
