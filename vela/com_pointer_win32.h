@@ -17,7 +17,8 @@ public:
             object_->AddRef();
     }
     ComPointer(ComPointer&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
-    ComPointer& operator=(ComPointer other) noexcept
+    ComPointer& operator=(const ComPointer& other) noexcept { return *this = ComPointer(other); }
+    ComPointer& operator=(ComPointer&& other) noexcept
     {
         std::swap(object_, other.object_);
         return *this;

@@ -19,7 +19,7 @@ protected:
     {
         EXPECT_EQ(effects_.createFolders(folder_), kNoError);
     }
-    ~Files() override { ::RemoveDirectoryW(folder_.c_str()); }
+    void TearDown() override { EXPECT_TRUE(::RemoveDirectoryW(folder_.c_str())) << "a test left something"; }
 
     std::wstring in(std::wstring_view name) const { return joinPath(folder_, name); }
 
