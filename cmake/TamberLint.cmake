@@ -8,7 +8,7 @@ set(folders "/(app|vela|tools|fuzz|resources)/")
 if(WIN32)
   add_test(NAME lint.clang-tidy-windows COMMAND ${TAMBER_RUN_CLANG_TIDY} -quiet -p ${PROJECT_BINARY_DIR}
     "${folders}.*_(win32|gdi|dwrite|d3d11)\\.cpp$" WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
-  set_tests_properties(lint.clang-tidy-windows PROPERTIES PROCESSORS 2 COST 1000)
+  set_tests_properties(lint.clang-tidy-windows PROPERTIES PROCESSORS 2 COST 1000 TIMEOUT 1800)
 else()
   add_test(NAME lint.clang-tidy COMMAND ${TAMBER_RUN_CLANG_TIDY} -quiet -p ${PROJECT_BINARY_DIR}
     "${folders}" WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
@@ -17,7 +17,7 @@ else()
   add_test(NAME lint.cppcheck COMMAND ${TAMBER_CPPCHECK} -q -j 2 --error-exitcode=1 --inline-suppr
     --project=${PROJECT_BINARY_DIR}/compile_commands.json --cppcheck-build-dir=${PROJECT_BINARY_DIR}/cppcheck
     --enable=warning,performance,portability --suppress=internalAstError --suppress=cppcheckError)
-  set_tests_properties(lint.clang-tidy lint.cppcheck PROPERTIES PROCESSORS 2 COST 1000)
+  set_tests_properties(lint.clang-tidy lint.cppcheck PROPERTIES PROCESSORS 2 COST 1000 TIMEOUT 1800)
   add_test(NAME lint.clang-format COMMAND
     sh -c "git ls-files -co --exclude-standard '*.cpp' '*.h' | xargs ${TAMBER_CLANG_FORMAT} --dry-run -Werror"
     WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
