@@ -117,6 +117,8 @@ float difference(const Appearance& one, const Appearance& other)
         most = std::max(most, visualDistance(left.border, right.border));
     if (left.showOutline != right.showOutline)
         most = 1;
+    if (left.showOutline && right.showOutline)
+        most = std::max(most, visualDistance(left.outline, right.outline));
     return most;
 }
 

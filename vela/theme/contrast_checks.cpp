@@ -87,7 +87,7 @@ private:
     void judgeScrollBar(const ScrollBarStyle& style, const std::string& prefix, const Tones& bed);
     void judgeFocus(const SurfaceStyle& surface, const std::string& prefix, const Tones& bed)
     {
-        add(prefix + "focus ring", Need::Mark, contrastRatio(surface.outline, bed));
+        add(prefix + "focus ring", Need::Mark, contrastRatio(surface.glow, bed));
     }
 
     const StyleSheet& sheet_;
@@ -121,7 +121,7 @@ void Judge::judgeButton(const ButtonStyle& style, const std::string& prefix, con
         add(part + "caption", Need::Text, contrastRatio(text.color, face));
         judgeFocus(surface, part, bed);
         // Without a border or a fill of its own at rest, a button is told by its caption.
-        if (style.surface.normal.drawBorder)
+        if (style.surface.normal.drawBorder || style.surface.normal.showOutline)
             add(part + "edge", Need::Edge, standingOut(surface, bed));
     }
 }

@@ -28,6 +28,9 @@ struct PerState {
     friend bool operator==(const PerState&, const PerState&) = default;
 };
 
+// The glow colour of a surface is also that of the focus ring, which is drawn around it on what it lies on,
+// whether the surface glows or not.
+//
 // A surface carries its own shape; the shape fields of a record name the shape of the part they stand for and
 // are written into that part's surfaces when the style sheet is finished.
 

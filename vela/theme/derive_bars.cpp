@@ -85,8 +85,9 @@ ScrollBarStyle scrollBarOn(const DeriveContext& context, const Bed& bed)
     style.thumbShape = context.look.trackShape;
     style.buttonShape = context.look.controlShape;
     const Color groove = context.stateFill(context.veil(bed, 0.035F), Form::Sunken, {});
-    style.track = sunkenOf(context, groove, groove, style.trackShape);
-    style.track.drawBorder = false;
+    style.track =
+        surfaceOf(context, {.fill = groove, .border = groove, .form = Form::Sunken, .bordered = false},
+                  style.trackShape);
     const Bed track = bedOn(style.track, bed);
 
     const Color rest = context.mark(mixed(context.edge, context.theme.mutedText, 0.3F), track.tones);

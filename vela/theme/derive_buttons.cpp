@@ -81,13 +81,14 @@ Faces solidFaces(const DeriveContext& context, Hue hue, const Bed& bed)
     const Color hot =
         hue == Hue::Accent ? context.theme.accentHot : lightened(solid, context.dark ? 0.05F : -0.05F);
     Faces faces = standardFaces(context, bed);
-    faces.normal = solidFace(context, context.stateFill(solid, Form::Raised, {}), bed);
-    const Color normal = faces.normal.fill;
+    const Color normal = solidFill(context, solid, Form::Raised);
     // The caption keeps its colour while the button is used.
     const Color ink = context.inkOn(context.shades(normal, Form::Raised));
     const auto face = [&](Color wanted, Form form, std::initializer_list<Color> others) {
-        return solidFace(context, context.fillUnder(ink, normal, wanted, form, others), bed, form);
+        const Color fill = context.fillUnder(ink, normal, wanted, form, others, context.solidAim);
+        return solidFace(context, fill, bed, form);
     };
+    faces.normal = solidFace(context, normal, bed, Form::Raised);
     faces.hot = face(hot, Form::Raised, {normal});
     faces.pressed = face(mixed(solid, bed.fill, 0.2F), Form::Pressed, {normal, faces.hot.fill});
     faces.active = face(mixed(solid, context.strongText, 0.15F), Form::Pressed,
@@ -162,13 +163,15 @@ ButtonStyle buttonOf(const DeriveContext& context, const ButtonRecipe& recipe, c
     style.shape = shape;
     style.hitShape = shape;
     const Color focus = context.mark(context.focus, bed.tones);
+    const Color solidInk = context.inkOn(context.shades(faces.normal.fill, faces.normal.form));
     for (int index = 0; index < kVisualStateCount; ++index) {
         const auto state = static_cast<VisualState>(index);
         SurfaceStyle& surface = style.surface[state];
         surface = surfaceOf(context, faces[state], shape);
-        surface.outline = focus;
+        surface.glow = focus;
         const Tones face = bedOn(surface, bed).tones;
-        const Color caption = captionOn(context, recipe, state, face);
+        const bool solid = recipe.emphasis == Emphasis::Solid && state != VisualState::Disabled;
+        const Color caption = solid ? solidInk : captionOn(context, recipe, state, face);
         style.text[state] = textOf(context, caption, context.faint(caption, face), recipe.type);
     }
     style.text.disabled.color = style.text.disabled.disabledColor;

@@ -75,7 +75,7 @@ PopupStyle popupOf(const DeriveContext& context, Color fill, Color frame, Hue hu
     style.iconShape = ShapeKind::Pill;
     style.surface = groundOf(context, fill, frame, style.shape);
     style.header = bareSurface(context, style.headerShape);
-    style.icon = surfaceOf(context, solidFace(context, context.solid(hue), context.ground), style.iconShape);
+    style.icon = badgeOf(context, hue, context.ground, style.iconShape);
     const Bed bed = bedOn(style.surface, context.ground);
     const Color ink = context.inkOn(bedOn(style.icon, bed).tones);
     style.iconText = textOf(context, ink, ink, kGlyph);
@@ -119,7 +119,7 @@ TooltipStyle tooltipOf(const DeriveContext& context)
     style.showShadow = context.look.form(Form::Raised).shadow > 0;
     const Bed bed = bedOn(style.surface, context.ground);
     style.textStyle = textOn(context, bed.tones, {context.text});
-    style.icon = surfaceOf(context, solidFace(context, context.solid(Hue::Accent), bed), style.iconShape);
+    style.icon = badgeOf(context, Hue::Accent, bed, style.iconShape);
     const Color ink = context.inkOn(bedOn(style.icon, bed).tones);
     style.iconText = textOf(context, ink, ink, {.points = -1, .weight = 300});
     style.accentRail =

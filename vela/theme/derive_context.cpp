@@ -8,8 +8,12 @@
 namespace vela {
 namespace {
 
-constexpr float kRimOfRatio = 0.04F;   // above the rule, so that rounding never falls below it
-constexpr float kMaterialRoom = 1.22F; // a material's light and texture take up to a fifth of the contrast
+constexpr float kRimOfRatio = 0.04F; // above the rule, so that rounding never falls below it
+// What a material's light and texture take of the contrast, measured on painted surfaces. Marks lie on large
+// surfaces, whose glow lifts the dark ones; the glossiest faces are those in the accent's material.
+constexpr float kTextRoom = 1.38F;
+constexpr float kMarkRoom = 1.55F;
+constexpr float kSolidRoom = 1.55F;
 constexpr float kInkRoom = 1.5F; // five fills, that far apart, between the first and the last legible one
 constexpr float kStatesApart = 0.022F; // just visible side by side
 constexpr int kStateSteps = 24;        // of half that distance, tried to either side
@@ -77,8 +81,9 @@ Color towards(Color from, Color to, float distance) noexcept
 
 DeriveContext::DeriveContext(const Theme& theme_)
     : theme(theme_), look(lookOf(theme_.surfaceMode)), materials(look.materials && theme_.materials.enabled),
-      textAim((kTextContrast + kRimOfRatio) * (materials ? kMaterialRoom : 1)),
-      markAim((kMarkContrast + kRimOfRatio) * (materials ? kMaterialRoom : 1))
+      textAim((kTextContrast + kRimOfRatio) * (materials ? kTextRoom : 1)),
+      solidAim((kTextContrast + kRimOfRatio) * (materials ? kSolidRoom : 1)),
+      markAim((kMarkContrast + kRimOfRatio) * (materials ? kMarkRoom : 1))
 {
     dark = strongestOn(theme.panel) == hexColor(0xFFFFFF);
     resolveHues();
@@ -166,9 +171,9 @@ Color DeriveContext::stateFill(Color wanted, Form form, std::initializer_list<Co
 }
 
 Color DeriveContext::fillUnder(Color ink, Color base, Color wanted, Form form,
-                               std::initializer_list<Color> others) const noexcept
+                               std::initializer_list<Color> others, float aim) const noexcept
 {
-    const auto legible = [&](Color color) { return contrastRatio(ink, shades(color, form)) >= textAim; };
+    const auto legible = [&](Color color) { return contrastRatio(ink, shades(color, form)) >= aim; };
     const auto fits = [&](Color color) { return isApart(color, others) && legible(color); };
     for (const float amount : {1.0F, 0.6F, 0.35F, 0.2F, 0.1F}) {
         const Color color = mixed(base, wanted, amount);
@@ -221,7 +226,7 @@ Color DeriveContext::mark(Color wanted, const Tones& on) const noexcept
 
 Color DeriveContext::faint(Color normal, const Tones& on) const noexcept
 {
-    const float aim = (kDisabledTextContrast + kRimOfRatio) * (materials ? kMaterialRoom : 1);
+    const float aim = (kDisabledTextContrast + kRimOfRatio) * (materials ? kTextRoom : 1);
     const float full = contrastRatio(normal, on);
     const float own = contrastRatio(theme.disabledText, on);
     if (own >= aim && own <= full * 0.7F)

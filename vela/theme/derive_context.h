@@ -37,6 +37,7 @@ public:
     const ModeLook& look;
     bool materials; // worn and switched on
     float textAim;  // the ratios aimed at leave room for what a material adds
+    float solidAim; // of text on faces in a strong colour
     float markAim;
     bool dark = false;
 
@@ -70,7 +71,12 @@ public:
     // The same for parts that keep one text colour in all states: as much of the way from the base to the
     // wanted colour as the ink can still be read on.
     Color fillUnder(Color ink, Color base, Color wanted, Form form,
-                    std::initializer_list<Color> others) const noexcept;
+                    std::initializer_list<Color> others) const noexcept
+    {
+        return fillUnder(ink, base, wanted, form, others, textAim);
+    }
+    Color fillUnder(Color ink, Color base, Color wanted, Form form, std::initializer_list<Color> others,
+                    float aim) const noexcept;
     // A mark whose every tone stands out from what it lies on: thumbs, rails, badges, progress.
     Color markFill(Color wanted, const Tones& on, Form form,
                    std::initializer_list<Color> others = {}) const noexcept;

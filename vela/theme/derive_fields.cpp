@@ -46,6 +46,7 @@ SurfaceStyle focusedField(const DeriveContext& context, Color fill, ShapeKind sh
 {
     SurfaceStyle surface = sunkenOf(context, fill, context.focus, shape);
     surface.showOutline = true;
+    surface.outlineWidth = 2;
     return surface;
 }
 
@@ -118,7 +119,7 @@ void buildCheckBox(const DeriveContext& context, StyleSheet& sheet)
 
     // One colour marks all checked boxes, so their fills keep near the accent.
     const Theme& theme = context.theme;
-    const Color checked = context.stateFill(theme.accent, Form::Raised, {});
+    const Color checked = solidFill(context, theme.accent, Form::Raised);
     const Color hot = context.stateFill(towards(checked, theme.accentHot, 0.05F), Form::Raised, {checked});
     const Color pressed =
         context.stateFill(towards(checked, context.ground.fill, 0.05F), Form::Pressed, {checked, hot});

@@ -125,19 +125,19 @@ void buildTabs(const DeriveContext& context, StyleSheet& sheet)
     // The open tab is told by more than a veil: its face is the control's own, with an edge in the accent.
     SurfaceStyle& open = style.itemButton.surface.active;
     const Bed& ground = context.ground;
-    const Color fill = context.stateFill(
-        context.control.normal, Form::Raised,
-        {ground.fill, style.itemButton.surface.hot.fill, style.itemButton.surface.pressed.fill});
-    const Color focus = open.outline;
+    const Color fill =
+        context.stateFill(context.control.normal, Form::Raised,
+                          {style.itemButton.surface.hot.fill, style.itemButton.surface.pressed.fill});
+    const Color focus = open.glow;
     open = surfaceOf(context,
                      {.fill = fill,
                       .border = context.mark(context.theme.accent, ground.tones),
                       .form = Form::Raised,
                       .substance = Substance::Control},
                      style.shape);
-    open.outline = focus;
+    open.glow = focus;
     style.itemButton.text.active =
-        textOn(context, bedOn(open, ground).tones, {context.strongText, context.text}, kLabel);
+        textOn(context, bedOn(open, ground).tones, {context.strongText, context.text});
     style.verticalItemHeight = 36;
     sheet.table<TabsStyle>().set(kDefaultVariant, std::move(style));
 }
@@ -186,7 +186,7 @@ void buildRichText(const DeriveContext& context, StyleSheet& sheet)
     style.text = textOn(context, bed.tones, {context.text});
     style.linkText = textOn(context, bed.tones, {context.theme.accent});
     style.linkText.underline = true;
-    style.icon = surfaceOf(context, solidFace(context, context.solid(Hue::Accent), bed), style.iconShape);
+    style.icon = badgeOf(context, Hue::Accent, bed, style.iconShape);
     style.paddingX = 16;
     style.paddingY = 12;
     sheet.table<RichTextStyle>().set(kDefaultVariant, std::move(style));

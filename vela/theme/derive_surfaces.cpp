@@ -89,13 +89,17 @@ SurfaceStyle surfaceOf(const DeriveContext& context, const Face& face, ShapeKind
     surface.fill = face.fill;
     surface.border = face.border;
     surface.shadow = hexColor(0x000000);
-    surface.glow = context.theme.accentHot;
-    surface.outline = context.focus;
-    surface.outlineWidth = 2;
+    surface.glow = context.focus;
+    surface.outline = face.border;
+    surface.outlineWidth = 1;
     surface.noise = context.dark ? hexColor(0xFFFFFF) : hexColor(0x000000);
     surface.noiseSeed = 0x2F1B;
     surface.drawFill = face.drawn;
-    surface.drawBorder = face.drawn && face.bordered;
+    // The light falls on the border too and would wash it out where it tells the control from its ground; the
+    // outline lies above the light.
+    const bool lit = context.look.form(face.form).light > 0 && face.form != Form::Ground;
+    surface.drawBorder = face.drawn && face.bordered && !lit;
+    surface.showOutline = face.drawn && face.bordered && lit;
     return surface;
 }
 
@@ -122,20 +126,27 @@ SurfaceStyle groundOf(const DeriveContext& context, Color fill, Color border, Sh
                      shape);
 }
 
+Color solidFill(const DeriveContext& context, Color wanted, Form form)
+{
+    return readableFace(wanted, std::abs(context.look.form(form).shading), context.solidAim);
+}
+
 Face solidFace(const DeriveContext& context, Color fill, const Bed& bed, Form form)
 {
-    const float shading = context.look.form(form).shading;
-    const Color face = readableFace(fill, std::abs(shading), context.textAim);
-    const Tones tones = shading != 0
-                            ? Tones(lightened(face, -std::abs(shading)), lightened(face, std::abs(shading)))
-                            : Tones(face);
-    const bool standsOut = std::min(contrastRatio(tones.darkest, bed.tones),
-                                    contrastRatio(tones.lightest, bed.tones)) >= context.markAim;
-    const Color rim = lightened(face, strongestOn(tones) == hexColor(0xFFFFFF) ? -0.06F : 0.06F);
-    return {.fill = face,
-            .border = standsOut ? rim : context.mark(face, bed.tones),
+    const Tones tones = context.shades(fill, form);
+    const float standsOut =
+        std::min(contrastRatio(tones.darkest, bed.tones), contrastRatio(tones.lightest, bed.tones));
+    const Color rim = lightened(fill, strongestOn(tones) == hexColor(0xFFFFFF) ? -0.06F : 0.06F);
+    return {.fill = fill,
+            .border = standsOut >= context.markAim ? rim : context.mark(fill, bed.tones),
             .form = form,
             .substance = Substance::Accent};
+}
+
+SurfaceStyle badgeOf(const DeriveContext& context, Hue hue, const Bed& bed, ShapeKind shape)
+{
+    const Color fill = solidFill(context, context.solid(hue), Form::Raised);
+    return surfaceOf(context, solidFace(context, fill, bed, Form::Raised), shape);
 }
 
 Bed bedOn(const SurfaceStyle& surface, const Bed& under)

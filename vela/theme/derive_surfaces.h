@@ -27,8 +27,12 @@ SurfaceStyle plateOf(const DeriveContext& context, Color fill, ShapeKind shape);
 SurfaceStyle sunkenOf(const DeriveContext& context, Color fill, Color border, ShapeKind shape);
 // A panel, bar or popup.
 SurfaceStyle groundOf(const DeriveContext& context, Color fill, Color border, ShapeKind shape);
-// A face in a strong colour, with a border that stands out from the bed where the colour does not.
-Face solidFace(const DeriveContext& context, Color fill, const Bed& bed, Form form = Form::Raised);
+// A strong colour as a fill on which text can be read.
+Color solidFill(const DeriveContext& context, Color wanted, Form form);
+// A face in such a colour, with a border that stands out from the bed where the colour does not.
+Face solidFace(const DeriveContext& context, Color fill, const Bed& bed, Form form);
+// A raised disc or dot in a hue, for a glyph.
+SurfaceStyle badgeOf(const DeriveContext& context, Hue hue, const Bed& bed, ShapeKind shape);
 
 Bed bedOn(const SurfaceStyle& surface, const Bed& under);
 
