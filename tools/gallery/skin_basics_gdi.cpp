@@ -48,6 +48,11 @@ void SkinPage::surface(const Rect& rect, const SurfaceStyle& style) const
     vela::paintSurface(sheet.dc(), rect, style);
 }
 
+void SkinPage::badge(const Rect& rect, const SurfaceStyle& style) const
+{
+    vela::paintBadge(sheet.dc(), rect, style);
+}
+
 void SkinPage::text(const Rect& rect, std::wstring_view line, const vela::FontSpec& font,
                     vela::TextLook look) const
 {
@@ -161,9 +166,9 @@ std::int32_t drawChips(const SkinPage& page, vela::Point place)
         const vela::StatusChipStyle& style = variant.record;
         const Rect chip{place.x, place.y, 128, 26};
         page.surface(chip, style.surface);
-        page.surface({chip.x + style.badgeLeft, chip.y + (chip.height - style.badgeSize) / 2, style.badgeSize,
-                      style.badgeSize},
-                     style.badge);
+        page.badge({chip.x + style.badgeLeft, chip.y + (chip.height - style.badgeSize) / 2, style.badgeSize,
+                    style.badgeSize},
+                   style.badge);
         page.text({chip.x + style.textLeft, chip.y, chip.width - style.textLeft - 8, chip.height},
                   variant.name, style.text);
         place.x += chip.width + 12;

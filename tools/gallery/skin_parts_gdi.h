@@ -14,6 +14,7 @@ struct SkinPage {
     const vela::StyleSheet& styles;
 
     void surface(const vela::Rect& rect, const vela::SurfaceStyle& style) const;
+    void badge(const vela::Rect& rect, const vela::SurfaceStyle& style) const;
     void text(const vela::Rect& rect, std::wstring_view text, const vela::FontSpec& font,
               vela::TextLook look = {}) const;
     void button(const vela::Rect& rect, const vela::ButtonStyle& style, vela::VisualState state,

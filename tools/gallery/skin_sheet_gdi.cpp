@@ -45,7 +45,7 @@ std::int32_t drawRichText(const SkinPage& page, vela::Point place)
     const Rect box{place.x, place.y, 330, 92};
     page.surface(box, style.surface);
     const Rect icon{box.x + style.paddingX, box.y + style.paddingY, 24, 24};
-    page.surface(icon, style.icon);
+    page.badge(icon, style.icon);
     const Rect text{icon.x + 34, box.y + style.paddingY, box.width - style.paddingX * 2 - 34, 44};
     page.text(text, L"Součásti se stáhnou až při prvním spuštění aplikace.", style.text,
               {.wrap = TextWrap::Words});
@@ -69,8 +69,8 @@ std::int32_t drawTooltips(const SkinPage& page, vela::Point place)
         if (style.showAccentRail)
             page.surface({tip.x + 3, tip.y + 5, 3, tip.height - 10}, style.accentRail);
         if (style.showIcon)
-            page.surface({tip.x + style.paddingX, tip.y + style.paddingY, style.iconSize, style.iconSize},
-                         style.icon);
+            page.badge({tip.x + style.paddingX, tip.y + style.paddingY, style.iconSize, style.iconSize},
+                       style.icon);
         page.text({tip.x + left, tip.y + style.paddingY, tip.width - left - style.paddingX, height}, kText,
                   style.textStyle, {.wrap = TextWrap::Words});
         place.x += width + 16;
@@ -87,7 +87,7 @@ std::int32_t drawPopups(const SkinPage& page, vela::Point place)
         page.surface({popup.x, popup.y, popup.width, style.headerHeight}, style.header);
         const Rect icon{popup.x + style.paddingX, popup.y + (style.headerHeight - style.iconSize) / 2,
                         style.iconSize, style.iconSize};
-        page.surface(icon, style.icon);
+        page.badge(icon, style.icon);
         vela::paintGlyph(page.sheet.dc(), vela::Glyph::Info,
                          centered(icon, {style.iconSize / 2, style.iconSize / 2}), kDpi,
                          style.iconText.color);
@@ -118,8 +118,9 @@ bool drawSkinSheet(const std::wstring& path, const vela::SkinDefinition& skin)
     const vela::StyleSheet styles = vela::buildStyleSheet(skin);
     Sheet sheet(kSheet, {skin.theme.shell, skin.theme.text, skin.theme.mutedText});
     const SkinPage page{sheet, styles};
-    page.surface({0, 0, kSheet.width, kSheet.height},
-                 styles.find<vela::PanelStyle>(vela::kDefaultVariant).surface);
+    vela::SurfaceStyle ground = styles.find<vela::PanelStyle>(vela::kDefaultVariant).surface;
+    ground.shape = vela::ShapeKind::Rect; // a sheet has no corners to cut
+    page.surface({0, 0, kSheet.width, kSheet.height}, ground);
     const std::int32_t top = drawTitleBar(page, {0, 0, kSheet.width, 40}, skin.name) + 16;
 
     constexpr std::int32_t kLeft = 24;

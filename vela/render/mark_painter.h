@@ -19,6 +19,9 @@ void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi,
 // A dot or a small plate behind a symbol.
 void paintBadge(HDC dc, const Rect& rect, ShapeKind shape, Color color);
 
+// The same as a styled surface, all its layers but shadow and glow.
+void paintBadge(HDC dc, const Rect& rect, const SurfaceStyle& style);
+
 // The fill's surface from the track's left edge to `end` pixels, which may be a fraction.
 void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end);
 

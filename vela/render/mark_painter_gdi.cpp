@@ -22,48 +22,113 @@ void makeOpaque(const PixelView& pixels)
                       [](Pixel& pixel) { pixel |= 0xFF000000; });
 }
 
+// The target's coordinates begin at the rectangle's corner.
+template <typename Draw>
+void drawSmooth(HDC dc, const Rect& rect, Draw&& draw)
+{
+    renderPixelLayer(dc, rect, [&](const LayerTarget& target) {
+        draw(target, Rect{0, 0, rect.width, rect.height});
+    });
+}
+
+// Paints on a copy of what lies under the rectangle and lays back what `cut` leaves of that picture, so that
+// hard-edged layers get a smooth edge.
+template <typename Paint, typename Cut>
+void paintCut(HDC dc, const Rect& rect, Paint&& paint, Cut&& cut)
+{
+    const Rect visible = visiblePart(dc, rect);
+    if (isEmpty(visible))
+        return;
+    const DibSurface copy(sizeOf(visible));
+    if (!copy)
+        return;
+    ::BitBlt(copy.dc(), 0, 0, visible.width, visible.height, dc, visible.x, visible.y, SRCCOPY);
+    ::SetViewportOrgEx(copy.dc(), -visible.x, -visible.y, nullptr);
+    paint(copy.dc());
+    const PixelView pixels = copy.pixels();
+    makeOpaque(pixels);
+    cut(LayerTarget{pixels, {visible.x - rect.x, visible.y - rect.y}});
+    compositePixelBuffer(dc, visible, pixels);
+}
+
+// Fill or gradient on the whole rectangle, for the cut to find colour up to the very edge.
+SurfaceStyle groundOf(const SurfaceStyle& style)
+{
+    SurfaceStyle ground = style;
+    ground.shape = ShapeKind::Rect;
+    ground.materialEnabled = ground.drawBorder = ground.showOutline = ground.showGlow = ground.showShadow =
+        false;
+    ground.showInnerShadow = ground.useNoise = false;
+    ground.materialDepth = 0;
+    return ground;
+}
+
+SurfaceStyle lightOf(const SurfaceStyle& style)
+{
+    SurfaceStyle light = style;
+    light.drawFill = light.useGradient = light.drawBorder = light.showOutline = light.showGlow =
+        light.showShadow = false;
+    return light;
+}
+
 } // namespace
 
 void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color)
 {
-    renderPixelLayer(dc, box, [&](const LayerTarget& target) {
-        drawGlyph(target, glyph, {0, 0, box.width, box.height}, dpi, color);
+    drawSmooth(dc, box, [&](const LayerTarget& target, const Rect& local) {
+        drawGlyph(target, glyph, local, dpi, color);
     });
 }
 
 void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi, Color color)
 {
     const float width = std::round(kFocusRingWidth * static_cast<float>(dpi) / kDesignDpi);
-    renderPixelLayer(dc, rect, [&](const LayerTarget& target) {
-        strokeSmoothShape(target, shape, {0, 0, rect.width, rect.height}, width, color);
+    drawSmooth(dc, rect, [&](const LayerTarget& target, const Rect& local) {
+        strokeSmoothShape(target, shape, local, width, color);
     });
 }
 
 void paintBadge(HDC dc, const Rect& rect, ShapeKind shape, Color color)
 {
-    renderPixelLayer(dc, rect, [&](const LayerTarget& target) {
-        fillSmoothShape(target, shape, {0, 0, rect.width, rect.height}, color);
+    drawSmooth(dc, rect, [&](const LayerTarget& target, const Rect& local) {
+        fillSmoothShape(target, shape, local, color);
     });
 }
 
-// The whole fill is painted on a copy of what lies under it; of that picture the part up to the end is laid
-// back with a smooth edge.
+void paintBadge(HDC dc, const Rect& rect, const SurfaceStyle& style)
+{
+    if (style.image) // a bitmap has its own edges
+        return paintSurface(dc, rect, style);
+    paintCut(
+        dc, rect,
+        [&](HDC copy) {
+            paintSurface(copy, rect, groundOf(style));
+            paintSurface(copy, rect, lightOf(style));
+        },
+        [&](const LayerTarget& target) {
+            cutToProgress(target, style.shape, {0, 0, rect.width, rect.height},
+                          static_cast<float>(rect.width));
+        });
+    const auto stroke = [&](float width, Color color) {
+        drawSmooth(dc, rect, [&](const LayerTarget& target, const Rect& local) {
+            strokeSmoothShape(target, style.shape, local, width, color);
+        });
+    };
+    if (style.drawBorder)
+        stroke(1.0F, style.border);
+    if (style.showOutline)
+        stroke(static_cast<float>(style.outlineWidth), style.outline);
+}
+
 void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end)
 {
-    const float reach = std::clamp(end, 0.0F, static_cast<float>(track.width));
+    const float reach = std::clamp(end, 0.0F, static_cast<float>(std::max(track.width, 0)));
     const Rect filled{track.x, track.y, static_cast<std::int32_t>(std::ceil(reach)), track.height};
-    const Rect visible = visiblePart(dc, filled);
-    const DibSurface copy(sizeOf(visible));
-    if (isEmpty(visible) || !copy)
-        return;
-    ::BitBlt(copy.dc(), 0, 0, visible.width, visible.height, dc, visible.x, visible.y, SRCCOPY);
-    ::SetViewportOrgEx(copy.dc(), -visible.x, -visible.y, nullptr);
-    paintSurface(copy.dc(), track, fill);
-    const PixelView pixels = copy.pixels();
-    makeOpaque(pixels);
-    cutToProgress({pixels, {visible.x - track.x, visible.y - track.y}}, fill.shape,
-                  {0, 0, track.width, track.height}, reach);
-    compositePixelBuffer(dc, visible, pixels);
+    paintCut(
+        dc, filled, [&](HDC copy) { paintSurface(copy, track, fill); },
+        [&](const LayerTarget& target) {
+            cutToProgress(target, fill.shape, {0, 0, track.width, track.height}, reach);
+        });
 }
 
 } // namespace vela
