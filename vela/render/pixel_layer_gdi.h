@@ -13,17 +13,24 @@ PixelView scratchPixels(Size size);
 // Blends the scratch pixels of that size, from their top left corner, over the rectangle.
 void compositeScratch(HDC dc, const Rect& rect);
 
-// Lets `fill` write the visible part of a layer that covers the rectangle, as a LayerTarget, and composites
-// it. A layer that the clip hides is not generated.
+// Lets `fill` write the visible pixels of a part of a layer, as a LayerTarget, and composites them. The layer
+// covers the rectangle; the part is in the layer's own coordinates. What the clip hides is not generated.
 template <typename Fill>
-void renderPixelLayer(HDC dc, const Rect& rect, Fill&& fill)
+void renderPixelLayer(HDC dc, const Rect& rect, const Rect& part, Fill&& fill)
 {
-    const Rect visible = visiblePart(dc, rect);
+    const Rect visible = visiblePart(dc, {rect.x + part.x, rect.y + part.y, part.width, part.height});
     const PixelView pixels = scratchPixels(sizeOf(visible));
     if (!pixels.pixels)
         return;
     fill(LayerTarget{pixels, {visible.x - rect.x, visible.y - rect.y}});
     compositeScratch(dc, visible);
+}
+
+// The same for the whole layer.
+template <typename Fill>
+void renderPixelLayer(HDC dc, const Rect& rect, Fill&& fill)
+{
+    renderPixelLayer(dc, rect, {0, 0, rect.width, rect.height}, fill);
 }
 
 } // namespace vela

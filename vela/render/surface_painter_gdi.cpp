@@ -1,6 +1,7 @@
 #include "vela/render/surface_painter.h"
 
 #include "vela/render/clip_gdi.h"
+#include "vela/render/layer_parts.h"
 #include "vela/render/paint_plan.h"
 #include "vela/render/pixel_layer_gdi.h"
 #include "vela/render/surface_bitmaps.h"
@@ -22,12 +23,14 @@ void paintPixels(const Surface& surface, const PaintStep& step)
     const SurfaceStyle& style = surface.style;
     const RunMask* const outline = surfaceOutline(style, sizeOf(step.rect), surface.bitmaps);
     const Coverage coverage = outline ? Coverage(*outline) : Coverage(style.shape, sizeOf(step.rect));
-    renderPixelLayer(surface.dc, step.rect, [&](const LayerTarget& target) {
+    const auto fill = [&](const LayerTarget& target) {
         if (step.layer == SurfaceLayer::Bitmap)
             fillBitmap(target, coverage, *surface.bitmaps.skin, bitmapPlacement(style, coverage.size()));
         else
             fillLayer(target, coverage, step, style, {surface.rect.x, surface.rect.y});
-    });
+    };
+    for (const Rect& part : layerParts(step, coverage, style))
+        renderPixelLayer(surface.dc, step.rect, part, fill);
 }
 
 void paintStep(const Surface& surface, const PaintStep& step)
