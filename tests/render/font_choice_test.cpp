@@ -21,27 +21,28 @@ TEST(FontChoiceTest, SizesArePointsAtTheWindowsDpi)
 
 TEST(FontChoiceTest, AFaceThatIsNotThereBecomesTheDefaultFace)
 {
-    const std::set<std::wstring> installed = {L"Segoe UI", L"Segoe UI Semibold", L"Georgia", L"Exo 2",
-                                              L"Exo 2 Medium"};
+    const std::set<std::wstring> installed = {L"Segoe UI", L"Segoe UI Semibold", L"Georgia",
+                                              L"Exo 2",    L"Exo 2 Light",       L"Exo 2 Medium"};
     const auto isInstalled = [&](const std::wstring& family) { return installed.count(family) != 0; };
     const struct {
         const wchar_t* family;
         std::int32_t weight;
         const wchar_t* face;
+        std::int32_t asked; // of GDI
     } rows[] = {
-        {L"Georgia", 400, L"Georgia"},
-        {L"Georgia", 600, L"Georgia"},
-        {L"Exo 2", 500, L"Exo 2 Medium"},
-        {L"Bahnschrift", 400, L"Segoe UI"},
-        {L"", 400, L"Segoe UI"},
-        {L"Bahnschrift", 600, L"Segoe UI Semibold"},
-        {L"Segoe UI", 600, L"Segoe UI Semibold"},
-        {L"Segoe UI", 700, L"Segoe UI"},
+        {L"Georgia", 400, L"Georgia", 400},
+        {L"Georgia", 600, L"Georgia", 600},
+        {L"Exo 2", 500, L"Exo 2 Medium", 400},
+        {L"Exo 2", 300, L"Exo 2 Light", 300},
+        {L"Bahnschrift", 400, L"Segoe UI", 400},
+        {L"Bahnschrift", 600, L"Segoe UI Semibold", 400},
+        {L"", 400, L"Segoe UI", 400},
+        {L"Segoe UI", 700, L"Segoe UI", 700},
     };
     for (const auto& row : rows) {
         const FontFace face = chooseFace(row.family, row.weight, isInstalled);
         EXPECT_EQ(face.family, row.face);
-        EXPECT_EQ(face.weight, row.weight);
+        EXPECT_EQ(face.weight, row.asked);
     }
     EXPECT_EQ(chooseFace(L"Georgia", 400, [](const std::wstring&) { return false; }).family, L"Segoe UI");
 }

@@ -21,6 +21,8 @@ constexpr WeightSuffix kWeightSuffixes[] = {
     {800, L" ExtraBold"}, {800, L" UltraBold"},  {900, L" Black"},      {900, L" Heavy"},
 };
 
+constexpr std::int32_t kRegularWeight = 400;
+
 constexpr std::wstring_view kFontExtensions[] = {L".ttf", L".otf", L".ttc", L".otc"};
 
 // A point size comes from a skin and may be anything; beyond this no text fits a screen.
@@ -44,8 +46,8 @@ FontFace chooseFace(std::wstring_view family, std::int32_t weight,
             if (row.weight != weight)
                 continue;
             std::wstring ofWeight = std::wstring(wanted).append(row.suffix);
-            if (isInstalled(ofWeight))
-                return {std::move(ofWeight), weight};
+            if (isInstalled(ofWeight)) // asked for more than regular, GDI might thicken what is heavy already
+                return {std::move(ofWeight), std::min(weight, kRegularWeight)};
         }
         if (isInstalled(std::wstring(wanted)))
             return {std::wstring(wanted), weight};

@@ -37,12 +37,14 @@ public:
 
     IDWriteFactory* factory() const noexcept { return factory_.get(); }
     IDWriteRenderingParams* params() const noexcept { return params_.get(); }
+    IDWriteTypography* plainTypography() const noexcept { return plainTypography_.get(); }
     IDWriteTextFormat* ensureFormat(const Font& font);
     IDWriteBitmapRenderTarget* ensureTarget(HDC dc, Size size);
 
 private:
     Engine();
     ComPointer<IDWriteTextFormat> makeFormat(const Font& font) const;
+    bool makePlainTypography();
     void openPrivateFonts();
 
     SystemLibrary library_{L"dwrite.dll"};
@@ -51,6 +53,7 @@ private:
     ComPointer<IDWriteFontCollection> systemFonts_;
     ComPointer<IDWriteFontCollection> privateFonts_;
     ComPointer<IDWriteRenderingParams> params_;
+    ComPointer<IDWriteTypography> plainTypography_;
     ComPointer<IDWriteBitmapRenderTarget> target_;
     Size targetSize_;
     std::vector<Format> formats_;
@@ -64,9 +67,22 @@ Engine::Engine()
         return;
     if (FAILED(factory_->GetSystemFontCollection(systemFonts_.put(), FALSE)) ||
         FAILED(factory_->CreateRenderingParams(params_.put())) ||
-        FAILED(factory_->GetGdiInterop(interop_.put())))
+        FAILED(factory_->GetGdiInterop(interop_.put())) || !makePlainTypography())
         interop_.reset();
     openPrivateFonts();
+}
+
+// GDI neither kerns nor joins letters; if DirectWrite did, the text would be narrower than it was measured.
+bool Engine::makePlainTypography()
+{
+    constexpr DWRITE_FONT_FEATURE_TAG kOff[] = {
+        DWRITE_FONT_FEATURE_TAG_KERNING, DWRITE_FONT_FEATURE_TAG_STANDARD_LIGATURES,
+        DWRITE_FONT_FEATURE_TAG_CONTEXTUAL_LIGATURES, DWRITE_FONT_FEATURE_TAG_CONTEXTUAL_ALTERNATES};
+    if (FAILED(factory_->CreateTypography(plainTypography_.put())))
+        return false;
+    return std::all_of(std::begin(kOff), std::end(kOff), [this](DWRITE_FONT_FEATURE_TAG tag) {
+        return SUCCEEDED(plainTypography_->AddFontFeature({tag, 0}));
+    });
 }
 
 // DirectWrite does not see what GDI registered for this process alone: it gets a collection of its own. An
@@ -119,10 +135,12 @@ ChosenFace chosenFace(IDWriteGdiInterop& interop, const Font& font)
         return {};
     ChosenFace chosen{firstOf(*names.get()), described->GetWeight(), described->GetStretch(),
                       described->GetStyle()};
-    // GDI thickens and slants faces that lack a bold or an italic; asked for them, DirectWrite does the same.
-    if (font.face.weight >= FW_BOLD)
-        chosen.weight = std::max(chosen.weight, DWRITE_FONT_WEIGHT_BOLD);
-    if (font.key.italic && chosen.style == DWRITE_FONT_STYLE_NORMAL)
+    // A face without a bold that GDI thickens itself gets wider with GDI, but not with DirectWrite: it stays
+    // GDI's. Slanting changes no width.
+    const DWRITE_FONT_SIMULATIONS simulated = face->GetSimulations();
+    if (simulated & DWRITE_FONT_SIMULATIONS_BOLD)
+        return {};
+    if (simulated & DWRITE_FONT_SIMULATIONS_OBLIQUE)
         chosen.style = DWRITE_FONT_STYLE_ITALIC;
     return chosen;
 }
@@ -292,6 +310,7 @@ DirectWriteLayout makeDirectWriteLayout(const TextLines& lines, const Font& font
                        static_cast<float>(box.height), kPixelsPerUnit, nullptr, FALSE, made.layout.put())))
         return made;
     if (FAILED(made.layout->SetTextAlignment(kAlignments[static_cast<std::size_t>(align)])) ||
+        FAILED(made.layout->SetTypography(engine->plainTypography(), {0, length})) ||
         (font.key.underline && FAILED(made.layout->SetUnderline(TRUE, {0, length})))) {
         made.layout.reset();
         return made;
