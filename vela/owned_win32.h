@@ -76,4 +76,11 @@ struct LibraryTraits {
 };
 using OwnedLibrary = Owned<LibraryTraits>;
 
+struct IconTraits {
+    using Handle = HICON;
+    static Handle empty() noexcept { return nullptr; }
+    static void close(Handle icon) noexcept { ::DestroyIcon(icon); }
+};
+using OwnedIcon = Owned<IconTraits>;
+
 } // namespace vela

@@ -79,6 +79,10 @@ TEST_F(InputRouterTest, AControlThatCannotBeReachedHasNoKeyboard)
     EXPECT_EQ(router.focused(), nullptr);
     router.focus(&dialog);
     EXPECT_EQ(router.focused(), nullptr);
+    first.setEnabled(true);
+    router.focus(&first);
+    router.focus(&dialog);
+    EXPECT_EQ(router.focused(), &first);
 }
 
 TEST_F(InputRouterTest, EnterAndEscapeReachTheDialogWhenNobodyTakesThem)

@@ -3,6 +3,7 @@
 
 #include "vela/render/mark_painter.h"
 #include "vela/render/paint_clip.h"
+#include "vela/render/program_icon.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 
@@ -47,6 +48,8 @@ void paintGlyph(HDC, Glyph, const Rect& box, std::int32_t, Color color)
 {
     calls().push_back({L"glyph", box, {}, {}, color});
 }
+
+void paintProgramIcon(HDC, const Rect& box) { calls().push_back({L"icon", box, {}, {}, 0}); }
 
 void paintFocusRing(HDC, const Rect& rect, ShapeKind, std::int32_t, Color color)
 {

@@ -11,7 +11,7 @@
 namespace vela::testing {
 
 struct PaintCall {
-    std::wstring what; // "surface", "text", "glyph", "ring", "progress"
+    std::wstring what; // "surface", "text", "glyph", "icon", "ring", "progress"
     Rect rect;
     std::wstring text;
     SurfaceStyle surface;

@@ -86,7 +86,10 @@ Control* InputRouter::focused() const noexcept
 
 void InputRouter::focus(Control* control)
 {
-    Control* const target = control && control->acceptsFocus() && isReachable(*control) ? control : nullptr;
+    // What takes no keyboard leaves it where it is.
+    if (control && !control->acceptsFocus())
+        return;
+    Control* const target = control && isReachable(*control) ? control : nullptr;
     Control* const previous = std::exchange(focused_, target);
     if (previous == target)
         return;
@@ -109,9 +112,12 @@ void InputRouter::setWindowFocused(bool focused)
 
 bool InputRouter::keyPressed(const KeyEvent& event)
 {
+    const Control* const before = focused_;
     for (Control* at = focused(); at; at = at->container()) {
-        if (at->keyPressed(event))
-            return true;
+        if (!at->keyPressed(event))
+            continue;
+        showsFocus_ |= focused_ != before;
+        return true;
     }
     if (event.key == kKeyTab && !event.modifiers.control && !event.modifiers.alt)
         return moveFocus(event.modifiers.shift);

@@ -17,13 +17,6 @@ inline constexpr wchar_t kWindowClass[] = L"VelaDesignWindow";
 inline constexpr UINT_PTR kWindowTimer = 1201;
 inline constexpr UINT kWindowTimerPeriod = 125; // milliseconds
 
-struct IconTraits {
-    using Handle = HICON;
-    static Handle empty() noexcept { return nullptr; }
-    static void close(Handle icon) noexcept { ::DestroyIcon(icon); }
-};
-using OwnedIcon = Owned<IconTraits>;
-
 // The monitor a window is on, or would open on, and what of it programs may cover.
 struct MonitorAreas {
     Rect monitor;

@@ -1,0 +1,238 @@
+#include "vela/controls/designed_popup.h"
+
+#include "vela/render/mark_painter.h"
+#include "vela/render/surface_painter.h"
+#include "vela/render/text.h"
+#include "vela/theme/record_scale.h"
+#include "vela/theme/style_sheet.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vela {
+
+namespace {
+
+// 96-DPI pixels.
+constexpr Size kCloseButton{32, 28};
+constexpr std::int32_t kCloseMargin = 8;
+constexpr std::int32_t kTitleGap = 14;
+
+constexpr struct {
+    std::wstring_view text;
+    Glyph glyph;
+} kIconGlyphs[] = {{L"i", Glyph::Info}, {L"!", Glyph::Warning}, {L"X", Glyph::Close}};
+
+// Closes its popup before it says so: whoever hears of it may destroy both.
+class PopupCloseButton final : public ThemedButton {
+public:
+    explicit PopupCloseButton(DesignedPopup& popup)
+        : ThemedButton(popup.id() + L".close", {}, L""), popup_(popup)
+    {
+        setAction(L"close");
+        setGlyph(Glyph::Close);
+        setHint(L"Zavrit");
+    }
+    void activate() override
+    {
+        if (!isEnabled())
+            return;
+        popup_.setOpen(false);
+        ThemedButton::activate();
+    }
+
+private:
+    DesignedPopup& popup_;
+};
+
+} // namespace
+
+DesignedPopup::DesignedPopup(std::wstring id, Rect bounds)
+    : Control(std::move(id), bounds), header_(this->id() + L".header", {}),
+      close_(std::make_unique<PopupCloseButton>(*this))
+{
+    header_.setSender(this->id(), title_);
+    addChild(header_);
+    addChild(*close_);
+    placeChildren();
+}
+
+DesignedPopup::~DesignedPopup() = default;
+
+bool DesignedPopup::applyStyle(const StyleSheet& styles)
+{
+    designStyle_ = styles.find<PopupStyle>(styleKey());
+    style_ = scaledToDpi(designStyle_, dpi());
+    placeChildren();
+    invalidate(InvalidationReason::State);
+    return true;
+}
+
+void DesignedPopup::onStyleApplied()
+{
+    styleButtons();
+    placeChildren();
+}
+
+void DesignedPopup::styleButtons()
+{
+    close_->setStyle(designStyle_.closeButton);
+    for (std::size_t i = 0; i < buttons_.size(); ++i)
+        buttons_[i]->setStyle(actions_[i].primary ? designStyle_.primaryAction
+                                                  : designStyle_.secondaryAction);
+}
+
+const BitmapSkin* DesignedPopup::attachedImage() const
+{
+    return style_.surface.image ? &*style_.surface.image : nullptr;
+}
+
+void DesignedPopup::setPart(std::wstring& part, std::wstring text)
+{
+    if (part == text)
+        return;
+    part = std::move(text);
+    invalidate(InvalidationReason::State);
+}
+
+void DesignedPopup::setTitle(std::wstring title)
+{
+    setPart(title_, std::move(title));
+    header_.setSender(id(), title_);
+}
+
+void DesignedPopup::setGlyph(std::wstring glyph) { setPart(glyph_, std::move(glyph)); }
+
+void DesignedPopup::setMessage(std::wstring message) { setPart(message_, std::move(message)); }
+
+void DesignedPopup::setActions(std::vector<PopupAction> actions)
+{
+    for (const auto& button : buttons_)
+        removeChild(*button);
+    buttons_.clear();
+    actions_ = std::move(actions);
+    for (std::size_t i = 0; i < actions_.size(); ++i) {
+        PopupAction& action = actions_[i];
+        if (action.id.empty())
+            action.id = id() + L".action." + std::to_wstring(i);
+        buttons_.push_back(std::make_unique<ThemedButton>(action.id, Rect{}, action.label));
+        addChild(*buttons_.back());
+    }
+    styleButtons();
+    placeChildren();
+}
+
+void DesignedPopup::setClosable(bool closable) { close_->setVisible(closable); }
+
+void DesignedPopup::setOpen(bool open)
+{
+    open_ = open;
+    setVisible(open);
+}
+
+// A caption that is wider than the style's button gets the room it needs.
+void DesignedPopup::placeChildren()
+{
+    header_.setBounds({0, 0, std::max(bounds().width, 0), style_.headerHeight});
+    const Size close{scaled(kCloseButton.width), scaled(kCloseButton.height)};
+    close_->setBounds({bounds().width - scaled(kCloseMargin) - close.width, scaled(kCloseMargin), close.width,
+                       close.height});
+    std::int32_t right = bounds().width - style_.paddingX;
+    const std::int32_t top = bounds().height - style_.paddingY - style_.actionHeight;
+    for (auto button = buttons_.rbegin(); button != buttons_.rend(); ++button) {
+        (*button)->setMinimumSize({0, 0});
+        const std::int32_t width = std::max(style_.actionWidth, (*button)->minimumSize().width);
+        (*button)->setBounds({right - width, top, width, style_.actionHeight});
+        right -= width + style_.actionGap;
+    }
+}
+
+Rect DesignedPopup::iconRect() const noexcept
+{
+    return {style_.paddingX, (style_.headerHeight - style_.iconSize) / 2, style_.iconSize, style_.iconSize};
+}
+
+std::int32_t DesignedPopup::titleLeft() const noexcept
+{
+    return glyph_.empty() ? style_.paddingX : style_.paddingX + style_.iconSize + scaled(kTitleGap);
+}
+
+Rect DesignedPopup::messageRect() const noexcept
+{
+    const std::int32_t below = buttons_.empty() ? 0 : style_.actionHeight + style_.paddingY;
+    return {style_.paddingX, style_.headerHeight, std::max(bounds().width - 2 * style_.paddingX, 0),
+            std::max(bounds().height - style_.headerHeight - style_.paddingY - below, 0)};
+}
+
+void DesignedPopup::paint(HDC dc, Point origin)
+{
+    const Rect box = movedBy(bounds(), origin);
+    const Point at{box.x, box.y};
+    paintSurface(dc, box, style_.surface);
+    paintSurface(dc, {box.x, box.y, box.width, style_.headerHeight}, style_.header);
+    if (!glyph_.empty()) {
+        const Rect icon = movedBy(iconRect(), at);
+        paintSurface(dc, icon, style_.icon);
+        const auto* const row = std::find_if(std::begin(kIconGlyphs), std::end(kIconGlyphs),
+                                             [this](const auto& known) { return known.text == glyph_; });
+        const std::int32_t side = icon.width / 2;
+        const Rect inner{icon.x + (icon.width - side) / 2, icon.y + (icon.height - side) / 2, side, side};
+        if (row != std::end(kIconGlyphs))
+            paintGlyph(dc, row->glyph, inner, dpi(), style_.iconText.color);
+        else
+            drawText(dc, icon, glyph_, style_.iconText, dpi(), {.align = TextAlign::Center});
+    }
+    const std::int32_t titleRight =
+        close_->isVisible() ? close_->bounds().x : bounds().width - style_.paddingX;
+    const Rect title{titleLeft(), 0, std::max(titleRight - titleLeft(), 0), style_.headerHeight};
+    drawText(dc, movedBy(title, at), title_, style_.titleText, dpi());
+    drawText(dc, movedBy(messageRect(), at), message_, style_.messageText, dpi(), {.wrap = TextWrap::Words});
+    for (Control* child : visibleChildren())
+        child->paint(dc, at);
+}
+
+// Arrow keys go along the row of actions and stop at its ends.
+bool DesignedPopup::keyPressed(const KeyEvent& event)
+{
+    const bool back = event.key == kKeyLeft || event.key == kKeyUp;
+    const bool forth = event.key == kKeyRight || event.key == kKeyDown;
+    if ((!back && !forth) || event.modifiers != KeyModifiers{} || !window())
+        return false;
+    const auto current =
+        std::find_if(buttons_.begin(), buttons_.end(), [](const auto& button) { return button->hasFocus(); });
+    if (current == buttons_.end())
+        return false;
+    const auto usable = [](const auto& button) { return button->isVisible() && button->isEnabled(); };
+    if (forth) {
+        const auto next = std::find_if(current + 1, buttons_.end(), usable);
+        if (next != buttons_.end())
+            window()->focusControl(next->get());
+    } else {
+        const auto next = std::find_if(std::make_reverse_iterator(current), buttons_.rend(), usable);
+        if (next != buttons_.rend())
+            window()->focusControl(next->get());
+    }
+    return true;
+}
+
+AccessibleInfo DesignedPopup::accessibleInfo() const
+{
+    AccessibleInfo info = Control::accessibleInfo();
+    info.role = AccessibleRole::Dialog;
+    info.value = message_;
+    return info;
+}
+
+Control* DesignedPopup::dialogControl(DialogRole role) const
+{
+    if (role == DialogRole::Cancel)
+        return close_->isVisible() && close_->isEnabled() ? close_.get() : nullptr;
+    const auto primary = std::find_if(actions_.begin(), actions_.end(),
+                                      [](const PopupAction& action) { return action.primary; });
+    if (buttons_.empty())
+        return nullptr;
+    const auto index = primary == actions_.end() ? 0 : primary - actions_.begin();
+    return buttons_[static_cast<std::size_t>(index)].get();
+}
+
+} // namespace vela

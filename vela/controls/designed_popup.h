@@ -1,0 +1,71 @@
+// The content of a dialog: an icon and a title in a header that can be dragged, a message under it, a row of
+// action buttons and a close button. Other controls may stand on it. It reports commands: "drag", "close" and
+// the actions' own ids.
+#pragma once
+
+#include "vela/controls/drag_area.h"
+#include "vela/controls/themed_button.h"
+
+#include <memory>
+#include <vector>
+
+namespace vela {
+
+struct PopupAction {
+    std::wstring label;
+    std::wstring id; // empty: the popup's id, ".action." and the action's index from 0
+    bool primary = false;
+};
+
+class DesignedPopup : public Control {
+public:
+    DesignedPopup(std::wstring id, Rect bounds);
+    ~DesignedPopup() override;
+
+    bool applyStyle(const StyleSheet& styles) override;
+    void onStyleApplied() override;
+    std::wstring text() const override { return title_; }
+    const BitmapSkin* attachedImage() const override;
+    void paint(HDC dc, Point origin) override;
+    void setHot(bool) override {} // its buttons are hot, never itself
+    bool keyPressed(const KeyEvent& event) override;
+    void onBoundsChanged() override { placeChildren(); }
+    AccessibleInfo accessibleInfo() const override;
+    Control* dialogControl(DialogRole role) const override;
+
+    // The first text names the popup; a drag carries it.
+    void setTitle(std::wstring title);
+    // "i", "!" or "X"; any other text is drawn as it is.
+    void setGlyph(std::wstring glyph);
+    void setMessage(std::wstring message);
+    // In their order from left to right; the row ends at the right. Enter presses the primary one, or the
+    // first when none is.
+    void setActions(std::vector<PopupAction> actions);
+    void setClosable(bool closable);
+    void setOpen(bool open);
+    bool isOpen() const noexcept { return open_; }
+
+    ThemedButton& closeButton() noexcept { return *close_; }
+    ThemedButton& actionButton(std::size_t index) noexcept { return *buttons_[index]; }
+
+private:
+    void placeChildren();
+    void styleButtons();
+    void setPart(std::wstring& part, std::wstring text);
+    std::int32_t titleLeft() const noexcept;
+    Rect iconRect() const noexcept;
+    Rect messageRect() const noexcept;
+
+    std::wstring title_;
+    std::wstring glyph_;
+    std::wstring message_;
+    std::vector<PopupAction> actions_;
+    bool open_ = true;
+    PopupStyle designStyle_; // at 96 DPI, as the buttons take it
+    PopupStyle style_;
+    DragArea header_;
+    std::unique_ptr<ThemedButton> close_;
+    std::vector<std::unique_ptr<ThemedButton>> buttons_;
+};
+
+} // namespace vela
