@@ -6,6 +6,7 @@
 #include "vela/theme/style_sheet.h"
 
 #include <string>
+#include <vector>
 
 namespace gallery {
 
@@ -15,6 +16,9 @@ bool drawGradientSheet(const std::wstring& path);
 bool drawLayerSheet(const std::wstring& path);
 bool drawGlyphSheet(const std::wstring& path);
 bool drawTypeSheet(const std::wstring& path);
+
+// The setup's dialog in every skin, side by side.
+bool drawFrontSheet(const std::wstring& path, std::vector<vela::SkinDefinition> skins);
 
 // All control kinds of a skin with their variants and states.
 bool drawSkinSheet(const std::wstring& path, const vela::SkinDefinition& skin);

@@ -54,6 +54,7 @@ int wmain(int count, wchar_t** arguments)
     for (const auto& [name, drawSheet] : kSheets)
         draw(name, drawSheet);
     const std::vector<vela::SkinDefinition> skins = readSkins(arguments[2]);
+    draw(L"front", [&](const std::wstring& path) { return gallery::drawFrontSheet(path, skins); });
     for (const vela::SkinDefinition& skin : skins)
         draw(L"skin-" + skin.id,
              [&](const std::wstring& path) { return gallery::drawSkinSheet(path, skin); });
