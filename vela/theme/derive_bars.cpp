@@ -51,7 +51,7 @@ PerState<SurfaceStyle> arrowButtons(const DeriveContext& context, Color arrow, c
 
 void buildProgressBar(const DeriveContext& context, StyleSheet& sheet)
 {
-    ProgressBarStyle style;
+    ProgressBarStyle& style = sheet.table<ProgressBarStyle>().defaultRecord();
     style.shape = context.look.trackShape;
     style.frameShape = context.look.trackShape;
     style.trackShape = context.look.trackShape;
@@ -75,12 +75,10 @@ void buildProgressBar(const DeriveContext& context, StyleSheet& sheet)
     style.labelText = textOn(context, label, {context.text}, kLabel);
     style.labelWidth = 52;
     style.labelPadding = 8;
-    sheet.table<ProgressBarStyle>().set(kDefaultVariant, std::move(style));
 }
 
-ScrollBarStyle scrollBarOn(const DeriveContext& context, const Bed& bed)
+void deriveScrollBar(const DeriveContext& context, const Bed& bed, ScrollBarStyle& style)
 {
-    ScrollBarStyle style;
     style.trackShape = context.look.trackShape;
     style.thumbShape = context.look.trackShape;
     style.buttonShape = context.look.controlShape;
@@ -113,12 +111,11 @@ ScrollBarStyle scrollBarOn(const DeriveContext& context, const Bed& bed)
     style.trackThickness = 12;
     style.thumbThickness = context.look.slimTracks ? 6 : 8;
     style.showButtons = false;
-    return style;
 }
 
 void buildScrollBar(const DeriveContext& context, StyleSheet& sheet)
 {
-    sheet.table<ScrollBarStyle>().set(kDefaultVariant, scrollBarOn(context, context.ground));
+    deriveScrollBar(context, context.ground, sheet.table<ScrollBarStyle>().defaultRecord());
 }
 
 } // namespace vela

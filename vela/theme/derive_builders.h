@@ -8,7 +8,7 @@
 namespace vela {
 
 // The scroll bar of a list, on the list's own surface.
-ScrollBarStyle scrollBarOn(const DeriveContext& context, const Bed& bed);
+void deriveScrollBar(const DeriveContext& context, const Bed& bed, ScrollBarStyle& style);
 
 void buildTexts(const DeriveContext& context, StyleSheet& sheet);
 void buildButtons(const DeriveContext& context, StyleSheet& sheet);

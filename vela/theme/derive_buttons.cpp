@@ -155,11 +155,10 @@ constexpr BitmapButtonRow kBitmapButtonRows[] = {
 
 } // namespace
 
-ButtonStyle buttonOf(const DeriveContext& context, const ButtonRecipe& recipe, const Bed& bed,
-                     ShapeKind shape)
+void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, const Bed& bed, ShapeKind shape,
+                  ButtonStyle& style)
 {
     const Faces faces = facesFor(context, recipe, bed);
-    ButtonStyle style;
     style.shape = shape;
     style.hitShape = shape;
     const Color focus = context.mark(context.focus, bed.tones);
@@ -175,27 +174,26 @@ ButtonStyle buttonOf(const DeriveContext& context, const ButtonRecipe& recipe, c
         style.text[state] = textOf(context, caption, context.faint(caption, face), recipe.type);
     }
     style.text.disabled.color = style.text.disabled.disabledColor;
-    return style;
 }
 
 void buildButtons(const DeriveContext& context, StyleSheet& sheet)
 {
     for (const ButtonRow& row : kButtonRows)
-        sheet.table<ButtonStyle>().set(
-            row.variant, buttonOf(context, row.recipe, context.ground, context.look.controlShape));
+        deriveButton(context, row.recipe, context.ground, context.look.controlShape,
+                     sheet.table<ButtonStyle>().ensure(row.variant));
 }
 
 void buildBitmapButtons(const DeriveContext& context, StyleSheet& sheet)
 {
+    ButtonStyle face;
     for (const BitmapButtonRow& row : kBitmapButtonRows) {
-        const ButtonStyle face = buttonOf(context, row.recipe, context.ground, context.look.controlShape);
-        BitmapButtonStyle style;
+        deriveButton(context, row.recipe, context.ground, context.look.controlShape, face);
+        BitmapButtonStyle& style = sheet.table<BitmapButtonStyle>().ensure(row.variant);
         style.text = face.text.normal;
         style.image = face.surface.normal;
         if (row.muted)
             style.text.color = context.mutedText;
         style.tint = style.text.color;
-        sheet.table<BitmapButtonStyle>().set(row.variant, std::move(style));
     }
 }
 

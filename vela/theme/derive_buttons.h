@@ -19,7 +19,7 @@ struct ButtonRecipe {
     Type type = kBody;
 };
 
-ButtonStyle buttonOf(const DeriveContext& context, const ButtonRecipe& recipe, const Bed& bed,
-                     ShapeKind shape);
+void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, const Bed& bed, ShapeKind shape,
+                  ButtonStyle& style);
 
 } // namespace vela

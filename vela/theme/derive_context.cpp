@@ -12,8 +12,8 @@ constexpr float kRimOfRatio = 0.04F; // above the rule, so that rounding never f
 // What a material's light and texture take of the contrast, measured on painted surfaces. Marks lie on large
 // surfaces, whose glow lifts the dark ones; the glossiest faces are those in the accent's material.
 constexpr float kTextRoom = 1.38F;
-constexpr float kMarkRoom = 1.55F;
-constexpr float kSolidRoom = 1.55F;
+constexpr float kMarkRoom = 1.6F;
+constexpr float kSolidRoom = 1.6F;
 constexpr float kInkRoom = 1.5F; // five fills, that far apart, between the first and the last legible one
 constexpr float kStatesApart = 0.022F; // just visible side by side
 constexpr int kStateSteps = 24;        // of half that distance, tried to either side
@@ -216,7 +216,7 @@ Color DeriveContext::inkOn(const Tones& on) const noexcept
     const Color roles[] = {theme.text, theme.textHot, theme.shell, theme.panel, theme.control};
     const Color strongest =
         *std::ranges::max_element(roles, {}, [&on](Color role) { return contrastRatio(role, on); });
-    return reaching(strongest, on, textAim * kInkRoom);
+    return reaching(strongest, on, solidAim * kInkRoom);
 }
 
 Color DeriveContext::mark(Color wanted, const Tones& on) const noexcept

@@ -50,7 +50,7 @@ void buildDateInput(const DeriveContext& context, StyleSheet& sheet)
 {
     // Closed, it is a select box with another drop-down.
     const SelectBoxStyle& box = sheet.find<SelectBoxStyle>(kDefaultVariant);
-    DateInputStyle style;
+    DateInputStyle& style = sheet.table<DateInputStyle>().defaultRecord();
     style.shape = box.shape;
     style.arrowShape = box.arrowShape;
     style.popupShape = box.dropdownShape;
@@ -65,7 +65,6 @@ void buildDateInput(const DeriveContext& context, StyleSheet& sheet)
     style.arrowColor = box.arrowColor;
     style.arrowWidth = box.arrowWidth;
     deriveCalendar(context, style);
-    sheet.table<DateInputStyle>().set(kDefaultVariant, std::move(style));
 }
 
 } // namespace vela

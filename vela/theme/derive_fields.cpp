@@ -71,7 +71,7 @@ void addAttachments(const DeriveContext& context, Color ink, Color field, TextIn
 void buildTextInput(const DeriveContext& context, StyleSheet& sheet)
 {
     const FieldFills fills = fieldFills(context, Form::Sunken);
-    TextInputStyle style;
+    TextInputStyle& style = sheet.table<TextInputStyle>().defaultRecord();
     style.shape = context.look.controlShape;
     style.surface = sunkenOf(context, fills.normal, context.edge, style.shape);
     style.hotSurface = sunkenOf(context, fills.hot, context.hotEdge, style.shape);
@@ -90,23 +90,21 @@ void buildTextInput(const DeriveContext& context, StyleSheet& sheet)
     style.selection = selectionOn(context, style.text.color, fills.focused, ShapeKind::Rect);
     style.caretColor = context.mark(context.theme.textHot, faces);
     addAttachments(context, style.text.color, fills.normal, style);
-    sheet.table<TextInputStyle>().set(kDefaultVariant, std::move(style));
 }
 
 void buildSelectableText(const DeriveContext& context, StyleSheet& sheet)
 {
-    SelectableTextStyle style;
+    SelectableTextStyle& style = sheet.table<SelectableTextStyle>().defaultRecord();
     style.surface = bareSurface(context, style.shape);
     style.text = textOn(context, context.ground.tones, {context.text});
     style.selection = selectionOn(context, context.text, context.ground.fill, ShapeKind::Rect);
     style.selectedText = textOn(context, bedOn(style.selection, context.ground).tones, {context.text});
-    sheet.table<SelectableTextStyle>().set(kDefaultVariant, std::move(style));
 }
 
 void buildCheckBox(const DeriveContext& context, StyleSheet& sheet)
 {
     const FieldFills fills = fieldFills(context, Form::Sunken);
-    CheckBoxStyle style;
+    CheckBoxStyle& style = sheet.table<CheckBoxStyle>().defaultRecord();
     style.shape = ShapeKind::RoundedRect;
     style.boxSize = 20;
     style.textLeft = 28;
@@ -137,7 +135,6 @@ void buildCheckBox(const DeriveContext& context, StyleSheet& sheet)
         context.markFill(context.quietEdge, style.checkColor, Form::Plate, {checked, hot, pressed});
     style.boxCheckedDisabled =
         surfaceOf(context, {.fill = disabled, .border = disabled, .bordered = false}, style.shape);
-    sheet.table<CheckBoxStyle>().set(kDefaultVariant, std::move(style));
 }
 
 void buildSelectBox(const DeriveContext& context, StyleSheet& sheet)
@@ -146,7 +143,7 @@ void buildSelectBox(const DeriveContext& context, StyleSheet& sheet)
     const auto face = [&](Color fill, Color border, Form form) {
         return Face{.fill = fill, .border = border, .form = form, .substance = Substance::Control};
     };
-    SelectBoxStyle style;
+    SelectBoxStyle& style = sheet.table<SelectBoxStyle>().defaultRecord();
     style.shape = context.look.controlShape;
     style.dropdownShape =
         context.look.panelShape == ShapeKind::Rect ? ShapeKind::RoundedRect : context.look.panelShape;
@@ -177,9 +174,8 @@ void buildSelectBox(const DeriveContext& context, StyleSheet& sheet)
         context,
         context.fillUnder(ink, list, mixed(list, context.theme.accent, 0.2F), Form::Plate, {list, hot}),
         ShapeKind::RoundedRect);
-    style.scrollBar = scrollBarOn(context, bedOn(style.dropdownSurface, context.ground));
+    deriveScrollBar(context, bedOn(style.dropdownSurface, context.ground), style.scrollBar);
     style.itemHeight = 32;
-    sheet.table<SelectBoxStyle>().set(kDefaultVariant, std::move(style));
 }
 
 } // namespace vela

@@ -58,7 +58,7 @@ void buildListBox(const DeriveContext& context, StyleSheet& sheet)
 {
     const RowFills fills = rowFills(context, listFill(context));
     const Tones tones = tonesOf(context, fills);
-    ListBoxStyle style;
+    ListBoxStyle& style = sheet.table<ListBoxStyle>().defaultRecord();
     style.shape = context.look.panelShape;
     style.rowShape = context.look.slimTracks ? ShapeKind::RoundedRect : ShapeKind::Rect;
     style.selectedRowShape = style.rowShape;
@@ -73,16 +73,15 @@ void buildListBox(const DeriveContext& context, StyleSheet& sheet)
     style.selectedText = textOn(context, tones, {context.theme.textHot, fills.ink});
     style.disabledText = textOf(context, style.text.disabledColor, style.text.disabledColor);
     style.separator = towards(fills.list, context.theme.border, 0.10F);
-    style.scrollBar = scrollBarOn(context, {fills.list, context.shades(fills.list, Form::Ground)});
+    deriveScrollBar(context, {fills.list, context.shades(fills.list, Form::Ground)}, style.scrollBar);
     style.rowHeight = 32;
-    sheet.table<ListBoxStyle>().set(kDefaultVariant, std::move(style));
 }
 
 void buildTableList(const DeriveContext& context, StyleSheet& sheet)
 {
     const RowFills fills = rowFills(context, listFill(context));
     const Tones tones = tonesOf(context, fills);
-    TableListStyle style;
+    TableListStyle& style = sheet.table<TableListStyle>().defaultRecord();
     style.shape = context.look.panelShape;
     style.surface = groundOf(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
     style.rowText = textOn(context, tones, {fills.ink});
@@ -114,14 +113,13 @@ void buildTableList(const DeriveContext& context, StyleSheet& sheet)
     style.sortIndicator = context.mark(context.theme.mutedText, head);
     style.sortIndicatorHot = context.mark(context.theme.accentHot, head);
     style.rowHeight = 32;
-    sheet.table<TableListStyle>().set(kDefaultVariant, std::move(style));
 }
 
 void buildTabs(const DeriveContext& context, StyleSheet& sheet)
 {
-    TabsStyle style;
+    TabsStyle& style = sheet.table<TabsStyle>().defaultRecord();
     style.shape = context.look.controlShape;
-    style.itemButton = buttonOf(context, {Hue::Neutral, Emphasis::Quiet}, context.ground, style.shape);
+    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, context.ground, style.shape, style.itemButton);
     // The open tab is told by more than a veil: its face is the control's own, with an edge in the accent.
     SurfaceStyle& open = style.itemButton.surface.active;
     const Bed& ground = context.ground;
@@ -139,7 +137,6 @@ void buildTabs(const DeriveContext& context, StyleSheet& sheet)
     style.itemButton.text.active =
         textOn(context, bedOn(open, ground).tones, {context.strongText, context.text});
     style.verticalItemHeight = 36;
-    sheet.table<TabsStyle>().set(kDefaultVariant, std::move(style));
 }
 
 void buildMenuBar(const DeriveContext& context, StyleSheet& sheet)
@@ -154,7 +151,7 @@ void buildMenuBar(const DeriveContext& context, StyleSheet& sheet)
     const Color pressed = item(0.09F, {bar, hot});
     const Color active = context.fillUnder(ink, bar, mixed(bar, context.theme.accent, 0.18F), Form::Plate,
                                            {bar, hot, pressed});
-    MenuBarStyle style;
+    MenuBarStyle& style = sheet.table<MenuBarStyle>().defaultRecord();
     style.surface = groundOf(context, bar, context.hairline, style.shape);
     style.surface.drawBorder = false;
     style.popupSurface = groundOf(context, bar, mixed(bar, context.edge, 0.6F), style.popupShape);
@@ -174,12 +171,11 @@ void buildMenuBar(const DeriveContext& context, StyleSheet& sheet)
     style.arrow = context.mark(context.theme.mutedText, faces);
     style.check = context.mark(context.theme.accent, faces);
     style.separator = towards(bar, context.theme.border, 0.12F);
-    sheet.table<MenuBarStyle>().set(kDefaultVariant, std::move(style));
 }
 
 void buildRichText(const DeriveContext& context, StyleSheet& sheet)
 {
-    RichTextStyle style;
+    RichTextStyle& style = sheet.table<RichTextStyle>().defaultRecord();
     style.shape = context.look.panelShape;
     style.surface = groundOf(context, context.grounds.card, context.hairline, style.shape);
     const Bed bed = bedOn(style.surface, context.ground);
@@ -189,7 +185,6 @@ void buildRichText(const DeriveContext& context, StyleSheet& sheet)
     style.icon = badgeOf(context, Hue::Accent, bed, style.iconShape);
     style.paddingX = 16;
     style.paddingY = 12;
-    sheet.table<RichTextStyle>().set(kDefaultVariant, std::move(style));
 }
 
 } // namespace vela

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstddef>
 
@@ -50,6 +51,20 @@ std::uint8_t channelOf(float light) noexcept
     return static_cast<std::uint8_t>(nearest - kLinear.begin());
 }
 
+// The cube root of 0 to 1. A third of the exponent is a first guess; two of Halley's steps give all a colour
+// needs, faster than the library's and the same on every system.
+float cubeRoot(float value) noexcept
+{
+    if (value <= 0)
+        return 0;
+    float root = std::bit_cast<float>(std::bit_cast<std::uint32_t>(value) / 3 + 0x2A514067);
+    for (int step = 0; step < 2; ++step) {
+        const float cube = root * root * root;
+        root *= (cube + 2 * value) / (2 * cube + value);
+    }
+    return root;
+}
+
 } // namespace
 
 float linearLight(std::uint8_t channel) noexcept { return kLinear[channel]; }
@@ -60,9 +75,9 @@ Oklab oklabOf(Color color) noexcept
     const float red = kLinear[redOf(color)];
     const float green = kLinear[greenOf(color)];
     const float blue = kLinear[blueOf(color)];
-    const float l = std::cbrt(0.4122214708F * red + 0.5363325363F * green + 0.0514459929F * blue);
-    const float m = std::cbrt(0.2119034982F * red + 0.6806995451F * green + 0.1073969566F * blue);
-    const float s = std::cbrt(0.0883024619F * red + 0.2817188376F * green + 0.6299787005F * blue);
+    const float l = cubeRoot(0.4122214708F * red + 0.5363325363F * green + 0.0514459929F * blue);
+    const float m = cubeRoot(0.2119034982F * red + 0.6806995451F * green + 0.1073969566F * blue);
+    const float s = cubeRoot(0.0883024619F * red + 0.2817188376F * green + 0.6299787005F * blue);
     return {0.2104542553F * l + 0.7936177850F * m - 0.0040720468F * s,
             1.9779984951F * l - 2.4285922050F * m + 0.4505937099F * s,
             0.0259040371F * l + 0.7827717662F * m - 0.8086757660F * s};

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <tuple>
 #include <vector>
 
@@ -74,7 +75,7 @@ constexpr VariantAccess accessTo()
             auto& table = sheet.table<Record>();
             if (index >= table.size())
                 return {};
-            auto& variant = *(table.begin() + static_cast<std::ptrdiff_t>(index));
+            auto& variant = *std::next(table.begin(), static_cast<std::ptrdiff_t>(index));
             return {variant.name, &variant.record};
         },
         [](StyleSheet& sheet, std::wstring_view name) { sheet.table<Record>().ensure(name); },

@@ -7,13 +7,13 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <list>
 #include <span>
 #include <string>
 #include <string_view>
 #include <tuple>
 #include <type_traits>
 #include <utility>
-#include <vector>
 
 namespace vela {
 
@@ -44,7 +44,8 @@ inline constexpr std::size_t kControlKindCount = 21;
 
 inline constexpr std::wstring_view kDefaultVariant = L"default";
 
-// The records of one control kind in the order in which they were added; the default is always the first.
+// The records of one control kind in the order in which they were added; the default is always the first. A
+// record keeps its place in memory.
 // Variant names are compared in normalised form, as skins may write them.
 template <class Record>
 class VariantTable {
@@ -79,7 +80,9 @@ public:
 
     Record& set(std::wstring_view name, Record record) { return ensure(name) = std::move(record); }
 
-    // The record of that name; a plain one is added when there is none. Additions move the other records.
+    Record& defaultRecord() noexcept { return variants_.front().record; }
+
+    // The record of that name; a plain one is added when there is none.
     Record& ensure(std::wstring_view name)
     {
         if (Record* const known = tryFind(name))
@@ -97,7 +100,8 @@ public:
     friend bool operator==(const VariantTable&, const VariantTable&) = default;
 
 private:
-    std::vector<Variant> variants_;
+    // A list: records are large, and code that moved those of 21 kinds would be long.
+    std::list<Variant> variants_;
 };
 
 class StyleSheet {
