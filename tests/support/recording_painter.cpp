@@ -56,6 +56,11 @@ void paintFocusRing(HDC, const Rect& rect, ShapeKind, std::int32_t, Color color)
     calls().push_back({L"ring", rect, {}, {}, color});
 }
 
+void paintBadge(HDC, const Rect& rect, const SurfaceStyle& style)
+{
+    calls().push_back({L"badge", rect, {}, style, style.fill});
+}
+
 void paintProgressFill(HDC, const Rect& track, const SurfaceStyle& fill, float end)
 {
     calls().push_back(

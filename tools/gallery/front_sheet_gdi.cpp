@@ -31,7 +31,8 @@ void drawOption(const SkinPage& page, const Rect& rect, std::wstring_view captio
     const Rect box{rect.x, rect.y + (rect.height - style.boxSize) / 2, style.boxSize, style.boxSize};
     page.surface(box, checked ? style.boxChecked : style.boxUnchecked);
     if (checked)
-        vela::paintGlyph(page.sheet.dc(), vela::Glyph::Check, box, kDpi, style.checkColor);
+        vela::paintGlyph(page.sheet.dc(), vela::Glyph::Check, vela::markBox(style.boxChecked.shape, box),
+                         kDpi, style.checkColor);
     page.text({rect.x + style.textLeft, rect.y, rect.width - style.textLeft, rect.height}, caption,
               style.text);
 }

@@ -172,7 +172,7 @@ void DesignedPopup::paint(HDC dc, Point origin)
     paintSurface(dc, {box.x, box.y, box.width, style_.headerHeight}, style_.header);
     if (!glyph_.empty()) {
         const Rect icon = movedBy(iconRect(), at);
-        paintSurface(dc, icon, style_.icon);
+        paintBadge(dc, icon, style_.icon);
         const auto* const row = std::find_if(std::begin(kIconGlyphs), std::end(kIconGlyphs),
                                              [this](const auto& known) { return known.text == glyph_; });
         const std::int32_t side = icon.width / 2;

@@ -2,6 +2,7 @@
 
 #include "vela/mul_div.h"
 
+#include "vela/mul_div.h"
 #include "vela/text.h"
 
 #include <algorithm>

@@ -13,6 +13,13 @@ namespace vela {
 
 void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color);
 
+// Where a mark on a small plate of that shape keeps clear of its slopes.
+constexpr Rect markBox(ShapeKind shape, const Rect& plate) noexcept
+{
+    const std::int32_t inset = shape == ShapeKind::Diamond ? plate.width / 6 : 0;
+    return {plate.x + inset, plate.y + inset, plate.width - 2 * inset, plate.height - 2 * inset};
+}
+
 // A band along the inside of the shape's outline, as wide as the DPI asks for.
 void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi, Color color);
 
