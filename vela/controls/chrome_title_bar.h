@@ -19,6 +19,8 @@ inline constexpr int kCaptionButtonCount = 4;
 class ChromeTitleBar : public Control {
 public:
     ChromeTitleBar(std::wstring id, Rect bounds, std::wstring title, Theme theme);
+    ChromeTitleBar(const ChromeTitleBar&) = delete;
+    ChromeTitleBar& operator=(const ChromeTitleBar&) = delete;
     ~ChromeTitleBar() override;
 
     bool applyStyle(const StyleSheet& styles) override;

@@ -20,6 +20,8 @@ struct PopupAction {
 class DesignedPopup : public Control {
 public:
     DesignedPopup(std::wstring id, Rect bounds);
+    DesignedPopup(const DesignedPopup&) = delete;
+    DesignedPopup& operator=(const DesignedPopup&) = delete;
     ~DesignedPopup() override;
 
     bool applyStyle(const StyleSheet& styles) override;
