@@ -47,8 +47,11 @@ public:
         for (const ControlSection& section : controlSections())
             control(section);
         // Records that the ones above refer to, each once; the list grows while it is worked off.
-        for (std::size_t i = 0; i < referred_.size(); ++i)
-            record(referred_[i]->name, *referred_[i]);
+        std::size_t shown = 0;
+        while (shown < referred_.size()) {
+            const FieldTable& table = *referred_[shown++];
+            record(table.name, table);
+        }
         vocabularies();
         return out_;
     }

@@ -142,7 +142,7 @@ private:
 
     Json leaf(const Field& field)
     {
-        const Json text = {{"type", "string"}};
+        Json text = {{"type", "string"}};
         switch (field.kind) {
         case FieldKind::ColorValue:
         case FieldKind::ColorGiven: return color();

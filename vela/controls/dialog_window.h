@@ -11,6 +11,8 @@ inline constexpr int kModalClosed = 5;
 class DialogWindow : public Window {
 public:
     DialogWindow();
+    DialogWindow(const DialogWindow&) = delete;
+    DialogWindow& operator=(const DialogWindow&) = delete;
     ~DialogWindow() override;
 
     // The window that is disabled while the dialog runs, when runModal names none.

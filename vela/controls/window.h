@@ -25,6 +25,12 @@ struct WindowStyle {
     std::uint32_t extended = 0; // WS_EX_
 };
 
+#ifdef NDEBUG
+inline constexpr bool kDiagnosticsByDefault = false;
+#else
+inline constexpr bool kDiagnosticsByDefault = true;
+#endif
+
 class Window : public WindowHost {
 public:
     // Sees every message first; true when it handled the message, with the answer in the last argument.
@@ -34,6 +40,8 @@ public:
     using StyleSource = std::function<std::shared_ptr<const StyleSheet>()>;
 
     Window();
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
     ~Window() override;
 
     // The client size is in 96-DPI pixels and grows with the monitor that shows the window: the owner's, or
@@ -114,7 +122,7 @@ private:
     MessageHook messageHook_;
     bool maximised_ = false;
     bool inSizeMove_ = false;
-    bool diagnostics_;
+    bool diagnostics_ = kDiagnosticsByDefault;
     bool closeOnDeactivate_ = false;
     std::uint32_t tooltipDelay_ = 650;
     Size lastClientSize_;

@@ -11,14 +11,7 @@
 
 namespace vela {
 
-Window::Window()
-    : root_(L"root", {}),
-#ifdef NDEBUG
-      diagnostics_(false),
-#else
-      diagnostics_(true),
-#endif
-      input_(root_), native_(std::make_unique<Native>(*this))
+Window::Window() : root_(L"root", {}), input_(root_), native_(std::make_unique<Native>(*this))
 {
     // The root is placed by no parent: with its own size as its minimum it could grow but never shrink.
     root_.setMinimumSize({0, 0});

@@ -1,8 +1,6 @@
 #include "vela/render/font_choice.h"
 
 #include "vela/mul_div.h"
-
-#include "vela/mul_div.h"
 #include "vela/text.h"
 
 #include <algorithm>
