@@ -1,5 +1,10 @@
 #include "vela/controls/debug_overlay.h"
 
+#include "tests/controls/fake_window.h"
+#include "tests/support/recording_painter.h"
+#include "vela/controls/themed_button.h"
+#include "vela/controls/tooltip.h"
+
 #include <gtest/gtest.h>
 
 namespace vela {
@@ -46,6 +51,52 @@ TEST(DebugOverlay, TheHeaderSaysWhatIsOn)
     EXPECT_EQ(debugHeader({}, {0, 0}, {}),
               L"F12 UI debug | mode=basic | ids=off | content=off | contours=off | cursor {x=0,y=0}");
 }
+
+#ifndef _WIN32 // there the product's renderer paints
+TEST(DebugOverlayTest, EachModeDrawsWhatItPromises)
+{
+    FakeWindow window{{400, 300}};
+    auto& button =
+        window.root.addControl(std::make_unique<ThemedButton>(L"ok", Rect{10, 20, 100, 34}, L"OK"));
+    button.setEnabled(false);
+    const auto painted = [&](const DebugOverlay& overlay) {
+        std::wstring texts;
+        testing::takePaintCalls();
+        paintDebugOverlay(nullptr, window.root, overlay, {5, 6}, nullptr, 96);
+        for (const auto& call : testing::takePaintCalls()) {
+            if (call.what == L"outline" && call.rect == button.bounds())
+                texts += call.surface.shape == ShapeKind::Rect ? L"[box]" : L"[contour]";
+            else if (call.what == L"text")
+                texts += L"<" + call.text + L">";
+        }
+        return texts;
+    };
+    const auto shows = [&](const DebugOverlay& overlay, std::wstring_view text) {
+        return painted(overlay).find(text) != std::wstring::npos;
+    };
+    EXPECT_TRUE(shows({.on = true}, L"[box]"));
+    EXPECT_TRUE(shows({.on = true}, L"<F12 UI debug | mode=basic"));
+    EXPECT_FALSE(shows({.on = true}, L"<ok>"));
+    EXPECT_TRUE(shows({.on = true, .showIds = true}, L"<ok>"));
+    EXPECT_TRUE(shows({.on = true, .mode = DebugMode::Layout}, L"<{x=10,y=20,w=100,h=34} Left|Top>"));
+    EXPECT_TRUE(shows({.on = true, .mode = DebugMode::Contours}, L"[box][contour]"));
+    EXPECT_TRUE(shows({.on = true, .showContours = true}, L"[box][contour]"));
+    EXPECT_FALSE(shows({.on = true}, L"[contour]"));
+    EXPECT_TRUE(shows({.on = true, .mode = DebugMode::Skin}, L"<style=default disabled shape="));
+    EXPECT_TRUE(shows({.on = true, .showContent = true}, L"[box][box]"));
+    button.setVisible(false);
+    EXPECT_FALSE(shows({.on = true, .showIds = true}, L"<ok>"));
+}
+
+TEST(TooltipTest, ItIsNoWiderThanItsStyleAllows)
+{
+    TooltipView tip(L"tip", {});
+    tip.setText(L"Zavrit");
+    EXPECT_EQ(tip.preferredSize(), (Size{6 * 8 + 1 + 20, 16 + 14}));
+    tip.setText(std::wstring(100, L'x'));
+    EXPECT_EQ(tip.preferredSize(), (Size{320, 3 * 16 + 14}));
+}
+#endif
 
 } // namespace
 } // namespace vela

@@ -335,5 +335,29 @@ TEST_F(WindowTest, TheTitleBarsCommandsAreCarriedOut)
     EXPECT_FALSE(window.performChromeAction(L"close"));
 }
 
+TEST_F(WindowTest, ATooltipShowsAfterTheDelayAndGoesWithAKey)
+{
+    const auto tooltips = [this] {
+        int count = 0;
+        for (HWND at = nullptr; (at = ::FindWindowExW(nullptr, at, L"VelaDesignWindow", L"")) != nullptr;)
+            count += at != window.handle() && ::IsWindowVisible(at) &&
+                     ::GetWindow(at, GW_OWNER) == window.handle();
+        return count;
+    };
+    window.setCustomFrame(true);
+    window.setTooltipDelay(1);
+    open();
+    window.applyStyles(std::make_shared<StyleSheet>(buildStyleSheet(builtInSkin())));
+    addButton({0, 0, 200, 100}).setHint(L"Otevre systemovy vyber instalacni slozky.");
+    Desktop::movePointer(window.handle(), {50, 50});
+    drainMessages(300);
+    EXPECT_EQ(tooltips(), 1);
+    EXPECT_EQ(::GetForegroundWindow(), window.handle());
+    send(WM_KEYDOWN, VK_F5, 0);
+    EXPECT_EQ(tooltips(), 0);
+    drainMessages(300);
+    EXPECT_EQ(tooltips(), 0);
+}
+
 } // namespace
 } // namespace vela

@@ -42,6 +42,38 @@ std::int32_t measureTextWidth(std::wstring_view text, const FontSpec&, std::int3
     return static_cast<std::int32_t>(text.size()) * unitWidth(dpi);
 }
 
+void measureTextEnds(std::wstring_view text, const FontSpec&, std::int32_t dpi,
+                     std::vector<std::int32_t>& ends)
+{
+    ends.resize(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i)
+        ends[i] = static_cast<std::int32_t>(i + 1) * unitWidth(dpi);
+}
+
+void drawUnclippedLine(HDC, const Rect& rect, std::wstring_view text, const FontSpec&, std::int32_t,
+                       Color color)
+{
+    calls().push_back({L"line", rect, std::wstring(text), {}, color});
+}
+
+void fillShape(HDC, const Rect& rect, ShapeKind, Color color)
+{
+    calls().push_back({L"fill", rect, {}, {}, color});
+}
+
+void strokeShapeOutline(HDC, const Rect& rect, ShapeKind kind, Color color, std::int32_t)
+{
+    SurfaceStyle style;
+    style.shape = kind;
+    calls().push_back({L"outline", rect, {}, style, color});
+}
+
+std::int32_t measureText(std::wstring_view text, const FontSpec& font, std::int32_t dpi, std::int32_t width)
+{
+    const std::int32_t lines = (measureTextWidth(text, font, dpi) + width - 1) / width;
+    return lines * lineHeight(font, dpi);
+}
+
 std::int32_t lineHeight(const FontSpec&, std::int32_t dpi) { return 2 * unitWidth(dpi); }
 
 void paintGlyph(HDC, Glyph, const Rect& box, std::int32_t, Color color)

@@ -11,7 +11,8 @@
 namespace vela::testing {
 
 struct PaintCall {
-    std::wstring what; // "surface", "text", "glyph", "icon", "ring", "progress"
+    std::wstring what; // "surface", "text", "glyph", "icon", "ring", "progress", "line", "fill",
+                       // "outline"
     Rect rect;
     std::wstring text;
     SurfaceStyle surface;

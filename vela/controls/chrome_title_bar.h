@@ -33,6 +33,7 @@ public:
     // The window may have been maximised or restored.
     void onContentRefresh() override { showMaximisedState(); }
     AccessibleInfo accessibleInfo() const override;
+    const SurfaceStyle* paintedSurface() const override { return &style_.surface; }
     Control* dialogControl(DialogRole role) const override;
 
     void setTitle(std::wstring title);

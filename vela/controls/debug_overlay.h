@@ -4,12 +4,15 @@
 
 #include "vela/controls/input_events.h"
 #include "vela/geometry.h"
+#include "vela/platform_handles.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace vela {
+
+class Control;
 
 enum class DebugMode : std::uint8_t { Basic, Layout, Contours, Skin };
 inline constexpr int kDebugModeCount = 4;
@@ -31,5 +34,9 @@ DebugOverlay afterDebugKey(DebugOverlay overlay, KeyModifiers modifiers) noexcep
 
 // `hotId` is empty when no control is under the pointer.
 std::wstring debugHeader(const DebugOverlay& overlay, Point cursor, std::wstring_view hotId);
+
+// Draws the overlay over the painted tree. `hot` is the control under the pointer, or null.
+void paintDebugOverlay(HDC dc, const Control& root, const DebugOverlay& overlay, Point cursor,
+                       const Control* hot, std::int32_t dpi);
 
 } // namespace vela

@@ -33,6 +33,7 @@ public:
     bool keyPressed(const KeyEvent& event) override;
     void onBoundsChanged() override { placeChildren(); }
     AccessibleInfo accessibleInfo() const override;
+    const SurfaceStyle* paintedSurface() const override { return &style_.surface; }
     Control* dialogControl(DialogRole role) const override;
 
     // The first text names the popup; a drag carries it.

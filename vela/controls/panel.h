@@ -38,6 +38,8 @@ public:
         return added;
     }
 
+    const SurfaceStyle* paintedSurface() const override { return surface_ ? &*surface_ : nullptr; }
+
     // What the panel paints under its children; none until it is set.
     void setSurface(const SurfaceStyle& surface);
 

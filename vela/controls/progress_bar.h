@@ -18,6 +18,7 @@ public:
     PropertyList properties() const override;
     void setProperty(std::wstring_view name, std::wstring_view value) override;
     AccessibleInfo accessibleInfo() const override;
+    const SurfaceStyle* paintedSurface() const override { return &style_.frame; }
 
     std::int32_t value() const noexcept { return value_; }
     void setValue(std::int32_t percent);

@@ -26,6 +26,7 @@ public:
     void activate() override;
     bool containsLocal(Point point) const override;
     AccessibleInfo accessibleInfo() const override;
+    const SurfaceStyle* paintedSurface() const override { return &style_.surface[visualState()]; }
 
     // For buttons whose style is part of another record, as those of a title bar or a popup.
     void setStyle(const ButtonStyle& style);

@@ -97,6 +97,7 @@ public:
     void focusControl(Control* control) override { input_.focus(control); }
     bool showsFocus() const override { return input_.showsFocus(); }
     void controlDetached(Control& control) override;
+    TextServices* textServices() override;
     bool isMaximised() const override { return maximised_; }
     bool diagnosticsEnabled() const override { return diagnostics_; }
     void writeDiagnostic(std::wstring_view line) override;

@@ -9,6 +9,7 @@
 namespace vela {
 
 class Control;
+class TextServices;
 struct CommandEvent;
 
 enum class InvalidationReason : std::uint8_t { State = 8, Geometry = 16 };
@@ -44,6 +45,9 @@ public:
 
     // The control is about to go: no pointer to it may be kept.
     virtual void controlDetached(Control& control) = 0;
+
+    // Null where the system offers none: then a field edits without clipboard and menu.
+    virtual TextServices* textServices() { return nullptr; }
 
     virtual bool isMaximised() const { return false; }
 

@@ -70,6 +70,12 @@ std::optional<Rect> caretOf(const Control* control)
 
 } // namespace
 
+TextServices& Window::Native::textServices() noexcept
+{
+    textServices_.setOwner(window_.handle_);
+    return textServices_;
+}
+
 void Window::Native::captureMouse(bool capture)
 {
     if (capture && window_.isAlive())
@@ -103,7 +109,7 @@ LRESULT Window::Native::onMouseLeave()
 
 LRESULT Window::Native::onMouseButton(UINT message, LPARAM lParam)
 {
-    window_.tooltipClock_.dismiss();
+    dismissTooltip();
     const auto* const row = std::find_if(std::begin(kButtonMessages), std::end(kButtonMessages),
                                          [message](const auto& each) { return each.message == message; });
     if (row == std::end(kButtonMessages))
@@ -129,7 +135,7 @@ LRESULT Window::Native::onMouseButton(UINT message, LPARAM lParam)
 
 LRESULT Window::Native::onMouseWheel(WPARAM wParam, LPARAM lParam)
 {
-    window_.tooltipClock_.dismiss();
+    dismissTooltip();
     POINT cursor{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
     ::ScreenToClient(window_.handle_, &cursor);
     MouseEvent event;
@@ -143,7 +149,7 @@ LRESULT Window::Native::onMouseWheel(WPARAM wParam, LPARAM lParam)
 // From the keyboard there is no position: the menu opens at the caret, or in the middle of the control.
 LRESULT Window::Native::onContextMenu(WPARAM wParam, LPARAM lParam)
 {
-    window_.tooltipClock_.dismiss();
+    dismissTooltip();
     MouseEvent event;
     event.action = MouseAction::ContextMenu;
     event.button = MouseButton::Right;
@@ -187,7 +193,7 @@ LRESULT Window::Native::onKeyDown(UINT message, WPARAM wParam, LPARAM lParam)
     event.key = static_cast<std::uint32_t>(wParam);
     event.modifiers = modifiersNow();
     event.repeated = (lParam & (1 << 30)) != 0;
-    window_.tooltipClock_.dismiss();
+    dismissTooltip();
     if (event.key == kKeyF12) {
         pressDebugKey(event);
         return 0;

@@ -3,6 +3,7 @@
 
 #include "vela/controls/window.h"
 
+#include "vela/controls/text_services_win32.h"
 #include "vela/controls/window_diagnostics.h"
 #include "vela/controls/window_geometry.h"
 #include "vela/render/dib_gdi.h"
@@ -34,9 +35,14 @@ constexpr RECT toRECT(const Rect& rect) noexcept
     return {rect.x, rect.y, rect.x + rect.width, rect.y + rect.height};
 }
 
+class TooltipWindow;
+
 class Window::Native {
 public:
-    explicit Native(Window& window) noexcept : window_(window) {}
+    explicit Native(Window& window) noexcept;
+    ~Native();
+    Native(const Native&) = delete;
+    Native& operator=(const Native&) = delete;
 
     bool create(HINSTANCE instance, Size client, WindowStyle style, HWND owner);
     // The window's corners, shadow and border, its shape where it is no plain rectangle, and its icons.
@@ -47,6 +53,7 @@ public:
     void captureMouse(bool capture);
     void readClientSize();
     Size frameExtra() const noexcept;
+    TextServices& textServices() noexcept;
 
 private:
     static LRESULT CALLBACK procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
@@ -65,6 +72,8 @@ private:
     LRESULT onTimer(WPARAM wParam, LPARAM lParam);
     void deactivate();
     void clearHover();
+    void updateTooltip(std::uint64_t now);
+    void dismissTooltip();
     void refreshMetrics();
     void restyle();
 
@@ -103,6 +112,9 @@ private:
     OwnedIcon smallIcon_;
     OwnedIcon largeIcon_;
     ClickCounter clicks_;
+    std::unique_ptr<TooltipWindow> tooltip_;
+    const Control* tooltipFor_ = nullptr; // compared, never used
+    WindowsTextServices textServices_;
     std::uint64_t lastTick_ = 0;
     wchar_t highSurrogate_ = 0;
     bool shaped_ = false;

@@ -28,6 +28,18 @@ LRESULT Window::Native::onPaint()
     return 0;
 }
 
-void Window::Native::paintTree(HDC dc) { window_.root_.paint(dc, {}); }
+void Window::Native::paintTree(HDC dc)
+{
+    window_.root_.paint(dc, {});
+    if (!window_.debugOverlay_.on)
+        return;
+    POINT cursor{};
+    ::GetCursorPos(&cursor);
+    ::ScreenToClient(window_.handle_, &cursor);
+    const Point at{cursor.x, cursor.y};
+    const Control* const under = controlAt(window_.root_, at);
+    paintDebugOverlay(dc, window_.root_, window_.debugOverlay_, at, under == &window_.root_ ? nullptr : under,
+                      window_.dpi_);
+}
 
 } // namespace vela

@@ -1,6 +1,8 @@
 // The messages of a window's life: from its creation to its end, and what the system tells it meanwhile.
 #include "vela/controls/window_native_win32.h"
 
+#include "vela/controls/tooltip_window_win32.h"
+
 #include <cwchar>
 
 namespace vela {
@@ -17,6 +19,10 @@ void tickAnimations(Control& control, std::uint32_t elapsed)
 }
 
 } // namespace
+
+Window::Native::Native(Window& window) noexcept : window_(window) {}
+
+Window::Native::~Native() = default;
 
 bool Window::Native::registerClass(HINSTANCE instance) noexcept
 {
@@ -139,8 +145,32 @@ LRESULT Window::Native::onDestroy()
 void Window::Native::clearHover()
 {
     window_.tooltipClock_.pointerAt(nullptr, kPointerGone, ::GetTickCount64());
+    updateTooltip(::GetTickCount64());
     if (window_.input_.pointerLeft() && window_.isAlive())
         ::InvalidateRect(window_.handle_, nullptr, FALSE);
+}
+
+// Called on every tick: a tooltip appears when it is due and goes when its control does.
+void Window::Native::updateTooltip(std::uint64_t now)
+{
+    const Control* const due = window_.tooltipClock_.due(now, window_.tooltipDelay_);
+    if (std::exchange(tooltipFor_, due) == due)
+        return;
+    if (!due) {
+        tooltip_.reset();
+        return;
+    }
+    if (!tooltip_)
+        tooltip_ = std::make_unique<TooltipWindow>();
+    POINT cursor{};
+    ::GetCursorPos(&cursor);
+    tooltip_->show(window_.handle_, {cursor.x, cursor.y}, due->hint(), window_.styles_);
+}
+
+void Window::Native::dismissTooltip()
+{
+    window_.tooltipClock_.dismiss();
+    updateTooltip(::GetTickCount64());
 }
 
 void Window::Native::deactivate()
@@ -218,6 +248,7 @@ LRESULT Window::Native::onTimer(WPARAM wParam, LPARAM lParam)
     lastTick_ = now;
     if (window_.root_.wantsAnimation())
         tickAnimations(window_.root_, elapsed);
+    updateTooltip(now);
     return 0;
 }
 

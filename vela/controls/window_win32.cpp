@@ -85,6 +85,8 @@ void Window::controlDetached(Control& control)
     tooltipClock_.forget(control);
 }
 
+TextServices* Window::textServices() { return &native_->textServices(); }
+
 void Window::writeDiagnostic(std::wstring_view line) { ::OutputDebugStringW(std::wstring(line).c_str()); }
 
 void Window::openScreenClip()

@@ -1,0 +1,119 @@
+// What a text field looks like.
+#include "vela/controls/text_input.h"
+
+#include "vela/render/mark_painter.h"
+#include "vela/render/paint_clip.h"
+#include "vela/render/surface_painter.h"
+#include "vela/render/text.h"
+
+#include <algorithm>
+
+namespace vela {
+
+namespace {
+
+// 96-DPI pixels between the parts of a chip.
+constexpr std::int32_t kChipPadding = 8;
+
+Rect centredIn(const Rect& row, std::int32_t x, std::int32_t width, std::int32_t height) noexcept
+{
+    return {x, row.y + (row.height - height) / 2, width, height};
+}
+
+} // namespace
+
+// A field that cannot be edited looks like one that cannot be used, but keeps its selection and its focus.
+const SurfaceStyle& TextInput::surface() const
+{
+    if (!isEnabled() || model_.locked())
+        return style_.disabledSurface;
+    if (hasFocus())
+        return style_.focusedSurface;
+    if (isPressed())
+        return style_.pressedSurface;
+    return isHot() ? style_.hotSurface : style_.surface;
+}
+
+std::vector<TextInput::Chip> TextInput::chips() const
+{
+    std::vector<Chip> result;
+    const std::int32_t height = std::min(style_.attachmentHeight, std::max(bounds().height, 0));
+    const std::int32_t image = height / 2;
+    const std::int32_t padding = scaled(kChipPadding);
+    const std::int32_t remove = style_.showAttachmentRemove ? style_.attachmentRemoveExtent : 0;
+    std::int32_t x = style_.paddingX;
+    for (const TextAttachment& attachment : attachments_) {
+        const std::int32_t name = measureTextWidth(attachment.name, style_.attachmentText, dpi());
+        Chip chip;
+        chip.image = centredIn(localBounds(), x + padding, image, image);
+        chip.name = centredIn(localBounds(), chip.image.x + image + padding / 2, name, height);
+        std::int32_t end = chip.name.x + name + padding;
+        if (remove > 0) {
+            chip.remove = centredIn(localBounds(), end - padding / 2, remove, remove);
+            end += remove;
+        }
+        chip.body = centredIn(localBounds(), x, end - x, height);
+        result.push_back(chip);
+        x = end + style_.attachmentGap;
+    }
+    return result;
+}
+
+void TextInput::paint(HDC dc, Point origin)
+{
+    const Rect box = movedBy(bounds(), origin);
+    paintSurface(dc, box, surface());
+    paintChips(dc, {box.x, box.y});
+    paintText(dc, {box.x, box.y});
+    // The focused surface tells where the keyboard is; one that is locked has none.
+    if (model_.locked() && hasFocus() && window()->showsFocus())
+        paintFocusRing(dc, box, style_.shape, dpi(), style_.caretColor);
+}
+
+void TextInput::paintChips(HDC dc, Point at)
+{
+    const std::vector<Chip> shown = chips();
+    if (shown.empty())
+        return;
+    const PaintClip clip(dc, {movedBy(localBounds(), at)});
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const Chip& chip = shown[i];
+        paintSurface(dc, movedBy(chip.body, at), style_.attachmentSurface);
+        paintSurface(dc, movedBy(chip.image, at), style_.attachmentImageSurface);
+        drawText(dc, movedBy(chip.name, at), attachments_[i].name, style_.attachmentText, dpi());
+        if (chip.remove.width == 0)
+            continue;
+        const Rect remove = movedBy(chip.remove, at);
+        paintSurface(dc, remove, style_.attachmentRemoveSurface);
+        const std::int32_t inset = remove.width / 4;
+        paintGlyph(dc, Glyph::Close,
+                   {remove.x + inset, remove.y + inset, remove.width - 2 * inset, remove.height - 2 * inset},
+                   dpi(), style_.attachmentIconColor);
+    }
+}
+
+void TextInput::paintText(HDC dc, Point at)
+{
+    const Rect area = movedBy(textArea(), at);
+    if (area.width == 0)
+        return;
+    if (model_.text().empty())
+        drawText(dc, area, placeholder_, style_.placeholderText, dpi(),
+                 {isEnabled() ? TextTone::Enabled : TextTone::Disabled});
+    const Rect caret = movedBy(caretRect().value_or(Rect{}), at);
+    // A caret behind the last character stands half outside the text.
+    const PaintClip clip(dc, {{area.x, area.y, area.width + caret.width, area.height}});
+    if (model_.hasSelection()) {
+        const std::int32_t from = xOf(model_.selectionStart());
+        const std::int32_t to = xOf(model_.selectionEnd());
+        const std::int32_t height = std::min(std::max(style_.lineHeight, caret.height), area.height);
+        paintSurface(dc, centredIn(area, area.x + from - scroll_, to - from, height), style_.selection);
+    }
+    const bool usable = isEnabled() && !model_.locked();
+    drawUnclippedLine(dc, {area.x - scroll_, caret.y, textWidth() + 1, caret.height}, model_.text(),
+                      style_.text, dpi(), usable ? style_.text.color : style_.text.disabledColor);
+    if (hasFocus() && caretShown_)
+        fillShape(dc, caret, ShapeKind::Rect, style_.caretColor);
+}
+
+} // namespace vela

@@ -1,0 +1,69 @@
+#include "vela/controls/tooltip.h"
+
+#include "vela/render/mark_painter.h"
+#include "vela/render/surface_painter.h"
+#include "vela/render/text.h"
+#include "vela/theme/record_scale.h"
+#include "vela/theme/style_sheet.h"
+
+#include <algorithm>
+
+namespace vela {
+
+namespace {
+
+// 96-DPI pixels.
+constexpr std::int32_t kRailWidth = 3;
+
+} // namespace
+
+bool TooltipView::applyStyle(const StyleSheet& styles)
+{
+    style_ = scaledToDpi(styles.find<TooltipStyle>(styleKey()), dpi());
+    return true;
+}
+
+std::int32_t TooltipView::textLeft() const noexcept
+{
+    std::int32_t left = style_.paddingX;
+    if (style_.showAccentRail)
+        left += scaled(kRailWidth) + style_.gap;
+    if (style_.showIcon)
+        left += style_.iconSize + style_.gap;
+    return left;
+}
+
+Size TooltipView::preferredSize() const
+{
+    const std::int32_t around = textLeft() + style_.paddingX;
+    const std::int32_t room = std::max(style_.maxWidth - around, 1);
+    const std::int32_t width = std::min(measureTextWidth(text_, style_.textStyle, dpi()) + 1, room);
+    const std::int32_t text = measureText(text_, style_.textStyle, dpi(), width);
+    const std::int32_t height = std::max(text, style_.showIcon ? style_.iconSize : 0);
+    return {width + around, height + 2 * style_.paddingY};
+}
+
+void TooltipView::paint(HDC dc, Point origin)
+{
+    const Rect box = movedBy(bounds(), origin);
+    paintSurface(dc, box, style_.surface);
+    std::int32_t x = box.x + style_.paddingX;
+    const std::int32_t inner = std::max(box.height - 2 * style_.paddingY, 0);
+    if (style_.showAccentRail) {
+        paintSurface(dc, {x, box.y + style_.paddingY, scaled(kRailWidth), inner}, style_.accentRail);
+        x += scaled(kRailWidth) + style_.gap;
+    }
+    if (style_.showIcon) {
+        const Rect icon{x, box.y + style_.paddingY, style_.iconSize, style_.iconSize};
+        paintSurface(dc, icon, style_.icon);
+        const std::int32_t side = style_.iconSize / 2;
+        paintGlyph(dc, Glyph::Info,
+                   {icon.x + (icon.width - side) / 2, icon.y + (icon.height - side) / 2, side, side}, dpi(),
+                   style_.iconText.color);
+    }
+    const Rect text{box.x + textLeft(), box.y + style_.paddingY,
+                    std::max(box.width - textLeft() - style_.paddingX, 0), inner};
+    drawText(dc, text, text_, style_.textStyle, dpi(), {.wrap = TextWrap::Words});
+}
+
+} // namespace vela

@@ -1,0 +1,28 @@
+// The text of a tooltip on its surface, and the size it needs.
+#pragma once
+
+#include "vela/controls/control.h"
+#include "vela/theme/control_styles.h"
+
+namespace vela {
+
+class TooltipView : public Control {
+public:
+    TooltipView(std::wstring id, Rect bounds) : Control(std::move(id), bounds) {}
+
+    bool applyStyle(const StyleSheet& styles) override;
+    std::wstring text() const override { return text_; }
+    void paint(HDC dc, Point origin) override;
+
+    void setText(std::wstring text) { text_ = std::move(text); }
+    // As wide as the text needs, but no wider than the style allows; then it wraps.
+    Size preferredSize() const;
+
+private:
+    std::int32_t textLeft() const noexcept;
+
+    std::wstring text_;
+    TooltipStyle style_;
+};
+
+} // namespace vela

@@ -1,0 +1,20 @@
+// The window that shows a tooltip: over everything, never activated, and the mouse goes through it.
+#pragma once
+
+#include "vela/controls/tooltip.h"
+#include "vela/controls/window.h"
+
+namespace vela {
+
+class TooltipWindow {
+public:
+    // `pointer` is in screen pixels; the tooltip keeps inside its monitor. The owner's styles are used.
+    void show(HWND owner, Point pointer, const std::wstring& text, std::shared_ptr<const StyleSheet> styles);
+    void hide() { window_.reset(); }
+    const Window* window() const noexcept { return window_.get(); }
+
+private:
+    std::unique_ptr<Window> window_;
+};
+
+} // namespace vela
