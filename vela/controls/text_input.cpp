@@ -20,7 +20,7 @@ constexpr std::int32_t kCaretMargin = 12;
 
 } // namespace
 
-TextInput::TextInput(std::wstring id, Rect bounds, std::wstring text) : Control(std::move(id), bounds)
+TextInput::TextInput(std::wstring id, Rect bounds, std::wstring_view text) : Control(std::move(id), bounds)
 {
     model_.setText(text);
 }

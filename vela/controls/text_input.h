@@ -21,7 +21,7 @@ struct TextAttachment {
 
 class TextInput : public Control {
 public:
-    TextInput(std::wstring id, Rect bounds, std::wstring text);
+    TextInput(std::wstring id, Rect bounds, std::wstring_view text);
 
     bool applyStyle(const StyleSheet& styles) override;
     std::wstring text() const override { return model_.text(); }
