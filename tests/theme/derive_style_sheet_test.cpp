@@ -1,5 +1,6 @@
 #include "vela/theme/contrast_checks.h"
 #include "vela/theme/derive_style_sheet.h"
+#include "vela/theme/fields.h"
 #include "vela/theme/oklab.h"
 
 #include <gtest/gtest.h>
@@ -202,6 +203,31 @@ TEST(DeriveStyleSheet, ShowsEveryStateDifferently)
             const auto& thumb = sheet.find<ScrollBarStyle>(kDefaultVariant).thumb;
             expectAllDistinct({{&thumb.normal, 0}, {&thumb.hot, 0}, {&thumb.pressed, 0}, {&thumb.active, 0}},
                               "thumb" + where);
+        }
+    }
+}
+
+// Sets every number of a record that is no byte.
+void setNumbers(const FieldTable& table, void* record, std::int32_t value)
+{
+    for (const Field& field : table.fields) {
+        auto* const place = static_cast<std::byte*>(record) + field.offset;
+        if (field.kind == FieldKind::Length || field.kind == FieldKind::Integer)
+            *reinterpret_cast<std::int32_t*>(place) = value;
+        else if (field.kind == FieldKind::Record)
+            setNumbers(tableOf(field), place, value);
+    }
+}
+
+TEST(DeriveStyleSheet, TakesNumbersAtTheLimits)
+{
+    for (const std::int32_t value : {INT32_MIN, INT32_MAX}) {
+        for (int mode = 0; mode < 5; ++mode) {
+            Theme theme;
+            theme.surfaceMode = static_cast<SurfaceMode>(mode);
+            setNumbers(Fields<Theme>::kTable, &theme, value);
+            setNumbers(Fields<MaterialProfile>::kTable, &theme.materials, value);
+            EXPECT_GE(deriveStyleSheet(theme).find<TextStyle>(L"title").pointSize, 1);
         }
     }
 }

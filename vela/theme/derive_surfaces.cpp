@@ -54,7 +54,7 @@ void wearMaterial(SurfaceStyle& surface, const DeriveContext& context, const Fac
     dim(surface, face.drawn ? context.look.form(face.form).light : 0, context.look.leastDepth);
     // What is pushed in takes the light from the other side.
     if (face.form == Form::Pressed || face.form == Form::Sunken)
-        surface.materialLightAngle = (surface.materialLightAngle + kHalfTurn) % kFullTurn;
+        surface.materialLightAngle = (surface.materialLightAngle % kFullTurn + kHalfTurn) % kFullTurn;
 }
 
 void shade(SurfaceStyle& surface, const DeriveContext& context, const Face& face)
@@ -154,10 +154,13 @@ Bed bedOn(const SurfaceStyle& surface, const Bed& under)
     return {surface.drawFill ? surface.fill : under.fill, facesOf(surface, under.tones)};
 }
 
+// A skin may name any number; no text of this size fits a screen.
+constexpr std::int32_t kLargestPoints = 1000;
+
 FontSpec textOf(const DeriveContext& context, Color color, Color disabledColor, Type type)
 {
     FontSpec font = context.theme.uiFont;
-    font.pointSize = std::max(font.pointSize + type.points, 1);
+    font.pointSize = std::max(std::clamp(font.pointSize, 1, kLargestPoints) + type.points, 1);
     font.weight = std::clamp(font.weight + type.weight, 100, std::max(font.weight, 700));
     font.color = color;
     font.disabledColor = disabledColor;
