@@ -1,5 +1,6 @@
 #include "vela/render/smooth.h"
 
+#include "vela/mul_div.h"
 #include "vela/render/smooth_paint.h"
 
 #include <algorithm>
@@ -141,14 +142,14 @@ private:
 
 float penOf(const Design& design, std::int32_t dpi) noexcept
 {
-    const float pen = design.pen * static_cast<float>(dpi) / 96;
+    const float pen = design.pen * static_cast<float>(dpi) / kDesignDpi;
     // At 150 % a line of one pixel still looks finer than one of two.
     return design.crisp ? std::max(std::floor(pen + 0.25F), 1.0F) : pen;
 }
 
 } // namespace
 
-std::int32_t captionGlyphSize(std::int32_t dpi) noexcept { return (10 * dpi + 48) / 96; }
+std::int32_t captionGlyphSize(std::int32_t dpi) noexcept { return mulDiv(10, dpi, kDesignDpi); }
 
 void drawGlyph(const LayerTarget& target, Glyph glyph, const Rect& box, std::int32_t dpi, Color color,
                std::uint8_t alpha)

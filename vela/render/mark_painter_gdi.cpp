@@ -1,5 +1,6 @@
 #include "vela/render/mark_painter.h"
 
+#include "vela/mul_div.h"
 #include "vela/render/dib_gdi.h"
 #include "vela/render/pixel_layer_gdi.h"
 #include "vela/render/surface_painter.h"
@@ -11,7 +12,6 @@ namespace vela {
 
 namespace {
 
-constexpr float kDesignDpi = 96.0F;
 constexpr float kFocusRingWidth = 2.0F; // pixels at 96 DPI: the least that is seen on every monitor
 
 // GDI leaves the alpha of what it draws undefined.
