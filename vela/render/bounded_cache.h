@@ -1,5 +1,5 @@
-// Values made from keys and kept until there are too many of them: then the one that was asked for longest
-// ago goes. Meant for a few hundred entries; a look-up compares keys one by one.
+// Values made from keys and kept until there are too many of them: then those go that were asked for longest
+// ago. Meant for a few hundred entries; a look-up compares keys one by one.
 #pragma once
 
 #include <algorithm>
@@ -11,7 +11,16 @@
 
 namespace vela {
 
-template <typename Key, typename Value>
+struct EachCountsOne {
+    template <typename Value>
+    constexpr std::size_t operator()(const Value&) const noexcept
+    {
+        return 1;
+    }
+};
+
+// Weigh tells how much of the capacity a value takes; a value heavier than all of it is kept alone.
+template <typename Key, typename Value, typename Weigh = EachCountsOne>
 class BoundedCache {
 public:
     explicit BoundedCache(std::size_t capacity) : capacity_(capacity) {}
@@ -29,13 +38,8 @@ public:
         }
         auto fresh = std::make_unique<Entry>(Entry{Key(wanted), make(), ++clock_});
         ++made_;
-        if (entries_.size() < capacity_)
-            return entries_.emplace_back(std::move(fresh))->value;
-        auto& oldest = *std::min_element(entries_.begin(), entries_.end(), [](const auto& a, const auto& b) {
-            return a->lastUse < b->lastUse;
-        });
-        oldest = std::move(fresh);
-        return oldest->value;
+        makeRoom(Weigh{}(fresh->value));
+        return entries_.emplace_back(std::move(fresh))->value;
     }
 
     std::size_t size() const noexcept { return entries_.size(); }
@@ -48,6 +52,19 @@ private:
         Value value;
         std::uint64_t lastUse;
     };
+
+    void makeRoom(std::size_t weight)
+    {
+        for (const auto& entry : entries_)
+            weight += Weigh{}(entry->value);
+        while (!entries_.empty() && weight > capacity_) {
+            const auto oldest =
+                std::min_element(entries_.begin(), entries_.end(),
+                                 [](const auto& a, const auto& b) { return a->lastUse < b->lastUse; });
+            weight -= Weigh{}((*oldest)->value);
+            entries_.erase(oldest);
+        }
+    }
 
     std::size_t capacity_;
     std::size_t made_ = 0;

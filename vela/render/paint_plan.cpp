@@ -5,6 +5,7 @@
 #include "vela/render/gradient.h"
 #include "vela/render/inner_shadow.h"
 #include "vela/render/lengths.h"
+#include "vela/render/material_constants.h"
 #include "vela/render/noise.h"
 #include "vela/render/solid_layer.h"
 #include "vela/render/spatial_shading.h"
@@ -94,7 +95,7 @@ void Planner::addBase(BitmapCover bitmap)
 void Planner::addLight()
 {
     // The material is one step, painted on the graphics card or in software, always at this place.
-    if (style_.materialEnabled && style_.material != MaterialPreset::None && style_.materialStrength > 0)
+    if (carriesMaterial(style_))
         add(SurfaceLayer::Material);
     if (castsSpatialShading(style_))
         add(SurfaceLayer::SpatialShading);
