@@ -3,6 +3,7 @@
 
 #include "app/paths.h"
 
+#include "vela/com_apartment_win32.h"
 #include "vela/com_pointer_win32.h"
 #include "vela/owned_win32.h"
 
@@ -29,28 +30,6 @@ constexpr FolderId kFolderIds[] = {
     {KnownFolder::Desktop, FOLDERID_Desktop},
     {KnownFolder::Startup, FOLDERID_Startup},
     {KnownFolder::LocalAppData, FOLDERID_LocalAppData},
-};
-
-// COM on this thread. A thread that already runs in another kind of apartment will do, but is not ours to
-// end.
-class ComApartment {
-public:
-    ComApartment() noexcept
-        : result_(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE))
-    {
-    }
-    ComApartment(const ComApartment&) = delete;
-    ComApartment& operator=(const ComApartment&) = delete;
-    ~ComApartment()
-    {
-        if (SUCCEEDED(result_))
-            ::CoUninitialize();
-    }
-
-    HRESULT result() const noexcept { return result_ == RPC_E_CHANGED_MODE ? S_OK : result_; }
-
-private:
-    HRESULT result_;
 };
 
 HRESULT describeLink(IShellLinkW& shellLink, const ShellLink& link)
@@ -100,7 +79,7 @@ std::wstring WindowsEffects::knownFolder(KnownFolder folder)
 
 std::int32_t WindowsEffects::createShellLink(const ShellLink& link)
 {
-    const ComApartment apartment;
+    const vela::ComApartment apartment;
     if (FAILED(apartment.result()))
         return static_cast<std::int32_t>(apartment.result());
     createFolders(parentFolder(link.link)); // without it, saving the link fails and says why

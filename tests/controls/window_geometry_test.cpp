@@ -56,5 +56,37 @@ TEST(WindowGeometry, TrackingSizesFollowTheWorkAreaAndTheMinimum)
     EXPECT_EQ(sizes, (TrackingSizes{{1280, 984}, {0, 40}, {1280, 2000}, {400, 984}}));
 }
 
+TEST(WindowGeometry, AScaleIsFoundAtWhichTheWindowFits)
+{
+    constexpr Size kDialog{690, 420};
+    const struct {
+        Size room;
+        std::int32_t monitor;
+        std::int32_t dpi;
+    } rows[] = {
+        {{1920, 1040}, 96, 96},  {{1920, 1040}, 144, 144}, {{1920, 1040}, 192, 192}, {{1920, 1040}, 240, 237},
+        {{1024, 600}, 240, 137}, {{1024, 600}, 120, 120},  {{690, 420}, 96, 96},     {{689, 420}, 96, 95},
+        {{690, 300}, 240, 68},   {{100, 100}, 240, 48},    {{-20, 600}, 120, 48},    {{1725, 1050}, 240, 240},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(fittingDpi(kDialog, row.room, row.monitor), row.dpi)
+            << row.room.width << "@" << row.monitor;
+    EXPECT_EQ(fittingDpi({0, 0}, {0, 0}, 144), 144);
+    // The scaled length of every size is within the room, and one step more would not be.
+    for (std::int32_t width = 300; width < 1400; width += 7) {
+        const std::int32_t dpi = fittingDpi({width, 1}, {1024, 600}, 240);
+        EXPECT_LE((width * dpi + 48) / 96, 1024);
+        EXPECT_TRUE(dpi == 240 || width * (dpi + 1) > 1024 * 96) << width;
+    }
+}
+
+TEST(WindowGeometry, AWindowIsMovedBackInside)
+{
+    constexpr Rect kArea{100, 50, 1000, 600};
+    EXPECT_EQ(keptInside({200, 60, 300, 200}, kArea), (Rect{200, 60, 300, 200}));
+    EXPECT_EQ(keptInside({0, 700, 300, 200}, kArea), (Rect{100, 450, 300, 200}));
+    EXPECT_EQ(keptInside({500, 500, 3000, 0}, kArea), (Rect{100, 500, 1000, 1}));
+}
+
 } // namespace
 } // namespace vela

@@ -19,12 +19,16 @@ public:
     void writeDiagnostic(std::wstring_view line) override { lines.emplace_back(line); }
 
     std::vector<std::wstring> lines;
+    std::vector<TaskbarStatus> statuses;
+    int flashes = 0;
     int clips = 0;
     int destroyed = 0;
 
 protected:
     void onDestroyed() override { ++destroyed; }
     void openScreenClip() override { ++clips; }
+    void showTaskbarStatus(const TaskbarStatus& status) override { statuses.push_back(status); }
+    void flashTaskbarButton() override { ++flashes; }
 };
 
 // Everything that waits in the queue, and the input that is still on its way into it.

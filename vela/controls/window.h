@@ -8,6 +8,7 @@
 #include "vela/controls/input_router.h"
 #include "vela/controls/panel.h"
 #include "vela/controls/pointer_clock.h"
+#include "vela/controls/taskbar_progress.h"
 #include "vela/controls/window_host.h"
 
 #include <cstdint>
@@ -57,6 +58,9 @@ public:
     // edge, in 96-DPI pixels, and 0 means that the frame cannot be dragged.
     void setCustomFrame(bool custom) noexcept { customFrame_ = custom; }
     void setResizeBorder(std::int32_t pixels) noexcept { resizeBorder_ = pixels; }
+    // Before `create`. Where the client area does not fit the work area at the monitor's DPI, everything is
+    // drawn at a smaller scale until it does; `dpi` is that scale.
+    void setShrinkToFit(bool shrinks) noexcept { shrinkToFit_ = shrinks; }
     void setQuitOnDestroy(bool quits) noexcept { quitOnDestroy_ = quits; }
     void setCloseOnDeactivate(bool closes) noexcept { closeOnDeactivate_ = closes; }
     void setTooltipDelay(std::uint32_t milliseconds) noexcept { tooltipDelay_ = milliseconds; }
@@ -78,6 +82,14 @@ public:
     // Carries out what a title bar asks for by the action's name; false for an action that is none of the
     // title bar's.
     bool performChromeAction(std::wstring_view action);
+
+    // As long as there is a reason the user's session does not end and Windows shows the reason; an empty one
+    // lets it end. Like the progress below it may be given before `create`.
+    void setShutdownBlockReason(std::wstring reason);
+    // The percentage is of use while work is running, paused or failed.
+    void setTaskbarProgress(TaskbarProgress state, std::int32_t percent = 0);
+    // Flashes the taskbar button until the user comes to the window; nothing when that is in front already.
+    void requestAttention();
 
     // Lays the tree out for the client area as it is.
     void layoutTree();
@@ -105,8 +117,10 @@ public:
 protected:
     virtual void onCreated() {}
     virtual void onDestroyed() {}
-    // Starts the system's screen clip.
+    // What leaves the process: the system's screen clip, and the two things a taskbar button can show.
     virtual void openScreenClip();
+    virtual void showTaskbarStatus(const TaskbarStatus& status);
+    virtual void flashTaskbarButton();
 
 private:
     class Native; // the side that talks to Windows
@@ -127,7 +141,12 @@ private:
     bool closeOnDeactivate_ = false;
     std::uint32_t tooltipDelay_ = 650;
     Size lastClientSize_;
-    std::int32_t dpi_ = 96;
+    Size designClient_; // 96-DPI pixels, as given to `create`
+    bool shrinkToFit_ = false;
+    std::int32_t dpi_ = 96;        // the scale of all that is drawn
+    std::int32_t monitorDpi_ = 96; // the system's; of the standard frame and the icons
+    std::wstring shutdownBlockReason_;
+    TaskbarStatus taskbarStatus_;
     InputRouter input_;
     CommandHandlers commands_;
     TooltipClock tooltipClock_;

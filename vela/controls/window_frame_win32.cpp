@@ -8,6 +8,7 @@
 #include "vela/theme/style_sheet.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <windowsx.h>
 
@@ -53,6 +54,14 @@ HMONITOR monitorForNewWindow(HWND owner) noexcept
     POINT cursor{};
     ::GetCursorPos(&cursor);
     return ::MonitorFromPoint(cursor, MONITOR_DEFAULTTONEAREST);
+}
+
+// What Windows' own frame adds to a client area.
+Size standardFrame(WindowStyle style, std::int32_t dpi) noexcept
+{
+    RECT outer{};
+    ::AdjustWindowRectExForDpi(&outer, style.style, FALSE, style.extended, static_cast<UINT>(dpi));
+    return sizeOf(toRect(outer));
 }
 
 Point pointFrom(LPARAM lParam) noexcept { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
@@ -111,10 +120,12 @@ bool Window::Native::create(HINSTANCE instance, Size client, WindowStyle style, 
     if (!registerClass(instance))
         return false;
     const MonitorAreas areas = monitorAreas(monitorForNewWindow(owner));
-    RECT outer{0, 0, scaledLength(client.width, areas.dpi), scaledLength(client.height, areas.dpi)};
-    if (!window_.customFrame_)
-        ::AdjustWindowRectExForDpi(&outer, style.style, FALSE, style.extended, static_cast<UINT>(areas.dpi));
-    const Rect place = initialPlacement(sizeOf(toRect(outer)), areas.work);
+    const Size frame = window_.customFrame_ ? Size{} : standardFrame(style, areas.dpi);
+    window_.designClient_ = client;
+    const std::int32_t scale = scaleFor(areas.work, areas.dpi, frame);
+    const Size outer{scaledLength(client.width, scale) + frame.width,
+                     scaledLength(client.height, scale) + frame.height};
+    const Rect place = initialPlacement(outer, areas.work);
     return ::CreateWindowExW(style.extended, kWindowClass, window_.title_.c_str(), style.style, place.x,
                              place.y, place.width, place.height, owner, nullptr, instance, this) != nullptr;
 }
@@ -153,7 +164,7 @@ void Window::Native::loadIcons(HINSTANCE instance)
         int height;
     } kIcons[] = {{&Native::smallIcon_, ICON_SMALL, SM_CXSMICON, SM_CYSMICON},
                   {&Native::largeIcon_, ICON_BIG, SM_CXICON, SM_CYICON}};
-    const auto dpi = static_cast<UINT>(window_.dpi_);
+    const auto dpi = static_cast<UINT>(window_.monitorDpi_);
     for (const auto& row : kIcons) {
         // The program's first icon, at this monitor's size; without one the class's stays.
         OwnedIcon icon(static_cast<HICON>(
@@ -177,11 +188,9 @@ Size Window::Native::frameExtra() const noexcept
 {
     if (window_.customFrame_ || !window_.handle_)
         return {};
-    RECT outer{};
-    ::AdjustWindowRectExForDpi(&outer, static_cast<DWORD>(::GetWindowLongPtrW(window_.handle_, GWL_STYLE)),
-                               FALSE, static_cast<DWORD>(::GetWindowLongPtrW(window_.handle_, GWL_EXSTYLE)),
-                               static_cast<UINT>(window_.dpi_));
-    return sizeOf(toRect(outer));
+    return standardFrame({static_cast<std::uint32_t>(::GetWindowLongPtrW(window_.handle_, GWL_STYLE)),
+                          static_cast<std::uint32_t>(::GetWindowLongPtrW(window_.handle_, GWL_EXSTYLE))},
+                         window_.monitorDpi_);
 }
 
 LRESULT Window::Native::onMove()
@@ -192,8 +201,11 @@ LRESULT Window::Native::onMove()
 
 LRESULT Window::Native::onSize(WPARAM wParam)
 {
-    if (wParam == SIZE_MINIMIZED)
+    const bool wasMinimised = std::exchange(minimised_, wParam == SIZE_MINIMIZED);
+    if (minimised_)
         return 0;
+    if (wasMinimised)
+        refreshMetrics();
     const Size before = window_.lastClientSize_;
     window_.maximised_ = wParam == SIZE_MAXIMIZED;
     window_.layoutTree();
@@ -286,21 +298,6 @@ LRESULT Window::Native::onSizing(WPARAM edge, RECT& proposed) const
         window_.writeDiagnostic(sizingDiagnostic(edge, before, after, frameFacts({cursor.x, cursor.y})));
     }
     return 1;
-}
-
-LRESULT Window::Native::onDpiChanged(WPARAM wParam, const RECT& suggested)
-{
-    window_.dpi_ = HIWORD(wParam);
-    window_.root_.rescale(window_.dpi_);
-    window_.applyStyles(window_.styles_);
-    const Rect place = toRect(suggested);
-    ::SetWindowPos(window_.handle_, nullptr, place.x, place.y, place.width, place.height,
-                   SWP_NOZORDER | SWP_NOACTIVATE);
-    // The client area may have kept its size; the tree has not.
-    window_.layoutTree();
-    loadIcons(reinterpret_cast<HINSTANCE>(::GetWindowLongPtrW(window_.handle_, GWLP_HINSTANCE)));
-    ::InvalidateRect(window_.handle_, nullptr, FALSE);
-    return 0;
 }
 
 // The system's own move loop, started as if the pointer had pressed a caption.

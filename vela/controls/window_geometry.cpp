@@ -1,6 +1,7 @@
 #include "vela/controls/window_geometry.h"
 
 #include "vela/controls/layout.h"
+#include "vela/mul_div.h"
 
 #include <algorithm>
 
@@ -77,6 +78,27 @@ Rect initialPlacement(Size window, const Rect& workArea) noexcept
     const Size size = atLeastOne(smallerOf(window, sizeOf(workArea)));
     return {centred(size.width, workArea.x, workArea.width),
             centred(size.height, workArea.y, workArea.height), size.width, size.height};
+}
+
+Rect keptInside(const Rect& window, const Rect& area) noexcept
+{
+    const Size size = atLeastOne(smallerOf(sizeOf(window), sizeOf(area)));
+    const auto start = [](std::int32_t wanted, std::int32_t extent, std::int32_t from, std::int32_t room) {
+        return std::clamp(wanted, from, from + std::max(room - extent, 0));
+    };
+    return {start(window.x, size.width, area.x, area.width),
+            start(window.y, size.height, area.y, area.height), size.width, size.height};
+}
+
+std::int32_t fittingDpi(Size design, Size room, std::int32_t monitorDpi) noexcept
+{
+    // Rounded down: the scaled length then never rounds up beyond the room.
+    const auto fitting = [monitorDpi](std::int64_t length, std::int64_t available) {
+        const bool fits = length <= 0 || length * monitorDpi <= available * kDesignDpi;
+        return fits ? monitorDpi : available * kDesignDpi / length;
+    };
+    const std::int64_t dpi = std::min(fitting(design.width, room.width), fitting(design.height, room.height));
+    return static_cast<std::int32_t>(std::max<std::int64_t>(dpi, std::min(kSmallestFittingDpi, monitorDpi)));
 }
 
 TrackingSizes trackingSizes(const Rect& monitor, const Rect& workArea, Size largest, Size minimum) noexcept

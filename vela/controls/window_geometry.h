@@ -39,6 +39,16 @@ Edges keptAboveMinimum(Edges proposed, FrameZone dragged, Size minimum) noexcept
 // A new window's place: no larger than the work area, centred in it, entirely inside it.
 Rect initialPlacement(Size window, const Rect& workArea) noexcept;
 
+// The same rectangle, moved and cut so that it lies inside the area.
+Rect keptInside(const Rect& window, const Rect& area) noexcept;
+
+// Below this scale nothing could be read: a window that needs less is cut at the work area.
+inline constexpr std::int32_t kSmallestFittingDpi = 48;
+
+// The scale, as a DPI, for a client area designed in 96-DPI pixels: the monitor's, or as much less as it
+// takes to fit the room.
+std::int32_t fittingDpi(Size design, Size room, std::int32_t monitorDpi) noexcept;
+
 struct TrackingSizes {
     Size maximised;
     Point maximisedAt; // relative to the monitor

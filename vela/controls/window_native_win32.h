@@ -35,6 +35,7 @@ constexpr RECT toRECT(const Rect& rect) noexcept
     return {rect.x, rect.y, rect.x + rect.width, rect.y + rect.height};
 }
 
+class TaskbarList;
 class TooltipWindow;
 
 class Window::Native {
@@ -50,9 +51,13 @@ public:
     void applyShape();
     void loadIcons(HINSTANCE instance);
     void beginMove();
+    void blockShutdown() const noexcept;
+    void showTaskbarStatus(const TaskbarStatus& status);
+    void refreshTaskbar();
     void captureMouse(bool capture);
     void readClientSize();
     Size frameExtra() const noexcept;
+    Rect workArea() const noexcept; // of the monitor that shows the window
     TextServices& textServices() noexcept;
 
 private:
@@ -74,7 +79,6 @@ private:
     void clearHover();
     void updateTooltip(std::uint64_t now);
     void dismissTooltip();
-    void refreshMetrics();
     void restyle();
 
     // Frame (window_frame_win32.cpp).
@@ -86,8 +90,18 @@ private:
     LRESULT onNcDoubleClick(WPARAM wParam, LPARAM lParam) const;
     LRESULT onFrameMessage(UINT message, WPARAM wParam, LPARAM lParam) const noexcept;
     LRESULT onSizing(WPARAM edge, RECT& proposed) const;
-    LRESULT onDpiChanged(WPARAM wParam, const RECT& suggested);
     FrameFacts frameFacts(Point cursorScreen) const;
+
+    // Scale (window_scale_win32.cpp).
+    LRESULT onDpiChanged(WPARAM wParam, const RECT& suggested);
+    std::int32_t scaleFor(const Rect& workArea, std::int32_t monitorDpi, Size frame) const noexcept;
+    Rect rescaled(const Rect& place, std::int32_t scale);
+    void refreshMetrics();
+
+    // Desktop (window_desktop_win32.cpp).
+    LRESULT onQueryEndSession(WPARAM wParam, LPARAM lParam) const;
+    LRESULT onRegisteredMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    void admitTaskbar() const noexcept;
 
     // Input (window_input_win32.cpp).
     LRESULT onMouseMove(LPARAM lParam);
@@ -117,6 +131,9 @@ private:
     WindowsTextServices textServices_;
     std::uint64_t lastTick_ = 0;
     wchar_t highSurrogate_ = 0;
+    std::unique_ptr<TaskbarList> taskbar_;
+    bool hasTaskbarButton_ = false;
+    bool minimised_ = false;
     bool shaped_ = false;
     bool trackingLeave_ = false;
     bool snapshotDown_ = false;

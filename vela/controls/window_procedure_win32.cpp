@@ -1,6 +1,7 @@
 // The messages of a window's life: from its creation to its end, and what the system tells it meanwhile.
 #include "vela/controls/window_native_win32.h"
 
+#include "vela/controls/taskbar_list_win32.h"
 #include "vela/controls/tooltip_window_win32.h"
 
 #include <cwchar>
@@ -84,6 +85,7 @@ LRESULT Window::Native::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED: return onSystemLook(message, wParam, lParam);
     case WM_DPICHANGED: return onDpiChanged(wParam, *reinterpret_cast<const RECT*>(lParam));
+    case WM_QUERYENDSESSION: return onQueryEndSession(wParam, lParam);
     case WM_PAINT: return onPaint();
     case WM_ERASEBKGND: return 1;
     case WM_GETMINMAXINFO: return onMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam));
@@ -113,14 +115,17 @@ LRESULT Window::Native::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CONTEXTMENU: return onContextMenu(wParam, lParam);
     case WM_CAPTURECHANGED: return onCaptureChanged(lParam);
     case WM_SETCURSOR: return onSetCursor(wParam, lParam);
-    default: return passOn(message, wParam, lParam);
+    default: return onRegisteredMessage(message, wParam, lParam);
     }
 }
 
 LRESULT Window::Native::onCreate()
 {
-    window_.dpi_ = static_cast<std::int32_t>(::GetDpiForWindow(window_.handle_));
+    window_.monitorDpi_ = static_cast<std::int32_t>(::GetDpiForWindow(window_.handle_));
+    window_.dpi_ = scaleFor(workArea(), window_.monitorDpi_, frameExtra());
     window_.root_.rescale(window_.dpi_);
+    blockShutdown();
+    admitTaskbar();
     lastTick_ = ::GetTickCount64();
     ::SetTimer(window_.handle_, kWindowTimer, kWindowTimerPeriod, nullptr);
     window_.onCreated();
@@ -137,6 +142,8 @@ LRESULT Window::Native::onDestroy()
     backBuffer_.reset();
     smallIcon_.reset();
     largeIcon_.reset();
+    taskbar_.reset();
+    hasTaskbarButton_ = false;
     if (window_.quitOnDestroy_)
         ::PostQuitMessage(0);
     return 0;
@@ -227,16 +234,6 @@ void Window::Native::restyle()
 {
     if (window_.styleSource_)
         window_.applyStyles(window_.styleSource_());
-}
-
-// A maximised frame of our own covers the work area as it was: Windows moves only frames it draws itself.
-void Window::Native::refreshMetrics()
-{
-    if (!window_.customFrame_ || !::IsZoomed(window_.handle_))
-        return;
-    const Rect work = monitorAreas(::MonitorFromWindow(window_.handle_, MONITOR_DEFAULTTONEAREST)).work;
-    ::SetWindowPos(window_.handle_, nullptr, work.x, work.y, work.width, work.height,
-                   SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 LRESULT Window::Native::onTimer(WPARAM wParam, LPARAM lParam)

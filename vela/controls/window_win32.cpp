@@ -58,7 +58,7 @@ Size Window::minimumTrackSize() const
 {
     const Size client = minimumClientSize();
     const Size frame = native_->frameExtra();
-    const Rect work = monitorAreas(::MonitorFromWindow(handle_, MONITOR_DEFAULTTONEAREST)).work;
+    const Rect work = native_->workArea();
     return {std::clamp(client.width + frame.width, 1, std::max(work.width, 1)),
             std::clamp(client.height + frame.height, 1, std::max(work.height, 1))};
 }
