@@ -1,6 +1,7 @@
 // Draws the gallery: every sheet of it, or those whose names contain a given word.
 //   gallery OUTPUT-FOLDER SKINS-DOCUMENT [WORD]
 #include "tools/gallery/gallery_gdi.h"
+#include "tools/gallery/showcase_camera_gdi.h"
 #include "vela/theme/json.h"
 #include "vela/theme/utf8.h"
 
@@ -32,6 +33,41 @@ std::vector<vela::SkinDefinition> readSkins(const std::filesystem::path& path)
     return vela::skinsFromDocument(document.root());
 }
 
+// The switches of the debugging overlay, each set by pressing F12 once more.
+constexpr struct {
+    const wchar_t* name;
+    std::initializer_list<int> modifiers;
+} kOverlays[] = {
+    {L"overlay-1-basic", {}},
+    {L"overlay-2-layout", {VK_CONTROL}},
+    {L"overlay-3-contours", {VK_CONTROL}},
+    {L"overlay-4-skin", {VK_CONTROL}},
+    {L"overlay-5-with-ids", {VK_SHIFT}},
+    {L"overlay-6-with-content", {VK_CONTROL, VK_SHIFT}},
+};
+
+// The window of the showcase: every page in every skin at every DPI, then with the debugging overlay.
+template <typename Draw>
+void drawShowcase(const std::vector<vela::SkinDefinition>& skins, const Draw& draw)
+{
+    gallery::ShowcaseCamera camera;
+    for (const showcase::Page& page : showcase::pages()) {
+        for (const std::int32_t dpi : gallery::kShowcaseDpis) {
+            const std::wstring set = std::wstring(page.name) + L"-" + std::to_wstring(dpi);
+            camera.aim(page, dpi);
+            for (const vela::SkinDefinition& skin : skins)
+                draw(set + L"-" + skin.id,
+                     [&](const std::wstring& path) { return camera.shoot(path, skin); });
+            draw(set, [&](const std::wstring& path) { return camera.saveContactSheet(path); });
+        }
+    }
+    camera.aim(showcase::pages().front(), gallery::kDpi);
+    for (const auto& [name, modifiers] : kOverlays) {
+        camera.pressDebugKey(modifiers);
+        draw(name, [&](const std::wstring& path) { return camera.shoot(path, skins.front()); });
+    }
+}
+
 } // namespace
 
 int wmain(int count, wchar_t** arguments)
@@ -58,6 +94,8 @@ int wmain(int count, wchar_t** arguments)
     for (const vela::SkinDefinition& skin : skins)
         draw(L"skin-" + skin.id,
              [&](const std::wstring& path) { return gallery::drawSkinSheet(path, skin); });
+    if (!skins.empty())
+        drawShowcase(skins, draw);
     if (skins.empty())
         std::fputs("no skins in that document\n", stderr);
     return failed > 0 || skins.empty();

@@ -119,6 +119,7 @@ private:
 
     // Painting (window_paint_gdi.cpp).
     LRESULT onPaint();
+    LRESULT onPrintClient(HDC dc);
     void paintTree(HDC dc);
 
     Window& window_;

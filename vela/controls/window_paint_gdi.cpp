@@ -28,6 +28,13 @@ LRESULT Window::Native::onPaint()
     return 0;
 }
 
+// For whoever wants a picture of the window: previews, animations, screen readers.
+LRESULT Window::Native::onPrintClient(HDC dc)
+{
+    paintTree(dc);
+    return 0;
+}
+
 void Window::Native::paintTree(HDC dc)
 {
     window_.root_.paint(dc, {});

@@ -87,6 +87,7 @@ LRESULT Window::Native::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_DPICHANGED: return onDpiChanged(wParam, *reinterpret_cast<const RECT*>(lParam));
     case WM_QUERYENDSESSION: return onQueryEndSession(wParam, lParam);
     case WM_PAINT: return onPaint();
+    case WM_PRINTCLIENT: return onPrintClient(reinterpret_cast<HDC>(wParam));
     case WM_ERASEBKGND: return 1;
     case WM_GETMINMAXINFO: return onMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam));
     case WM_NCCALCSIZE:

@@ -1,0 +1,43 @@
+#include "tools/showcase/showcase_window_win32.h"
+
+#include "tools/showcase_content/content.h"
+
+#include "vela/theme/record_scale.h"
+
+#include <windows.h>
+
+namespace showcase {
+
+bool ShowcaseWindow::open()
+{
+    constexpr std::int32_t kResizeBorder = 5;
+    setCustomFrame(true);
+    setResizeBorder(kResizeBorder);
+    setDiagnostics(false);
+    // No WS_THICKFRAME: Windows would hold the window to the size of the screen, whatever DPI is asked for.
+    constexpr vela::WindowStyle kStyle{WS_POPUP | WS_SYSMENU | WS_MINIMIZEBOX | WS_MAXIMIZEBOX,
+                                       WS_EX_APPWINDOW};
+    if (!create(::GetModuleHandleW(nullptr), L"Showcase", kClientSize, kStyle))
+        return false;
+    titleBar_ = &addShowcase(root());
+    return true;
+}
+
+void ShowcaseWindow::changeDpi(std::int32_t newDpi)
+{
+    RECT place{};
+    if (!::GetWindowRect(handle(), &place))
+        return;
+    place.right = place.left + vela::scaledLength(kClientSize.width, newDpi);
+    place.bottom = place.top + vela::scaledLength(kClientSize.height, newDpi);
+    ::SendMessageW(handle(), WM_DPICHANGED, MAKEWPARAM(newDpi, newDpi), reinterpret_cast<LPARAM>(&place));
+}
+
+std::unique_ptr<vela::DibSurface> ShowcaseWindow::picture()
+{
+    auto surface = std::make_unique<vela::DibSurface>(sizeOf(clientRect()));
+    ::SendMessageW(handle(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(surface->dc()), PRF_CLIENT);
+    return surface;
+}
+
+} // namespace showcase

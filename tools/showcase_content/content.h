@@ -1,0 +1,30 @@
+// What the showcase shows: every control of the toolkit in every state it can be in, on pages that share one
+// title bar. The one builder of it: the live window, the gallery, the tests and the measurements open the
+// same controls. All lengths are 96-DPI pixels.
+#pragma once
+
+#include "vela/controls/chrome_title_bar.h"
+#include "vela/controls/panel.h"
+
+#include <span>
+#include <string_view>
+
+namespace showcase {
+
+inline constexpr std::int32_t kTitleBarHeight = 40;
+inline constexpr vela::Size kPageSize{1216, 900};
+inline constexpr vela::Size kClientSize{kPageSize.width, kTitleBarHeight + kPageSize.height};
+
+struct Page {
+    std::wstring_view name;
+    void (*build)(vela::Panel& page);
+};
+std::span<const Page> pages() noexcept;
+
+// Fills the root of a window whose client area has kClientSize: the title bar and the first page.
+vela::ChromeTitleBar& addShowcase(vela::Panel& root);
+
+// Puts another page into the place of the one that is shown. The window must apply its styles afterwards.
+void showPage(vela::Panel& root, const Page& page);
+
+} // namespace showcase
