@@ -17,26 +17,32 @@ vela::ComPointer<IWICImagingFactory> makeFactory()
     return factory;
 }
 
+const WICPixelFormatGUID& pixelFormat(PngAlpha alpha) noexcept
+{
+    return alpha == PngAlpha::Stored ? GUID_WICPixelFormat32bppBGRA : GUID_WICPixelFormat32bppBGR;
+}
+
 } // namespace
 
-bool writePng(const std::wstring& path, const vela::PixelView& picture)
+bool writePng(const std::wstring& path, const vela::PixelView& picture, PngAlpha alpha)
 {
     const auto factory = makeFactory();
     const auto width = static_cast<UINT>(picture.size.width);
     const auto height = static_cast<UINT>(picture.size.height);
     const auto stride = static_cast<UINT>(picture.stride * 4);
     vela::ComPointer<IWICBitmap> bitmap;
-    vela::ComPointer<IWICFormatConverter> opaque;
+    vela::ComPointer<IWICFormatConverter> stored;
     vela::ComPointer<IWICStream> stream;
     vela::ComPointer<IWICBitmapEncoder> encoder;
     vela::ComPointer<IWICBitmapFrameEncode> frame;
-    WICPixelFormatGUID format = GUID_WICPixelFormat24bppBGR;
+    WICPixelFormatGUID format =
+        alpha == PngAlpha::Stored ? GUID_WICPixelFormat32bppBGRA : GUID_WICPixelFormat24bppBGR;
     return factory &&
-           SUCCEEDED(factory->CreateBitmapFromMemory(width, height, GUID_WICPixelFormat32bppBGR, stride,
+           SUCCEEDED(factory->CreateBitmapFromMemory(width, height, pixelFormat(alpha), stride,
                                                      stride * height, reinterpret_cast<BYTE*>(picture.pixels),
                                                      bitmap.put())) &&
-           SUCCEEDED(factory->CreateFormatConverter(opaque.put())) &&
-           SUCCEEDED(opaque->Initialize(bitmap.get(), format, WICBitmapDitherTypeNone, nullptr, 0,
+           SUCCEEDED(factory->CreateFormatConverter(stored.put())) &&
+           SUCCEEDED(stored->Initialize(bitmap.get(), format, WICBitmapDitherTypeNone, nullptr, 0,
                                         WICBitmapPaletteTypeCustom)) &&
            SUCCEEDED(factory->CreateStream(stream.put())) &&
            SUCCEEDED(stream->InitializeFromFilename(path.c_str(), GENERIC_WRITE)) &&
@@ -45,11 +51,11 @@ bool writePng(const std::wstring& path, const vela::PixelView& picture)
            SUCCEEDED(encoder->CreateNewFrame(frame.put(), nullptr)) &&
            SUCCEEDED(frame->Initialize(nullptr)) && SUCCEEDED(frame->SetSize(width, height)) &&
            SUCCEEDED(frame->SetPixelFormat(&format)) &&
-           SUCCEEDED(frame->WriteSource(opaque.get(), nullptr)) && SUCCEEDED(frame->Commit()) &&
+           SUCCEEDED(frame->WriteSource(stored.get(), nullptr)) && SUCCEEDED(frame->Commit()) &&
            SUCCEEDED(encoder->Commit());
 }
 
-Picture readPng(const std::wstring& path)
+Picture readPng(const std::wstring& path, PngAlpha alpha)
 {
     const auto factory = makeFactory();
     vela::ComPointer<IWICBitmapDecoder> decoder;
@@ -63,8 +69,8 @@ Picture readPng(const std::wstring& path)
                                                   WICDecodeMetadataCacheOnDemand, decoder.put())) ||
         FAILED(decoder->GetFrame(0, frame.put())) || FAILED(frame->GetSize(&width, &height)) ||
         FAILED(factory->CreateFormatConverter(converter.put())) ||
-        FAILED(converter->Initialize(frame.get(), GUID_WICPixelFormat32bppBGR, WICBitmapDitherTypeNone,
-                                     nullptr, 0, WICBitmapPaletteTypeCustom)))
+        FAILED(converter->Initialize(frame.get(), pixelFormat(alpha), WICBitmapDitherTypeNone, nullptr, 0,
+                                     WICBitmapPaletteTypeCustom)))
         return picture;
     std::vector<vela::Pixel> pixels(static_cast<std::size_t>(width) * height);
     if (FAILED(converter->CopyPixels(nullptr, width * 4, static_cast<UINT>(pixels.size() * 4),
