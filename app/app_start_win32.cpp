@@ -78,6 +78,8 @@ WindowsError WindowsEffects::startHidden(const std::wstring& commandLine, const 
 WindowsError WindowsEffects::startVisible(const std::wstring& program, const std::wstring& folder)
 {
     constexpr INT_PTR kLargestError = 32;
+    // This process has the foreground, from the notice just closed; the application may take it.
+    ::AllowSetForegroundWindow(ASFW_ANY);
     const PlainErrorMode errorMode;
     const auto answer = reinterpret_cast<INT_PTR>(
         ::ShellExecuteW(nullptr, L"open", program.c_str(), nullptr, folder.c_str(), SW_SHOWNORMAL));

@@ -1,10 +1,36 @@
 #include "app/interactive_win32.h"
 
-#include "app/exit_code.h"
+#include "app/dialogs/choice_dialog.h"
+#include "app/dialogs/progress_run.h"
+#include "app/dialogs/setup_styles.h"
 
 namespace setup {
+namespace {
 
-// The setup has no windows yet: it ends as if the user had closed the first one.
-int runInteractiveSetup(SetupEffects&) { return kExitSuccess; }
+class WindowScreens final : public SetupScreens {
+public:
+    explicit WindowScreens(DialogHost host) : host_(std::move(host)) {}
+
+    SetupChoice showSetupChoice(const ChoiceState& state) override
+    {
+        return setup::showSetupChoice(host_, state);
+    }
+    SetupActionResult runWithProgress(std::wstring_view title, std::wstring_view body,
+                                      const SetupTask& task) override
+    {
+        return setup::runWithProgress(host_, title, body, task);
+    }
+
+private:
+    DialogHost host_;
+};
+
+} // namespace
+
+int runInteractiveSetup(HINSTANCE module, SetupEffects& effects)
+{
+    WindowScreens screens({module, setupStyles(effects)});
+    return runInteractiveFlow(effects, screens);
+}
 
 } // namespace setup

@@ -28,11 +28,11 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int)
             showAlreadyRunning(effects);
         return kExitSuccess;
     }
+    const RunMode mode = runModeOf(commandLine);
+    // Its user decides what the options would say, so the machine is not asked twice before the first window.
+    if (mode == RunMode::Interactive)
+        return runInteractiveSetup(instance, effects);
     const RunOptions options = readRunOptions(commandLine, effects);
-    switch (runModeOf(commandLine)) {
-    case RunMode::Install: return runSilentInstall(effects, options);
-    case RunMode::Uninstall: return runSilentUninstall(effects, options.quiet);
-    case RunMode::Interactive: break;
-    }
-    return runInteractiveSetup(effects);
+    return mode == RunMode::Install ? runSilentInstall(effects, options)
+                                    : runSilentUninstall(effects, options.quiet);
 }

@@ -2,6 +2,8 @@
 
 #include "app/identity.h"
 
+#include "vela/text.h"
+
 namespace setup {
 namespace {
 
@@ -41,6 +43,15 @@ std::wstring parentFolder(std::wstring_view path)
     if (!folder.empty() && folder.back() == L':')
         folder = path.substr(0, separator + 1);
     return folder.size() < path.size() ? std::wstring(folder) : std::wstring();
+}
+
+std::wstring pickedInstallFolder(std::wstring_view folder)
+{
+    while (!folder.empty() && isSeparator(folder.back()))
+        folder.remove_suffix(1);
+    const std::wstring_view lastName = folder.substr(folder.find_last_of(kSeparators) + 1);
+    return vela::equalsIgnoringAsciiCase(lastName, kProductName) ? std::wstring(folder)
+                                                                 : joinPath(folder, kProductName);
 }
 
 std::wstring extendedPath(std::wstring_view fullPath)

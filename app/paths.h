@@ -17,6 +17,10 @@ std::wstring joinPath(std::wstring_view folder, std::wstring_view name);
 // The folder that holds `path`; a drive root keeps its backslash, and a root or a bare name has none.
 std::wstring parentFolder(std::wstring_view path);
 
+// The folder to install into when the user picked `folder`: the product's own folder, in there unless it is
+// the one already.
+std::wstring pickedInstallFolder(std::wstring_view folder);
+
 // The form of a full path that Windows takes at any length. Such a path must already be free of "." and ".."
 // and of forward slashes, because Windows no longer looks for them in it.
 std::wstring extendedPath(std::wstring_view fullPath);

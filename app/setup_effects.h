@@ -109,6 +109,7 @@ public:
 
     // The process and its surroundings.
     virtual std::uint32_t ownProcessId() = 0;
+    virtual std::wstring programFolder() = 0; // empty when Windows does not tell
     virtual std::wstring tempFolder() = 0;
     virtual std::wstring knownFolder(KnownFolder folder) = 0;          // empty when Windows gives none
     virtual std::wstring environmentVariable(const wchar_t* name) = 0; // empty when unset
@@ -120,6 +121,7 @@ public:
     virtual RelatedProduct relatedProduct(std::uint32_t index) = 0;
     virtual PackageOutcome extractPackage(const std::wstring& target) = 0;
     virtual PinOutcome pinPackage(const std::wstring& path) = 0;
+    virtual WindowsError writeSkins(const std::wstring& target) = 0; // the embedded document, over any file
     virtual InstallerExit runInstaller(const std::wstring& parameters) = 0; // returns when it has ended
 
     // What follows a successful install.

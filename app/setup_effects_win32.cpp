@@ -1,6 +1,10 @@
 #include "app/setup_effects_win32.h"
 
+#include "app/dialogs/notice_dialog.h"
+#include "app/dialogs/setup_styles.h"
 #include "app/files_win32.h"
+#include "app/paths.h"
+#include "app/process_win32.h"
 #include "app/setup_runs.h"
 
 namespace setup {
@@ -28,6 +32,8 @@ std::wstring timeStamp()
 
 std::uint32_t WindowsEffects::ownProcessId() { return ::GetCurrentProcessId(); }
 
+std::wstring WindowsEffects::programFolder() { return parentFolder(programPath()); }
+
 std::wstring WindowsEffects::environmentVariable(const wchar_t* name)
 {
     const DWORD size = ::GetEnvironmentVariableW(name, nullptr, 0);
@@ -48,7 +54,9 @@ void WindowsEffects::writeLogLine(const std::wstring& line)
     ::WriteFile(log_.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
 }
 
-// The setup has no windows yet: a run goes on as if the notice had been read and closed.
-void WindowsEffects::showNotice(const Notice&) {}
+void WindowsEffects::showNotice(const Notice& notice)
+{
+    setup::showNotice({module_, setupStyles(*this)}, notice);
+}
 
 } // namespace setup

@@ -1,5 +1,5 @@
 // The setup's effects on a real machine, used by one thread at a time. Each group of them has a file of its
-// own: files, package, installer, shell, app_start, running_process.
+// own: files, resources, installer, shell, app_start, running_process.
 #pragma once
 
 #include "app/setup_effects.h"
@@ -14,6 +14,7 @@ public:
     explicit WindowsEffects(HMODULE module) noexcept : module_(module) {}
 
     std::uint32_t ownProcessId() override;
+    std::wstring programFolder() override;
     std::wstring tempFolder() override;
     std::wstring knownFolder(KnownFolder folder) override;
     std::wstring environmentVariable(const wchar_t* name) override;
@@ -24,6 +25,7 @@ public:
     RelatedProduct relatedProduct(std::uint32_t index) override;
     PackageOutcome extractPackage(const std::wstring& target) override;
     PinOutcome pinPackage(const std::wstring& path) override;
+    WindowsError writeSkins(const std::wstring& target) override;
     InstallerExit runInstaller(const std::wstring& parameters) override;
 
     WindowsError createFolders(const std::wstring& folder) override;

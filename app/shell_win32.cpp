@@ -14,13 +14,6 @@
 namespace setup {
 namespace {
 
-struct TaskMemoryTraits {
-    using Handle = wchar_t*;
-    static Handle empty() noexcept { return nullptr; }
-    static void close(Handle memory) noexcept { ::CoTaskMemFree(memory); }
-};
-using OwnedTaskText = vela::Owned<TaskMemoryTraits>;
-
 struct FolderId {
     KnownFolder folder;
     const KNOWNFOLDERID& id;
@@ -70,7 +63,7 @@ std::wstring WindowsEffects::knownFolder(KnownFolder folder)
     for (const FolderId& row : kFolderIds) {
         if (row.folder != folder)
             continue;
-        OwnedTaskText path;
+        vela::OwnedTaskText path;
         const HRESULT result = ::SHGetKnownFolderPath(row.id, 0, nullptr, path.put());
         return SUCCEEDED(result) && path ? std::wstring(path.get()) : std::wstring();
     }

@@ -2,6 +2,7 @@
 
 #include "app/exit_code.h"
 #include "app/installed_app.h"
+#include "app/result_notice.h"
 #include "app/running_app.h"
 
 namespace setup {
@@ -9,21 +10,8 @@ namespace {
 
 constexpr std::uint32_t kWaitPidMilliseconds = 8000;
 
-struct ResultTexts {
-    std::wstring_view successTitle;
-    std::wstring_view failureTitle;
-    std::wstring_view successText;
-};
-
-constexpr ResultTexts kInstallTexts{L"Nainstalovano", L"Instalace selhala", L"Tamber byl nainstalovan."};
-constexpr ResultTexts kUninstallTexts{L"Odinstalovano", L"Odinstalace selhala",
-                                      L"Tamber byl odebran pres Windows Installer."};
-
-void showResult(SetupEffects& effects, const SetupActionResult& result, const ResultTexts& texts)
-{
-    effects.showNotice({result.success ? texts.successTitle : texts.failureTitle,
-                        composeResultText(result, texts.successText), !result.success});
-}
+constexpr ResultTexts kInstallTexts{kInstalledTitle, kInstallFailedTitle, L"Tamber byl nainstalovan."};
+constexpr ResultTexts kUninstallTexts{kUninstalledTitle, kUninstallFailedTitle, kUninstalledText};
 
 } // namespace
 
@@ -32,7 +20,7 @@ int runSilentInstall(SetupEffects& effects, const RunOptions& options)
     waitForProcessExit(effects, processIdFrom(options.waitPidText), kWaitPidMilliseconds);
     const SetupActionResult result = resultOf([&] { return runInstall(effects, options.install); });
     if (!options.quiet)
-        showResult(effects, result, kInstallTexts);
+        effects.showNotice(resultNotice(result, kInstallTexts));
     if (!result.success)
         return kExitInstallFailed;
     const bool started = !options.restartApp || launchInstalledApp(effects, options.install.installDir);
@@ -43,7 +31,7 @@ int runSilentUninstall(SetupEffects& effects, bool quiet)
 {
     const SetupActionResult result = resultOf([&] { return runUninstall(effects); });
     if (!quiet)
-        showResult(effects, result, kUninstallTexts);
+        effects.showNotice(resultNotice(result, kUninstallTexts));
     return result.success ? kExitSuccess : kExitUninstallFailed;
 }
 

@@ -1,9 +1,11 @@
-// A counted reference to a COM object.
+// Owners of what COM hands out: counted references to objects, and text.
 #pragma once
+
+#include "vela/owned_win32.h"
 
 #include <utility>
 
-#include <unknwn.h>
+#include <objbase.h>
 
 namespace vela {
 
@@ -53,5 +55,13 @@ public:
 private:
     Interface* object_ = nullptr;
 };
+
+// Text that COM or the shell allocated for its caller.
+struct TaskMemoryTraits {
+    using Handle = wchar_t*;
+    static Handle empty() noexcept { return nullptr; }
+    static void close(Handle memory) noexcept { ::CoTaskMemFree(memory); }
+};
+using OwnedTaskText = Owned<TaskMemoryTraits>;
 
 } // namespace vela

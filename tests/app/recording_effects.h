@@ -35,6 +35,7 @@ public:
     std::vector<ShellLink> links;
 
     std::uint32_t ownProcessId() override { return 4242; }
+    std::wstring programFolder() override { return L"C:\\Downloads"; }
     std::wstring tempFolder() override { return L"C:\\Temp\\"; }
     std::wstring knownFolder(KnownFolder folder) override { return folders[folder]; }
     std::wstring environmentVariable(const wchar_t* name) override
@@ -69,6 +70,7 @@ public:
         const WindowsError error = call(L"pin ", path);
         return {error == kNoError ? std::make_unique<Pin>(*this) : nullptr, error};
     }
+    WindowsError writeSkins(const std::wstring& target) override { return call(L"skins ", target); }
     InstallerExit runInstaller(const std::wstring& parameters) override
     {
         const WindowsError code = call(L"msiexec ", parameters);

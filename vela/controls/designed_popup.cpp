@@ -1,5 +1,6 @@
 #include "vela/controls/designed_popup.h"
 
+#include "vela/controls/text_services.h"
 #include "vela/render/mark_painter.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
@@ -124,6 +125,19 @@ void DesignedPopup::setActions(std::vector<PopupAction> actions)
 
 void DesignedPopup::setClosable(bool closable) { close_->setVisible(closable); }
 
+void DesignedPopup::setContentColumn(std::int32_t left, std::int32_t right)
+{
+    column_ = {left, right};
+    placeChildren();
+    invalidate(InvalidationReason::State);
+}
+
+std::int32_t DesignedPopup::missingHeight() const
+{
+    const Rect room = messageRect();
+    return std::max(measureText(message_, style_.messageText, dpi(), room.width) - room.height, 0);
+}
+
 void DesignedPopup::setOpen(bool open)
 {
     open_ = open;
@@ -137,7 +151,7 @@ void DesignedPopup::placeChildren()
     const Size close{scaled(kCloseButton.width), scaled(kCloseButton.height)};
     close_->setBounds({bounds().width - scaled(kCloseMargin) - close.width, scaled(kCloseMargin), close.width,
                        close.height});
-    std::int32_t right = bounds().width - style_.paddingX;
+    std::int32_t right = contentRight();
     const std::int32_t top = bounds().height - style_.paddingY - style_.actionHeight;
     for (auto button = buttons_.rbegin(); button != buttons_.rend(); ++button) {
         (*button)->setMinimumSize({0, 0});
@@ -147,20 +161,32 @@ void DesignedPopup::placeChildren()
     }
 }
 
+std::int32_t DesignedPopup::contentLeft() const noexcept
+{
+    return column_ ? scaled(column_->left) : style_.paddingX;
+}
+
+std::int32_t DesignedPopup::contentRight() const noexcept
+{
+    return bounds().width - (column_ ? scaled(column_->right) : style_.paddingX);
+}
+
 Rect DesignedPopup::iconRect() const noexcept
 {
-    return {style_.paddingX, (style_.headerHeight - style_.iconSize) / 2, style_.iconSize, style_.iconSize};
+    const std::int32_t left = column_ ? (contentLeft() - style_.iconSize) / 2 : style_.paddingX;
+    return {left, (style_.headerHeight - style_.iconSize) / 2, style_.iconSize, style_.iconSize};
 }
 
 std::int32_t DesignedPopup::titleLeft() const noexcept
 {
-    return glyph_.empty() ? style_.paddingX : style_.paddingX + style_.iconSize + scaled(kTitleGap);
+    const bool behindIcon = !column_ && !glyph_.empty();
+    return behindIcon ? style_.paddingX + style_.iconSize + scaled(kTitleGap) : contentLeft();
 }
 
 Rect DesignedPopup::messageRect() const noexcept
 {
     const std::int32_t below = buttons_.empty() ? 0 : style_.actionHeight + style_.paddingY;
-    return {style_.paddingX, style_.headerHeight, std::max(bounds().width - 2 * style_.paddingX, 0),
+    return {contentLeft(), style_.headerHeight, std::max(contentRight() - contentLeft(), 0),
             std::max(bounds().height - style_.headerHeight - style_.paddingY - below, 0)};
 }
 
@@ -182,8 +208,7 @@ void DesignedPopup::paint(HDC dc, Point origin)
         else
             drawText(dc, icon, glyph_, style_.iconText, dpi(), {.align = TextAlign::Center});
     }
-    const std::int32_t titleRight =
-        close_->isVisible() ? close_->bounds().x : bounds().width - style_.paddingX;
+    const std::int32_t titleRight = close_->isVisible() ? close_->bounds().x : contentRight();
     const Rect title{titleLeft(), 0, std::max(titleRight - titleLeft(), 0), style_.headerHeight};
     drawText(dc, movedBy(title, at), title_, style_.titleText, dpi());
     drawText(dc, movedBy(messageRect(), at), message_, style_.messageText, dpi(), {.wrap = TextWrap::Words});
@@ -191,8 +216,31 @@ void DesignedPopup::paint(HDC dc, Point origin)
         child->paint(dc, at);
 }
 
-// Arrow keys go along the row of actions and stop at its ends.
 bool DesignedPopup::keyPressed(const KeyEvent& event)
+{
+    constexpr KeyModifiers kControl{.control = true};
+    if (event.key != L'C' || event.modifiers != kControl)
+        return moveAlongActions(event);
+    if (TextServices* const services = window() ? window()->textServices() : nullptr)
+        services->setClipboardText(copiedText());
+    return true;
+}
+
+// As the system's message boxes are copied: parts between lines of hyphens, the actions on one line.
+std::wstring DesignedPopup::copiedText() const
+{
+    const std::wstring line = L"---------------------------\r\n";
+    std::wstring text = line + title_ + L"\r\n" + line;
+    for (const wchar_t c : message_)
+        c == L'\n' ? text += L"\r\n" : text += c;
+    text += L"\r\n" + line;
+    for (const PopupAction& action : actions_)
+        text += action.label + L"   ";
+    return actions_.empty() ? text : text + L"\r\n" + line;
+}
+
+// To the ends of the row and no further.
+bool DesignedPopup::moveAlongActions(const KeyEvent& event)
 {
     const bool back = event.key == kKeyLeft || event.key == kKeyUp;
     const bool forth = event.key == kKeyRight || event.key == kKeyDown;

@@ -7,6 +7,7 @@
 #include "vela/controls/themed_button.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace vela {
@@ -30,6 +31,7 @@ public:
     const BitmapSkin* attachedImage() const override;
     void paint(HDC dc, Point origin) override;
     void setHot(bool) override {} // its buttons are hot, never itself
+    // Arrow keys go along the actions; Ctrl+C copies title, message and actions as text.
     bool keyPressed(const KeyEvent& event) override;
     void onBoundsChanged() override { placeChildren(); }
     AccessibleInfo accessibleInfo() const override;
@@ -45,6 +47,12 @@ public:
     // first when none is.
     void setActions(std::vector<PopupAction> actions);
     void setClosable(bool closable);
+    // Where title, message and actions begin and end, from the popup's left and right side in 96-DPI pixels,
+    // for popups on which other controls stand in the same column. The icon takes the middle of the room
+    // before it. Without it all of them keep the style's padding, and the icon stands before the title.
+    void setContentColumn(std::int32_t left, std::int32_t right);
+    // By how many pixels the popup must grow for its whole message to be seen; 0 when it is.
+    std::int32_t missingHeight() const;
     void setOpen(bool open);
     bool isOpen() const noexcept { return open_; }
 
@@ -52,9 +60,18 @@ public:
     ThemedButton& actionButton(std::size_t index) noexcept { return *buttons_[index]; }
 
 private:
+    struct ContentColumn {
+        std::int32_t left;
+        std::int32_t right;
+    };
+
     void placeChildren();
     void styleButtons();
     void setPart(std::wstring& part, std::wstring text);
+    std::int32_t contentLeft() const noexcept;
+    std::int32_t contentRight() const noexcept;
+    std::wstring copiedText() const;
+    bool moveAlongActions(const KeyEvent& event);
     std::int32_t titleLeft() const noexcept;
     Rect iconRect() const noexcept;
     Rect messageRect() const noexcept;
@@ -63,6 +80,7 @@ private:
     std::wstring glyph_;
     std::wstring message_;
     std::vector<PopupAction> actions_;
+    std::optional<ContentColumn> column_;
     bool open_ = true;
     PopupStyle designStyle_; // at 96 DPI, as the buttons take it
     PopupStyle style_;

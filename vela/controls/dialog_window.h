@@ -24,6 +24,8 @@ public:
     void endModal(int result);
 
 protected:
+    // Once runModal has brought the window up.
+    virtual void onShown() {}
     void onDestroyed() override;
 
 private:

@@ -55,6 +55,7 @@ int DialogWindow::runModal(HWND owner)
         ::ShowWindow(handle(), SW_SHOWNORMAL);
         layoutTree();
         ::UpdateWindow(handle());
+        onShown();
     }
     runLoop();
     return result_;

@@ -1,4 +1,5 @@
-// The application's installer package: a resource of this program, written to a file for the installer.
+// What this program carries as resources, written to files: the application's installer package and the
+// skins.
 #include "app/setup_effects_win32.h"
 
 #include "app/files_win32.h"
@@ -13,9 +14,10 @@ namespace setup {
 namespace {
 
 constexpr WORD kPackageResource = 3001;
+constexpr WORD kSkinsResource = 3002;
 
-// Straight from the mapped program: the package is never copied in memory.
-struct EmbeddedPackage {
+// Straight from the mapped program: a resource is never copied in memory.
+struct EmbeddedFile {
     std::span<const std::byte> bytes;
     PackageOutcome outcome;
 };
@@ -27,10 +29,10 @@ WindowsError lastErrorOr(WindowsError fallback) noexcept
     return error != kNoError ? error : fallback;
 }
 
-EmbeddedPackage findPackage(HMODULE module) noexcept
+EmbeddedFile findResource(HMODULE module, WORD id) noexcept
 {
     ::SetLastError(kNoError);
-    const HRSRC resource = ::FindResourceW(module, MAKEINTRESOURCEW(kPackageResource), RT_RCDATA);
+    const HRSRC resource = ::FindResourceW(module, MAKEINTRESOURCEW(id), RT_RCDATA);
     if (!resource)
         return {{}, {PackageFault::Absent, lastErrorOr(ERROR_RESOURCE_NAME_NOT_FOUND)}};
     const HGLOBAL loaded = ::LoadResource(module, resource);
@@ -39,6 +41,22 @@ EmbeddedPackage findPackage(HMODULE module) noexcept
     if (!data || size == 0)
         return {{}, {PackageFault::Unreadable, lastErrorOr(ERROR_INVALID_DATA)}};
     return {{static_cast<const std::byte*>(data), size}, {}};
+}
+
+// In one write, over whatever is there.
+PackageOutcome writeWhole(std::span<const std::byte> bytes, const std::wstring& target, DWORD attributes)
+{
+    const vela::OwnedFile file(::CreateFileW(reachablePath(target).c_str(), GENERIC_WRITE, 0, nullptr,
+                                             CREATE_ALWAYS, attributes, nullptr));
+    if (!file)
+        return {PackageFault::NotCreated, ::GetLastError()};
+    const auto size = static_cast<DWORD>(bytes.size());
+    DWORD written = 0;
+    if (!::WriteFile(file.get(), bytes.data(), size, &written, nullptr))
+        return {PackageFault::NotWritten, ::GetLastError()};
+    if (written != size)
+        return {PackageFault::NotWritten, ERROR_DISK_FULL};
+    return {};
 }
 
 // Chunk by chunk, so that comparing costs no memory to speak of.
@@ -75,25 +93,23 @@ private:
 
 PackageOutcome WindowsEffects::extractPackage(const std::wstring& target)
 {
-    const EmbeddedPackage package = findPackage(module_);
+    const EmbeddedFile package = findResource(module_, kPackageResource);
     if (package.outcome.fault != PackageFault::None)
         return package.outcome;
-    const vela::OwnedFile file(::CreateFileW(reachablePath(target).c_str(), GENERIC_WRITE, 0, nullptr,
-                                             CREATE_ALWAYS, FILE_ATTRIBUTE_TEMPORARY, nullptr));
-    if (!file)
-        return {PackageFault::NotCreated, ::GetLastError()};
-    const auto size = static_cast<DWORD>(package.bytes.size());
-    DWORD written = 0;
-    if (!::WriteFile(file.get(), package.bytes.data(), size, &written, nullptr))
-        return {PackageFault::NotWritten, ::GetLastError()};
-    if (written != size)
-        return {PackageFault::NotWritten, ERROR_DISK_FULL};
-    return {};
+    return writeWhole(package.bytes, target, FILE_ATTRIBUTE_TEMPORARY);
+}
+
+WindowsError WindowsEffects::writeSkins(const std::wstring& target)
+{
+    const EmbeddedFile skins = findResource(module_, kSkinsResource);
+    return skins.outcome.fault != PackageFault::None
+               ? skins.outcome.error
+               : writeWhole(skins.bytes, target, FILE_ATTRIBUTE_NORMAL).error;
 }
 
 PinOutcome WindowsEffects::pinPackage(const std::wstring& path)
 {
-    const EmbeddedPackage package = findPackage(module_);
+    const EmbeddedFile package = findResource(module_, kPackageResource);
     vela::OwnedFile file(::CreateFileW(reachablePath(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
                                        OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!file)

@@ -1,0 +1,69 @@
+#include "app/dialogs/setup_dialog.h"
+
+#include "app/window_title.h"
+
+#include "vela/theme/style_sheet.h"
+
+#include <windows.h>
+
+namespace setup {
+
+using vela::CaptionButton;
+using vela::ChromeTitleBar;
+using vela::CommandEvent;
+
+ChromeTitleBar& applySetupChrome(vela::Window& window, const vela::StyleSheet& styles, std::int32_t width,
+                                 std::wstring_view title, bool closable, bool minimizable)
+{
+    const auto& style = styles.find<vela::ChromeTitleBarStyle>(vela::kDefaultVariant);
+    const std::int32_t height = 2 * style.buttonTop + style.buttonHeight;
+    auto& bar = window.root().addControl(std::make_unique<ChromeTitleBar>(
+        L"setup.chrome", vela::Rect{0, 0, width, height}, setupTitle(title), vela::Theme()));
+    bar.showButton(CaptionButton::Minimize, minimizable);
+    if (!closable) {
+        bar.button(CaptionButton::Close).setEnabled(false);
+        bar.button(CaptionButton::Close).setHint(L"Instalace prave probiha");
+    }
+    window.subscribe({}, [&window](CommandEvent& event) {
+        event.handled = event.handled || window.performChromeAction(event.action);
+    });
+    return bar;
+}
+
+SetupDialog::SetupDialog(DialogHost host, const Design& design, std::wstring_view title)
+    : host_(std::move(host)), size_(design.size), title_(setupTitle(title)), minimizable_(design.minimizable)
+{
+    setCustomFrame(true);
+    setShrinkToFit(true);
+    const auto styles = host_.styles();
+    titleBar_ = &applySetupChrome(*this, *styles, size_.width, title, design.closable, design.minimizable);
+    const std::int32_t top = titleBar_->bounds().height;
+    popup_ = &root().addControl(std::make_unique<vela::DesignedPopup>(
+        std::wstring(design.popupId), vela::Rect{0, top, size_.width, size_.height - top}));
+    popup_->setClosable(false); // the title bar closes the window
+    popup_->setContentColumn(design.columnLeft, design.columnRight);
+}
+
+SetupDialog::~SetupDialog() { destroy(); }
+
+void SetupDialog::finish(vela::Control* focus)
+{
+    setStyleSource(host_.styles);
+    focusControl(focus);
+}
+
+void SetupDialog::growBy(std::int32_t height)
+{
+    size_.height += height;
+    vela::Rect bounds = popup_->bounds();
+    bounds.height += height;
+    popup_->setBounds(bounds);
+}
+
+bool SetupDialog::open()
+{
+    const DWORD style = WS_POPUP | WS_SYSMENU | (minimizable_ ? WS_MINIMIZEBOX : 0U);
+    return create(host_.module, title_, size_, {style, WS_EX_APPWINDOW}, host_.owner);
+}
+
+} // namespace setup

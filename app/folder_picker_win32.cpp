@@ -1,0 +1,66 @@
+#include "app/folder_picker.h"
+
+#include "app/paths.h"
+
+#include "vela/com_apartment_win32.h"
+#include "vela/com_pointer_win32.h"
+
+#include <shobjidl.h>
+
+namespace setup {
+namespace {
+
+using vela::ComPointer;
+
+ComPointer<IShellItem> shellItem(const std::wstring& path)
+{
+    ComPointer<IShellItem> item;
+    ::SHCreateItemFromParsingName(path.c_str(), nullptr, IID_IShellItem, item.putVoid());
+    return item;
+}
+
+std::optional<std::wstring> filePath(IShellItem& item)
+{
+    vela::OwnedTaskText path;
+    if (FAILED(item.GetDisplayName(SIGDN_FILESYSPATH, path.put())) || !path)
+        return std::nullopt;
+    return path.get();
+}
+
+HRESULT prepare(IFileOpenDialog& dialog, const std::wstring& current)
+{
+    FILEOPENDIALOGOPTIONS options = 0;
+    HRESULT result = dialog.GetOptions(&options);
+    if (SUCCEEDED(result))
+        result = dialog.SetOptions(options | FOS_PICKFOLDERS | FOS_FORCEFILESYSTEM);
+    if (SUCCEEDED(result))
+        result = dialog.SetTitle(L"Vyber instalacni slozku Tambere");
+    // A folder that is not there yet is no reason to fail: the dialog then opens where it last was.
+    const ComPointer<IShellItem> folder = current.empty() ? ComPointer<IShellItem>() : shellItem(current);
+    if (SUCCEEDED(result) && folder)
+        dialog.SetFolder(folder.get());
+    return result;
+}
+
+} // namespace
+
+std::optional<std::wstring> pickInstallFolder(HWND owner, const std::wstring& current)
+{
+    const vela::ComApartment apartment;
+    ComPointer<IFileOpenDialog> dialog;
+    HRESULT result = apartment.result();
+    if (SUCCEEDED(result))
+        result = ::CoCreateInstance(CLSID_FileOpenDialog, nullptr, CLSCTX_INPROC_SERVER, IID_IFileOpenDialog,
+                                    dialog.putVoid());
+    if (SUCCEEDED(result))
+        result = prepare(*dialog.get(), current);
+    if (SUCCEEDED(result))
+        result = dialog->Show(owner);
+    ComPointer<IShellItem> chosen;
+    if (SUCCEEDED(result))
+        result = dialog->GetResult(chosen.put());
+    const std::optional<std::wstring> folder = SUCCEEDED(result) ? filePath(*chosen.get()) : std::nullopt;
+    return folder ? std::optional(pickedInstallFolder(*folder)) : std::nullopt;
+}
+
+} // namespace setup
