@@ -54,6 +54,21 @@ TEST(Paths, AreJoinedAndTakenApart)
     EXPECT_EQ(extendedPath(L"\\\\?\\C:\\a"), L"\\\\?\\C:\\a");
 }
 
+TEST(Paths, APickedFolderGetsTheProductsOwnFolderInIt)
+{
+    const Pair rows[] = {
+        {L"D:\\Apps", L"D:\\Apps\\Tamber"},
+        {L"D:\\Apps\\", L"D:\\Apps\\Tamber"},
+        {L"D:\\Apps\\tamBER", L"D:\\Apps\\tamBER"},
+        {L"D:\\Tamber\\", L"D:\\Tamber"},
+        {L"D:\\Tamber old", L"D:\\Tamber old\\Tamber"},
+        {L"E:\\", L"E:\\Tamber"},
+        {L"\\\\server\\share", L"\\\\server\\share\\Tamber"},
+    };
+    for (const Pair& row : rows)
+        EXPECT_EQ(pickedInstallFolder(row.from), row.to);
+}
+
 TEST(InstallerCommand, QuotesEveryArgumentAndEscapesQuotes)
 {
     EXPECT_EQ(quoteArgument(L""), L"\"\"");
