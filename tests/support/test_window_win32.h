@@ -47,6 +47,19 @@ inline void drainMessages(DWORD settleMilliseconds = 30)
     } while (::GetTickCount64() < end);
 }
 
+// Messages until the condition holds; false when it does not within that time.
+template <typename Condition>
+bool drainUntil(DWORD milliseconds, Condition&& holds)
+{
+    const ULONGLONG end = ::GetTickCount64() + milliseconds;
+    while (!holds()) {
+        if (::GetTickCount64() >= end)
+            return false;
+        drainMessages(20);
+    }
+    return true;
+}
+
 struct Desktop {
     static Rect workArea()
     {

@@ -114,9 +114,11 @@ TEST(SkinLint, JudgesTheContrastOfTheFinishedSkin)
         R"("styles": {"text_input": {"default": {"text": {"color": "#777777"}, "surface": {"fill": "#808080",
             "gradientStart": "#808080", "gradientEnd": "#808080"}}}})"));
     ASSERT_FALSE(findings.empty());
-    for (const Finding& finding : findings)
+    for (const Finding& finding : findings) {
         EXPECT_NE(finding.message.find("the contrast of textinput.default"), std::string::npos)
             << finding.message;
+        EXPECT_EQ(finding.severity, Severity::Warning); // it is read all the same
+    }
 }
 
 TEST(SkinLint, SuggestsOnlyWhatIsNear)

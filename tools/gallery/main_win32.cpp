@@ -63,7 +63,7 @@ void drawShowcase(const std::vector<vela::SkinDefinition>& skins, const Draw& dr
     }
     camera.aim(showcase::pages().front(), gallery::kDpi);
     for (const auto& [name, modifiers] : kOverlays) {
-        camera.pressDebugKey(modifiers);
+        camera.pressDebugKey({modifiers.begin(), modifiers.size()});
         draw(name, [&](const std::wstring& path) { return camera.shoot(path, skins.front()); });
     }
 }

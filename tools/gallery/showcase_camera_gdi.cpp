@@ -4,7 +4,6 @@
 
 #include "vela/theme/style_sections.h"
 
-
 #include <windows.h>
 
 namespace gallery {
@@ -64,7 +63,7 @@ bool ShowcaseCamera::saveContactSheet(const std::wstring& path) const
     return sheet.save(path);
 }
 
-void ShowcaseCamera::pressDebugKey(std::vector<int> modifiers)
+void ShowcaseCamera::pressDebugKey(std::span<const int> modifiers)
 {
     BYTE keys[256] = {};
     for (const int key : modifiers)

@@ -9,6 +9,7 @@
 #include "vela/theme/skin_document.h"
 
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -29,7 +30,7 @@ public:
     bool saveContactSheet(const std::wstring& path) const;
 
     // Presses F12 with the given modifier keys, as the user does.
-    void pressDebugKey(std::vector<int> modifiers);
+    void pressDebugKey(std::span<const int> modifiers);
 
 private:
     struct Thumbnail {

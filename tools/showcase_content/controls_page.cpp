@@ -295,7 +295,7 @@ void addPopups(Panel& panel, std::int32_t top)
     std::int32_t x = kLeft;
     for (const auto& shown : kPopups) {
         auto popup = std::make_unique<DesignedPopup>(idOf(L"popup", shown.variant, shown.glyph),
-                                                     Rect{x, top, kPopup, 150});
+                                                     Rect{x, top, kPopup, 162});
         popup->setStyleKey(std::wstring(shown.variant));
         popup->setGlyph(std::wstring(shown.glyph));
         popup->setTitle(std::wstring(shown.title));
@@ -325,10 +325,10 @@ void buildControlsPage(Panel& page)
     addLabels(stills, 0);
     addCheckBoxes(stills, 142);
     addProgressBars(stills, 232);
-    addTooltips(stills, 342);
-    addFields(stills, 436);
-    addTitleBars(stills, 628);
-    addPopups(stills, 676);
+    addTooltips(stills, 336);
+    addFields(stills, 426);
+    addTitleBars(stills, 616);
+    addPopups(stills, 664);
 }
 
 } // namespace showcase

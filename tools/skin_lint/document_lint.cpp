@@ -260,7 +260,8 @@ private:
                 values_.report(value, path,
                                "the contrast of " + kindName(check.kind) + "." + toUtf8(check.variant) +
                                    ", " + check.part + ", is " + ratioText(check.reached) + ":1, below " +
-                                   ratioText(check.required) + ":1");
+                                   ratioText(check.required) + ":1",
+                               Severity::Warning);
         }
     }
 

@@ -9,6 +9,7 @@
 
 namespace vela::lint {
 
+// An error is what the program passes over, a warning what it reads but nobody can want.
 enum class Severity : std::uint8_t { Error, Warning };
 
 struct Finding {

@@ -1,0 +1,53 @@
+// Opens the showcase for people who write skins.
+//   showcase [SKIN-ID] [SKIN-FILE.json] [DPI]
+#include "tools/showcase/live_showcase_win32.h"
+
+#include "vela/com_apartment_win32.h"
+#include "vela/render/fonts.h"
+#include "vela/theme/skin_host_win32.h"
+
+#include <cstdio>
+
+#include <windows.h>
+
+namespace {
+
+std::wstring programFolder()
+{
+    std::wstring path(32768, L'\0'); // as long as a path can be
+    path.resize(::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return path.substr(0, path.find_last_of(L'\\'));
+}
+
+int runMessages()
+{
+    MSG message{};
+    while (::GetMessageW(&message, nullptr, 0, 0) > 0) {
+        ::TranslateMessage(&message);
+        ::DispatchMessageW(&message);
+    }
+    return static_cast<int>(message.wParam);
+}
+
+} // namespace
+
+int wmain(int count, wchar_t** words)
+{
+    const std::vector<std::wstring_view> given(words + 1, words + count);
+    const std::optional<showcase::Arguments> arguments = showcase::parseArguments(given);
+    if (!arguments) {
+        std::fputs("showcase [SKIN-ID] [SKIN-FILE.json] [DPI]\n", stderr);
+        return 2;
+    }
+    const vela::ComApartment apartment; // for the pictures that skins name
+    const std::wstring folder = programFolder();
+    const std::wstring skins = folder + L"\\skins";
+    vela::setSkinFolders({skins});
+    vela::setPrivateFontFolder(folder + L"\\fonts");
+    showcase::LiveShowcase live(*arguments, vela::skinCatalog().skins(), skins);
+    if (!live.open()) {
+        std::fputs("the window cannot be opened\n", stderr);
+        return 1;
+    }
+    return runMessages();
+}
