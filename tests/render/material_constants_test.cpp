@@ -152,13 +152,16 @@ TEST(MaterialOverlayCache, RendersOnceAndAMovingLightIntoOnePlace)
 
 TEST(MaterialOverlayCache, TriesAgainAfterARenderingThatFailed)
 {
-    MaterialOverlayCache cache(1);
-    const MaterialConstants constants =
-        materialConstants(carved(MaterialPreset::Metal), kPlace, 0, PerformanceProfile::Full);
-    EXPECT_EQ(cache.ensure(constants, [](const PixelView&) { return false; }).pixels, nullptr);
-    EXPECT_NE(cache.ensure(constants, [](const PixelView&) { return true; }).pixels, nullptr);
-    EXPECT_NE(cache.ensure(constants, [](const PixelView&) { return false; }).pixels, nullptr);
-    EXPECT_EQ(cache.size(), 1u); // larger than the bound, and alone
+    MaterialOverlayCache cache(200 * 100);
+    const auto ask = [&cache](const Rect& rect, bool works) {
+        const SurfaceStyle style = carved(MaterialPreset::Metal);
+        const auto constants = materialConstants(style, rect, 0, PerformanceProfile::Full);
+        return cache.ensure(constants, [works](const PixelView&) { return works; }).pixels != nullptr;
+    };
+    EXPECT_FALSE(ask(kPlace, false));
+    EXPECT_TRUE(ask(kPlace, true));
+    EXPECT_TRUE(ask(kPlace, false));           // kept
+    EXPECT_FALSE(ask({0, 0, 201, 100}, true)); // there is no room for it at all
 }
 
 } // namespace

@@ -14,14 +14,7 @@ using simd::Float4;
 using simd::Int4;
 using simd::UInt4;
 
-// A direction as a linear function of the position: offset + acrossU * u + acrossV * v, u and v from 0 to 1.
-struct Axis {
-    double offset;
-    double acrossU;
-    double acrossV;
-};
-
-constexpr Axis kAxes[] = {
+constexpr GradientAxis kAxes[] = {
     {0, 0, 1},        // Vertical
     {1, 0, -1},       // VerticalUp
     {0, 1, 0},        // Horizontal
@@ -31,12 +24,6 @@ constexpr Axis kAxes[] = {
     {0.5, 0.5, -0.5}, // DiagonalUp
     {0.5, -0.5, 0.5}, // DiagonalUpReverse
 };
-
-const Axis& axisOf(GradientDirection direction) noexcept
-{
-    const auto index = static_cast<std::size_t>(direction);
-    return kAxes[index < std::size(kAxes) ? index : 0];
-}
 
 constexpr bool isReversed(GradientDirection direction) noexcept
 {
@@ -75,7 +62,7 @@ Float4 fourFromMiddle(std::int32_t x, std::int32_t width) noexcept
 }
 
 void fillAlongAxis(const LayerTarget& target, const Coverage& coverage, const ColorRamp& ramp,
-                   const Axis& axis)
+                   const GradientAxis& axis)
 {
     const double alongRow = axis.acrossU * perPixel(coverage.size().width);
     const double alongColumn = axis.acrossV * perPixel(coverage.size().height);
@@ -85,7 +72,8 @@ void fillAlongAxis(const LayerTarget& target, const Coverage& coverage, const Co
 }
 
 // All rows are parts of one.
-void fillAcross(const LayerTarget& target, const Coverage& coverage, const ColorRamp& ramp, const Axis& axis)
+void fillAcross(const LayerTarget& target, const Coverage& coverage, const ColorRamp& ramp,
+                const GradientAxis& axis)
 {
     const Rect visible = target.visible();
     const double step = axis.acrossU * perPixel(coverage.size().width);
@@ -164,10 +152,16 @@ void fillConic(const LayerTarget& target, const Coverage& coverage, const ColorT
 
 } // namespace
 
+const GradientAxis& gradientAxis(GradientDirection direction) noexcept
+{
+    const auto index = static_cast<std::size_t>(direction);
+    return kAxes[index < std::size(kAxes) ? index : 0];
+}
+
 double gradientParameter(GradientKind kind, GradientDirection direction, std::int32_t x, std::int32_t y,
                          std::int32_t width, std::int32_t height) noexcept
 {
-    const Axis& axis = axisOf(direction);
+    const GradientAxis& axis = gradientAxis(direction);
     const double along = std::clamp(
         axis.offset + axis.acrossU * x * perPixel(width) + axis.acrossV * y * perPixel(height), 0.0, 1.0);
     const double dx = fromMiddle(x, width);
@@ -199,7 +193,7 @@ void fillGradient(const LayerTarget& target, const Coverage& coverage, const Sur
         return fillConic(target, coverage, colorTable(ramp, isReversed(style.gradientDirection)));
     default: break;
     }
-    const Axis& axis = axisOf(style.gradientDirection);
+    const GradientAxis& axis = gradientAxis(style.gradientDirection);
     return axis.acrossV == 0 ? fillAcross(target, coverage, ramp, axis)
                              : fillAlongAxis(target, coverage, ramp, axis);
 }

@@ -7,6 +7,15 @@
 
 namespace vela {
 
+// A direction as a linear function of the position: offset + acrossU * u + acrossV * v, u and v from 0 to 1.
+struct GradientAxis {
+    double offset;
+    double acrossU;
+    double acrossV;
+};
+
+const GradientAxis& gradientAxis(GradientDirection direction) noexcept;
+
 // Where the pixel lies along the gradient, 0 to 1. The definition; fillGradient computes it in bulk.
 double gradientParameter(GradientKind kind, GradientDirection direction, std::int32_t x, std::int32_t y,
                          std::int32_t width, std::int32_t height) noexcept;

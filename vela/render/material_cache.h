@@ -13,15 +13,17 @@ namespace vela {
 
 class MaterialOverlayCache {
 public:
-    // The bound counts pixels. An overlay larger than it is kept alone.
-    explicit MaterialOverlayCache(std::size_t mostPixels) : overlays_(mostPixels) {}
+    explicit MaterialOverlayCache(std::size_t mostPixels) : mostPixels_(mostPixels), overlays_(mostPixels) {}
 
     // The whole surface's overlay, rows without gaps: what render(PixelView) wrote when it was first asked
-    // for. It returns false when it could not; then the view is empty and the next call tries again. Valid
-    // until the next call. A moving light is rendered again into the same place whenever its phase is new.
+    // for. It returns false when it could not; then the view is empty and the next call tries again. Empty as
+    // well, and not rendered, for a surface that is larger than all the room. Valid until the next call. A
+    // moving light is rendered again into the same place whenever its phase is new.
     template <typename Render>
     PixelView ensure(const MaterialConstants& constants, Render&& render)
     {
+        if (constants.geometry.x * constants.geometry.y > static_cast<float>(mostPixels_))
+            return {};
         MaterialConstants still = constants;
         const float phase = std::exchange(still.material4.x, 0.0F);
         Overlay& overlay = overlays_.ensure(still, [&constants] { return Overlay(constants); });
@@ -59,6 +61,7 @@ private:
         std::size_t operator()(const Overlay& overlay) const noexcept { return overlay.pixels.size(); }
     };
 
+    std::size_t mostPixels_;
     BoundedCache<MaterialConstants, Overlay, PixelCount> overlays_;
     std::size_t rendered_ = 0;
 };

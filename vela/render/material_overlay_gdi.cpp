@@ -2,10 +2,12 @@
 
 #include "vela/render/coverage.h"
 #include "vela/render/material_clock.h"
+#include "vela/render/material_overlay.h"
 #include "vela/render/performance_win32.h"
 #include "vela/render/pixel_layer_gdi.h"
 #include "vela/render/surface_bitmaps.h"
 #include "vela/render/surface_outline.h"
+#include "vela/render/surface_painter.h"
 
 #include <algorithm>
 
@@ -14,6 +16,30 @@ namespace {
 
 // 40 MB: a window as large as a 4K screen, and some.
 constexpr std::size_t kMostKeptPixels = 10'000'000;
+
+// Lets write(target, coverage) write the visible part of a surface's overlay and lays it over the surface.
+template <typename Write>
+void compositeCut(HDC dc, const Rect& rect, const SurfaceStyle& style, Write&& write)
+{
+    const RunMask* const outline = surfaceOutline(style, sizeOf(rect), surfaceBitmaps(style));
+    const Coverage coverage = outline ? Coverage(*outline) : Coverage(style.shape, sizeOf(rect));
+    renderPixelLayer(dc, rect, [&](const LayerTarget& target) { write(target, coverage); });
+}
+
+void drawInSoftware(HDC dc, const Rect& rect, const SurfaceStyle& style, const MaterialConstants& constants)
+{
+    const PixelView kept = materialOverlays().ensure(constants, [&constants](const PixelView& pixels) {
+        renderMaterialOverlay(constants, {pixels, {}});
+        return true;
+    });
+    if (kept.pixels)
+        return compositeMaterialOverlay(dc, rect, style, kept);
+    // Too large to be kept: only what can be seen is rendered, each time.
+    compositeCut(dc, rect, style, [&constants](const LayerTarget& target, const Coverage& coverage) {
+        renderMaterialOverlay(constants, target);
+        paintCovered(target, coverage, [](Pixel*, Span, std::int32_t) {});
+    });
+}
 
 } // namespace
 
@@ -32,13 +58,27 @@ void compositeMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& styl
 {
     if (!overlay.pixels || overlay.size != sizeOf(rect))
         return;
-    const RunMask* const outline = surfaceOutline(style, overlay.size, surfaceBitmaps(style));
-    const Coverage coverage = outline ? Coverage(*outline) : Coverage(style.shape, overlay.size);
-    renderPixelLayer(dc, rect, [&](const LayerTarget& target) {
+    compositeCut(dc, rect, style, [&overlay](const LayerTarget& target, const Coverage& coverage) {
         paintCovered(target, coverage, [&overlay](Pixel* first, Span run, std::int32_t y) {
             std::copy_n(overlay.row(y) + run.begin, run.length(), first);
         });
     });
+}
+
+void drawSoftwareMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style)
+{
+    drawInSoftware(dc, rect, style, currentMaterialConstants(style, rect));
+}
+
+void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style,
+                                        PerformanceProfile profile)
+{
+    if (!carriesMaterial(style) || !isVisible(dc, rect))
+        return;
+    SurfaceStyle seamless = style;
+    seamless.uvMapping = MappingSpace::Global;
+    const float phase = lightPhase(style, materialTime());
+    drawInSoftware(dc, rect, seamless, materialConstants(seamless, rect, phase, profile));
 }
 
 } // namespace vela

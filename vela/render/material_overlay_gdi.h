@@ -13,6 +13,9 @@ namespace vela {
 // The process's overlays, whoever rendered them.
 MaterialOverlayCache& materialOverlays();
 
+// The overlay in software, rendered only when it is not kept.
+void drawSoftwareMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style);
+
 // The surface's constants at this moment: the light where it is now, the machine as busy as it may be.
 MaterialConstants currentMaterialConstants(const SurfaceStyle& style, const Rect& rect);
 

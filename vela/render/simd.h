@@ -31,6 +31,8 @@ inline Float4 load(const float* from) noexcept
     return four;
 }
 
+inline void store(float* to, Float4 four) noexcept { std::memcpy(to, &four, sizeof four); }
+
 inline Int4 truncated(Float4 value) noexcept { return __builtin_convertvector(value, Int4); }
 inline Float4 toFloat(Int4 value) noexcept { return __builtin_convertvector(value, Float4); }
 

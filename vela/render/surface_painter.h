@@ -19,6 +19,11 @@ void drawSpatialSurfaceShading(HDC dc, const Rect& rect, const SurfaceStyle& sty
 void drawInnerShadow(HDC dc, const Rect& rect, const SurfaceStyle& style);
 void drawNoise(HDC dc, const Rect& rect, const SurfaceStyle& style);
 
+// The material overlay in software, with its texture laid across the window whatever the style says, so that
+// neighbouring surfaces show parts of one.
+void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style,
+                                        PerformanceProfile profile);
+
 // Fill and stroke cover exactly pixels of the shape's mask. The stroke lies inside the rectangle, the pen's
 // width deep.
 void fillShape(HDC dc, const Rect& rect, ShapeKind kind, Color color);

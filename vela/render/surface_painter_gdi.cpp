@@ -2,6 +2,7 @@
 
 #include "vela/render/clip_gdi.h"
 #include "vela/render/layer_parts.h"
+#include "vela/render/material_overlay_gdi.h"
 #include "vela/render/paint_plan.h"
 #include "vela/render/pixel_layer_gdi.h"
 #include "vela/render/surface_bitmaps.h"
@@ -69,8 +70,11 @@ void drawGradientShape(HDC dc, const Rect& rect, const SurfaceStyle& style)
     drawLayer(dc, SurfaceLayer::Gradient, rect, style);
 }
 
-// The place of the materials, on the graphics card and in software. None exist yet.
-void drawMaterialOverlay(HDC, const Rect&, const SurfaceStyle&) {}
+void drawMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style)
+{
+    if (carriesMaterial(style) && isVisible(dc, rect))
+        drawSoftwareMaterialOverlay(dc, rect, style);
+}
 
 void drawSpatialSurfaceShading(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {

@@ -1,0 +1,69 @@
+// The software material overlay in megapixels a second, for every preset as a surface has it by default and
+// for every finish on gloss, beside a plain scalar translation of the same shader. One thread.
+#include "tests/support/material_reference.h"
+#include "vela/render/material_overlay.h"
+
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+using namespace vela;
+
+constexpr Size kDialog{690, 420};
+
+using Render = void (*)(const MaterialConstants&, const LayerTarget&);
+
+MaterialConstants constantsOf(MaterialPreset material, MaterialFinish finish)
+{
+    SurfaceStyle style;
+    style.material = material;
+    style.materialEnabled = true;
+    style.finish = finish;
+    style.materialTint = hexColor(0x4A8F6B);
+    style.backlightOpacity = 140;
+    style.innerGlow = 90;
+    return materialConstants(style, {0, 0, kDialog.width, kDialog.height}, 0.3F, PerformanceProfile::Full);
+}
+
+void measure(benchmark::State& state, Render render, const MaterialConstants& constants)
+{
+    std::vector<Pixel> pixels(static_cast<std::size_t>(kDialog.width * kDialog.height));
+    const LayerTarget target{{pixels.data(), kDialog, kDialog.width}, {}};
+    for (auto round : state) {
+        render(constants, target);
+        benchmark::ClobberMemory();
+    }
+    state.counters["Mpix/s"] =
+        benchmark::Counter(static_cast<double>(state.iterations()) * kDialog.width * kDialog.height / 1e6,
+                           benchmark::Counter::kIsRate);
+}
+
+void add(const std::string& name, MaterialPreset material, MaterialFinish finish)
+{
+    const MaterialConstants constants = constantsOf(material, finish);
+    benchmark::RegisterBenchmark((name + "/vela").c_str(), measure, renderMaterialOverlay, constants)
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark((name + "/scalar").c_str(), measure, renderReferenceMaterial, constants)
+        ->Unit(benchmark::kMillisecond);
+}
+
+const bool registered = [] {
+    const char* const presets[] = {
+        "glass",         "frostedGlass", "gloss",       "metal",          "brushedMetal", "plastic",
+        "rubber",        "paper",        "carbonFiber", "obsidianGlass",  "bloodGloss",   "amberGlass",
+        "luminousGlass", "layeredGlass", "gemstone",    "obsidianRelief", "stoneGranite", "stoneMarble"};
+    const char* const finishes[] = {"polished", "brushed",  "satin",  "matte",   "rough",
+                                    "cracked",  "hammered", "etched", "frosted", "wetGloss"};
+    int number = 0;
+    for (const char* const preset : presets)
+        add(preset, static_cast<MaterialPreset>(++number), MaterialFinish::Default);
+    number = 0;
+    for (const char* const finish : finishes)
+        add(std::string("gloss-") + finish, MaterialPreset::Gloss, static_cast<MaterialFinish>(++number));
+    return true;
+}();
+
+} // namespace
