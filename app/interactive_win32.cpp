@@ -3,6 +3,7 @@
 #include "app/dialogs/choice_dialog.h"
 #include "app/dialogs/progress_run.h"
 #include "app/dialogs/setup_styles.h"
+#include "app/worker_thread_win32.h"
 
 namespace setup {
 namespace {
@@ -25,11 +26,24 @@ private:
     DialogHost host_;
 };
 
+// The first question to the installer loads its library, with a dozen more behind it.
+void askAhead(SetupEffects& effects) noexcept
+{
+    try {
+        effects.relatedProduct(0);
+    } catch (...) { // out of memory: the question is asked again where its answer counts
+    }
+}
+
 } // namespace
 
 int runInteractiveSetup(HINSTANCE module, SetupEffects& effects)
 {
-    WindowScreens screens({module, setupStyles(effects)});
+    // Answered while the skins are read. Until then this thread asks the effects for files and folders only.
+    const WorkerThread ahead([&effects] { askAhead(effects); });
+    const DialogHost host{module, setupStyles(effects)};
+    host.styles();
+    WindowScreens screens(host);
     return runInteractiveFlow(effects, screens);
 }
 

@@ -1,13 +1,10 @@
 #include "app/dialogs/progress_run.h"
 
 #include "app/dialogs/progress_dialog.h"
-
-#include "vela/owned_win32.h"
+#include "app/worker_thread_win32.h"
 
 #include <atomic>
 #include <optional>
-
-#include <process.h>
 
 namespace setup {
 namespace {
@@ -15,8 +12,8 @@ namespace {
 constexpr UINT_PTR kProgressTimer = 4101;
 constexpr UINT kProgressPeriod = 180; // milliseconds
 
-// What the two threads share. The worker writes the result, then sets the flag; whoever reads the flag set may
-// read the result. The window's handle is only posted to.
+// What the two threads share. The worker writes the result, then sets the flag; whoever reads the flag set
+// may read the result. The window's handle is only posted to.
 struct HandOver {
     const SetupTask& task;
     HWND window = nullptr;
@@ -24,21 +21,12 @@ struct HandOver {
     std::atomic<bool> done = false;
 };
 
-unsigned __stdcall work(void* argument)
+void work(HandOver& handOver)
 {
-    auto& handOver = *static_cast<HandOver*>(argument);
     handOver.result = resultOf(handOver.task);
     handOver.done.store(true, std::memory_order_release);
     // So that the dialog ends now and not at its next tick.
     ::PostMessageW(handOver.window, WM_TIMER, kProgressTimer, 0);
-    return 0;
-}
-
-vela::OwnedKernelObject startWorker(HandOver& handOver) noexcept
-{
-    // The C runtime's own call: it keeps data for each thread that it has started.
-    return vela::OwnedKernelObject(
-        reinterpret_cast<HANDLE>(::_beginthreadex(nullptr, 0, work, &handOver, 0, nullptr)));
 }
 
 // Ends the dialog when the worker has ended, and until then lets nothing close it.
@@ -60,8 +48,8 @@ vela::Window::MessageHook progressHook(ProgressDialog& dialog, const HandOver& h
     };
 }
 
-// A quit request ends the dialog's loop at once, but not the worker, nor may the window go dead meanwhile. The
-// request is made again for the loop outside.
+// A quit request ends the dialog's loop at once, but not the worker, nor may the window go dead meanwhile.
+// The request is made again for the loop outside.
 void waitForWorker(HANDLE worker)
 {
     std::optional<int> quitCode;
@@ -76,7 +64,7 @@ void waitForWorker(HANDLE worker)
             ::DispatchMessageW(&message);
         }
     }
-    ::WaitForSingleObject(worker, INFINITE);
+    ::WaitForSingleObject(worker, INFINITE); // whatever ended the loop
     if (quitCode)
         ::PostQuitMessage(*quitCode);
 }
@@ -93,13 +81,13 @@ SetupActionResult runWithProgress(DialogHost host, std::wstring_view title, std:
     handOver.window = dialog.handle();
     dialog.setMessageHook(progressHook(dialog, handOver));
     ::SetTimer(dialog.handle(), kProgressTimer, kProgressPeriod, nullptr);
-    const vela::OwnedKernelObject worker = startWorker(handOver);
+    const WorkerThread worker([&handOver] { work(handOver); });
     if (!worker) {
         dialog.destroy();
         return resultOf(task);
     }
     dialog.runModal();
-    waitForWorker(worker.get());
+    waitForWorker(worker.handle());
     return std::move(handOver.result);
 }
 
