@@ -2,6 +2,8 @@
 // colours.
 #include "tests/support/written_json.h"
 #include "tests/theme/skin_text.h"
+#include "tests/theme/surface_walk.h"
+#include "vela/render/material_constants.h"
 #include "vela/theme/contrast.h"
 #include "vela/theme/contrast_checks.h"
 #include "vela/theme/json.h"
@@ -334,6 +336,18 @@ float lookDistance(const SkinDefinition& one, const SkinDefinition& other)
     steps += one.theme.uiFont.family != other.theme.uiFont.family;
     steps += one.theme.materials.surface != other.theme.materials.surface;
     return colours / kPaletteRoleCount / kGlance + static_cast<float>(steps);
+}
+
+// Or the setup's own windows would wait for a graphics device before their first picture.
+TEST(DefaultSkins, HaveNoMaterialInTheWindowsSkins)
+{
+    for (const std::wstring_view id : {L"win11-light", L"win11-dark"}) {
+        testing_surfaces::visitSurfaces(
+            buildStyleSheet(skinNamed(id)),
+            [](const std::string& path, const SurfaceStyle& surface, const ShapeKind*) {
+                EXPECT_FALSE(carriesMaterial(surface)) << path;
+            });
+    }
 }
 
 TEST(DefaultSkins, AreToldApartAtAGlance)
