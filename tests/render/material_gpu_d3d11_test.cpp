@@ -4,6 +4,7 @@
 #include "tests/support/picture_difference.h"
 #include "tools/png_file_win32.h"
 #include "vela/render/material_gpu_d3d11.h"
+#include "vela/render/material_overlay.h"
 
 #include <gtest/gtest.h>
 
@@ -90,6 +91,39 @@ TEST_F(MaterialGpuTest, DrawsWhatTheKeptPicturesShow)
         EXPECT_TRUE(testing::looksTheSame(viewOf(drawn, kAtlasSize), viewOf(kept, kAtlasSize)));
     }
     ::CoUninitialize();
+}
+
+// Odd widths too: then rows on the card are longer than those of the picture.
+TEST_F(MaterialGpuTest, LooksTheSameInSoftwareAtEverySize)
+{
+    for (const Size size : {Size{120, 34}, Size{33, 21}, Size{7, 90}, Size{157, 91}}) {
+        std::vector<Pixel> onCard = pixelsFor(size);
+        std::vector<Pixel> inSoftware = pixelsFor(size);
+        testing::forEachMaterialSample([&](const MaterialSample& sample) {
+            const MaterialConstants constants = constantsOf(sample, size);
+            ASSERT_TRUE(renderMaterialOnGpu(constants, viewOf(onCard, size)));
+            renderMaterialOverlay(constants, {viewOf(inSoftware, size), {0, 0}});
+            EXPECT_TRUE(testing::looksTheSame(viewOf(onCard, size), viewOf(inSoftware, size)))
+                << sample.name() << ", " << size.width << " x " << size.height;
+        });
+    }
+}
+
+// As large as the setup's window, one finish a preset.
+TEST_F(MaterialGpuTest, LooksTheSameInSoftwareOverAWholeWindow)
+{
+    constexpr Size kWindow{690, 420};
+    std::vector<Pixel> onCard = pixelsFor(kWindow);
+    std::vector<Pixel> inSoftware = pixelsFor(kWindow);
+    testing::forEachMaterialSample([&](const MaterialSample& sample) {
+        if (static_cast<int>(sample.preset) % testing::kSampleFinishes != static_cast<int>(sample.finish))
+            return;
+        const MaterialConstants constants = constantsOf(sample, kWindow);
+        ASSERT_TRUE(renderMaterialOnGpu(constants, viewOf(onCard, kWindow)));
+        renderMaterialOverlay(constants, {viewOf(inSoftware, kWindow), {0, 0}});
+        EXPECT_TRUE(testing::looksTheSame(viewOf(onCard, kWindow), viewOf(inSoftware, kWindow)))
+            << sample.name();
+    });
 }
 
 } // namespace

@@ -36,7 +36,8 @@ float dot(Float2 a, Float2 b) { return a.x * b.x + a.y * b.y; }
 float hash21(Float2 p)
 {
     Float3 p3{frac(p.x * 0.1031F), frac(p.y * 0.1031F), frac(p.x * 0.1031F)};
-    const float sum = p3.x * (p3.y + 33.33F) + p3.y * (p3.z + 33.33F) + p3.z * (p3.x + 33.33F);
+    // x and z are equal, and so drivers factor this.
+    const float sum = (p3.x + p3.y) * (p3.x + 33.33F) + p3.x * (p3.y + 33.33F);
     p3 = {p3.x + sum, p3.y + sum, p3.z + sum};
     return frac((p3.x + p3.y) * p3.z);
 }
@@ -483,13 +484,14 @@ ReferenceColor Shader::run()
 
 ReferenceColor referenceMaterialAt(const MaterialConstants& constants, std::int32_t x, std::int32_t y)
 {
-    // Texture coordinates as rasterisers round them.
+    // Texture coordinates as rasterisers interpolate and round them.
     const float width = constants.geometry.x;
     const float height = constants.geometry.y;
-    const float perColumn = 1 / width;
-    const float perRow = 1 / height;
+    const float perArea = 1 / (4 * width * height);
+    const float perColumn = 2 * (2 * height * perArea);
+    const float perRow = 2 * (2 * width * perArea);
     const float u = (static_cast<float>(x) + 0.5F) * perColumn;
-    const float v = (1 - (height - 0.5F) * perRow) + static_cast<float>(y) * perRow;
+    const auto v = static_cast<float>((1 - (height - 0.5F) * perRow) + static_cast<double>(perRow) * y);
     return Shader(constants, {u, v}).run();
 }
 

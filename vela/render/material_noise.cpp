@@ -9,10 +9,12 @@ using simd::splat;
 // A column's or row's share of a hash.
 Float4 hashShare(Float4 position) noexcept { return simd::fractionOf(position * 0.1031F); }
 
+// The shader's sum of three products, two of which share a factor: graphics drivers put it before the
+// bracket, and the hash magnifies the different rounding.
 Float4 hashOf(Float4 x, Float4 y) noexcept
 {
     const Float4 shiftedX = x + 33.33F;
-    const Float4 mix = x * (y + 33.33F) + y * shiftedX + x * shiftedX;
+    const Float4 mix = (x + y) * shiftedX + x * (y + 33.33F);
     const Float4 product = ((x + mix) + (y + mix)) * (x + mix);
     return product - simd::toFloat(simd::truncated(product)); // never negative
 }

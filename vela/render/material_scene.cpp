@@ -26,6 +26,21 @@ Float4 textureAt(Float4 pixel, float length, float origin, float offset, const S
     return folded(origin + pixel + offset, tile) / tile;
 }
 
+// A rasteriser interpolates texture coordinates over the triangle, whose area is four times the surface's,
+// and the shader multiplies them by the size. Each step rounds, and the shader's hash magnifies the last bit
+// of a position into another grain: these are the roundings of one rasteriser, and no two graphics cards show
+// the same grain either.
+float coordinateStep(float length, float across) noexcept
+{
+    return 2 * (2 * across * (1 / (4 * length * across)));
+}
+
+// Rounded once.
+float coordinateAt(float start, float step, std::int32_t index) noexcept
+{
+    return static_cast<float>(start + static_cast<double>(step) * index);
+}
+
 } // namespace
 
 MaterialLook::MaterialLook(const MaterialConstants& constants) noexcept
@@ -54,13 +69,10 @@ MaterialScene::MaterialScene(const MaterialConstants& constants, Span columns)
     axisX_ = static_cast<float>(axis.acrossU);
     axisY_ = static_cast<float>(axis.acrossV);
 
-    // A rasteriser interpolates texture coordinates and the shader multiplies them by the size. Each step
-    // rounds, and the shader's hash magnifies the last bit of a position into another grain: these are the
-    // roundings of one rasteriser, and no two graphics cards show the same grain either.
-    const float perColumn = 1 / width_;
+    const float step = coordinateStep(width_, height_);
     for (std::int32_t x = columns.begin; x < columns.end; x += simd::kLanes)
         for (std::int32_t lane = 0; lane < simd::kLanes; ++lane)
-            pixels_.push_back((static_cast<float>(x + lane) + 0.5F) * perColumn * width_);
+            pixels_.push_back(coordinateAt(0.5F * step, step, x + lane) * width_);
     textures_.resize(pixels_.size());
     for (std::size_t column = 0; column < pixels_.size(); column += simd::kLanes)
         simd::store(&textures_[column], textureAt(pixelX(column), width_, originX_, mapping_.z, mapping_));
@@ -68,8 +80,8 @@ MaterialScene::MaterialScene(const MaterialConstants& constants, Span columns)
 
 MaterialRow MaterialScene::rowAt(std::int32_t y) const noexcept
 {
-    const float perRow = 1 / height_;
-    const float pixel = ((1 - (height_ - 0.5F) * perRow) + static_cast<float>(y) * perRow) * height_;
+    const float step = coordinateStep(height_, width_);
+    const float pixel = coordinateAt(1 - (height_ - 0.5F) * step, step, y) * height_;
     return {splat(pixel), textureAt(splat(pixel), height_, originY_, mapping_.w, mapping_)};
 }
 
