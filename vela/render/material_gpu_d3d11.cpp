@@ -2,6 +2,7 @@
 
 #include "vela/com_pointer_win32.h"
 #include "vela/library_win32.h"
+#include "vela/render/material_overlay_gdi.h"
 #include "vela/render/shader_compiler_d3d11.h"
 #include "vela/render/shaders/material_shaders.h"
 
@@ -174,6 +175,17 @@ bool renderMaterialOnGpu(const MaterialConstants& constants, const PixelView& ta
         return false;
     MaterialGpu* const gpu = MaterialGpu::instance();
     return gpu && gpu->render(constants, target);
+}
+
+bool tryDrawMaterialOverlayHlsl(HDC dc, const Rect& rect, const SurfaceStyle& style)
+{
+    if (isEmpty(rect) || !MaterialGpu::instance())
+        return false;
+    const MaterialConstants constants = currentMaterialConstants(style, rect);
+    const PixelView overlay = materialOverlays().ensure(
+        constants, [&constants](const PixelView& pixels) { return renderMaterialOnGpu(constants, pixels); });
+    compositeMaterialOverlay(dc, rect, style, overlay);
+    return overlay.pixels != nullptr;
 }
 
 } // namespace vela

@@ -15,4 +15,7 @@ namespace vela {
 // where there is no usable graphics path or this call failed: the caller then renders in software.
 bool renderMaterialOnGpu(const MaterialConstants& constants, const PixelView& target);
 
+// Lays the surface's overlay over it, cut to its shape. False, with nothing drawn, under the same conditions.
+bool tryDrawMaterialOverlayHlsl(HDC dc, const Rect& rect, const SurfaceStyle& style);
+
 } // namespace vela

@@ -2,6 +2,7 @@
 
 #include "vela/render/clip_gdi.h"
 #include "vela/render/layer_parts.h"
+#include "vela/render/material_gpu_d3d11.h"
 #include "vela/render/material_overlay_gdi.h"
 #include "vela/render/paint_plan.h"
 #include "vela/render/pixel_layer_gdi.h"
@@ -72,7 +73,7 @@ void drawGradientShape(HDC dc, const Rect& rect, const SurfaceStyle& style)
 
 void drawMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
-    if (carriesMaterial(style) && isVisible(dc, rect))
+    if (carriesMaterial(style) && isVisible(dc, rect) && !tryDrawMaterialOverlayHlsl(dc, rect, style))
         drawSoftwareMaterialOverlay(dc, rect, style);
 }
 
