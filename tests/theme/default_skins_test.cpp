@@ -1,5 +1,6 @@
 // The skins that travel inside the setup: what their document promises in words is held against their
 // colours.
+#include "tests/support/default_skins.h"
 #include "tests/support/written_json.h"
 #include "tests/theme/skin_text.h"
 #include "tests/theme/surface_walk.h"
@@ -12,13 +13,11 @@
 #include "vela/theme/skin_document.h"
 #include "vela/theme/spellings.h"
 #include "vela/theme/style_sections.h"
-#include "vela/theme/utf8.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -35,28 +34,6 @@ constexpr std::wstring_view kIds[] = {
 
 constexpr std::wstring_view kCategories[] = {L"hybrid",  L"professional", L"gaming", L"windows",
                                              L"utility", L"companion",    L"signal"};
-
-std::string documentBytes()
-{
-    std::ifstream file(TAMBER_SOURCE_DIR "/resources/00-vela-default-skins.json", std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-const JsonValue& documentRoot()
-{
-    static const JsonDocument document = [] {
-        JsonDocument read;
-        EXPECT_TRUE(read.read(decodeUtf8(documentBytes()))) << read.error().explanation;
-        return read;
-    }();
-    return document.root();
-}
-
-const std::vector<SkinDefinition>& defaultSkins()
-{
-    static const std::vector<SkinDefinition> skins = skinsFromDocument(documentRoot());
-    return skins;
-}
 
 const SkinDefinition& skinNamed(std::wstring_view id)
 {
@@ -307,6 +284,18 @@ TEST(DefaultSkins, HaveTheAutomaticWindowsSkinEqualToTheLightOne)
     };
     EXPECT_FALSE(looksOf(L"win11-light").empty());
     EXPECT_EQ(looksOf(L"win11-auto"), looksOf(L"win11-light"));
+}
+
+// Nothing of the materials, a graphics device least of all, comes to be for a Windows skin.
+TEST(DefaultSkins, CarryNoMaterialInTheWindowsSkins)
+{
+    for (const std::wstring_view id : {L"win11-auto", L"win11-light", L"win11-dark"}) {
+        const StyleSheet styles = buildStyleSheet(skinNamed(id));
+        testing_surfaces::visitSurfaces(
+            styles, [](const std::string& path, const SurfaceStyle& surface, const ShapeKind*) {
+                EXPECT_FALSE(carriesMaterial(surface)) << path;
+            });
+    }
 }
 
 TEST(DefaultSkins, UseTheSystemsColoursForTheWindowsSkins)

@@ -1,7 +1,6 @@
 #include "vela/theme/contrast_checks.h"
 
 #include "vela/theme/contrast_rules.h"
-#include "vela/theme/surface_tones.h"
 
 #include <algorithm>
 #include <string_view>
@@ -9,36 +8,27 @@
 namespace vela {
 namespace {
 
-// How far a surface stands out from its bed, by its border, its fill or its outline.
-float standingOut(const SurfaceStyle& surface, const Tones& bed)
-{
-    const Tones fill = facesOf(surface, bed);
-    float best = std::min(contrastRatio(fill.darkest, bed), contrastRatio(fill.lightest, bed));
-    if (surface.drawBorder)
-        best = std::max(best, contrastRatio(surface.border, bed));
-    if (surface.showOutline)
-        best = std::max(best, contrastRatio(surface.outline, bed));
-    return best;
-}
-
 // Everything that dialogs and pages put controls on.
-Tones groundsOf(const StyleSheet& sheet)
+Tones groundsOf(const StyleSheet& sheet, FaceTones::Finder faces)
 {
     const SurfaceStyle& panel = sheet.find<PanelStyle>(kDefaultVariant).surface;
-    Tones grounds = facesOf(panel, panel.fill);
+    Tones grounds = faces(panel, panel.fill);
     const Tones lowest = grounds;
     for (const auto& variant : sheet.table<PanelStyle>())
-        grounds.include(facesOf(variant.record.surface, lowest));
+        grounds.include(faces(variant.record.surface, lowest));
     for (const auto& variant : sheet.table<CardStyle>())
-        grounds.include(facesOf(variant.record.surface, lowest));
+        grounds.include(faces(variant.record.surface, lowest));
     for (const auto& variant : sheet.table<PopupStyle>())
-        grounds.include(facesOf(variant.record.surface, lowest));
+        grounds.include(faces(variant.record.surface, lowest));
     return grounds;
 }
 
 class Judge {
 public:
-    explicit Judge(const StyleSheet& sheet) : sheet_(sheet), grounds_(groundsOf(sheet)) {}
+    Judge(const StyleSheet& sheet, const FaceTones& tones)
+        : sheet_(sheet), faces_(tones.ofFace), grounds_(groundsOf(sheet, tones.ofGround))
+    {
+    }
 
     std::vector<ContrastCheck> judged();
 
@@ -63,7 +53,7 @@ private:
     void judgeRules(const Record& record, const Tones& under)
     {
         for (const Rule<Record>& rule : contrastRules<Record>()) {
-            const Tones bed = rule.bed ? facesOf(record.*rule.bed, under) : under;
+            const Tones bed = rule.bed ? faces_(record.*rule.bed, under) : under;
             const bool edge = rule.need == Need::Edge;
             if (!rule.faces[0])
                 add(std::string(rule.part), rule.need, contrastRatio(rule.ink.in(record, rule.need), bed));
@@ -71,7 +61,7 @@ private:
                 if (face)
                     add(std::string(rule.part), rule.need,
                         edge ? standingOut(record.*face, bed)
-                             : contrastRatio(rule.ink.in(record, rule.need), facesOf(record.*face, bed)));
+                             : contrastRatio(rule.ink.in(record, rule.need), faces_(record.*face, bed)));
             }
         }
     }
@@ -90,7 +80,10 @@ private:
         add(prefix + "focus ring", Need::Mark, contrastRatio(surface.glow, bed));
     }
 
+    float standingOut(const SurfaceStyle& surface, const Tones& bed) const;
+
     const StyleSheet& sheet_;
+    FaceTones::Finder faces_;
     Tones grounds_;
     ControlKind kind_ = ControlKind::Text;
     std::wstring variant_;
@@ -99,6 +92,18 @@ private:
 
 constexpr std::string_view kStateNames[kVisualStateCount] = {"normal ", "hot ", "pressed ", "disabled ",
                                                              "active "};
+
+// How far a surface stands out from its bed, by its border, its fill or its outline.
+float Judge::standingOut(const SurfaceStyle& surface, const Tones& bed) const
+{
+    const Tones fill = faces_(surface, bed);
+    float best = std::min(contrastRatio(fill.darkest, bed), contrastRatio(fill.lightest, bed));
+    if (surface.drawBorder)
+        best = std::max(best, contrastRatio(surface.border, bed));
+    if (surface.showOutline)
+        best = std::max(best, contrastRatio(surface.outline, bed));
+    return best;
+}
 
 void Judge::judgeText(const TextStyle& text)
 {
@@ -113,7 +118,7 @@ void Judge::judgeButton(const ButtonStyle& style, const std::string& prefix, con
         const std::string part = prefix + std::string(kStateNames[index]);
         const SurfaceStyle& surface = style.surface[state];
         const FontSpec& text = style.text[state];
-        const Tones face = facesOf(surface, bed);
+        const Tones face = faces_(surface, bed);
         if (state == VisualState::Disabled) {
             add(part + "caption", Need::DisabledText, contrastRatio(text.disabledColor, face));
             continue;
@@ -128,13 +133,13 @@ void Judge::judgeButton(const ButtonStyle& style, const std::string& prefix, con
 
 void Judge::judgeScrollBar(const ScrollBarStyle& style, const std::string& prefix, const Tones& bed)
 {
-    const Tones track = facesOf(style.track, bed);
+    const Tones track = faces_(style.track, bed);
     for (const VisualState state :
          {VisualState::Normal, VisualState::Hot, VisualState::Pressed, VisualState::Active}) {
         const std::string part = prefix + std::string(kStateNames[static_cast<int>(state)]);
         add(part + "thumb", Need::Edge, standingOut(style.thumb[state], track));
         add(part + "arrow", Need::Mark,
-            contrastRatio(style.arrow, facesOf(style.decrementButton[state], bed)));
+            contrastRatio(style.arrow, faces_(style.decrementButton[state], bed)));
     }
 }
 
@@ -147,7 +152,7 @@ std::vector<ContrastCheck> Judge::judged()
     judgeKind<CardStyle>(ControlKind::Card);
     forEachVariant<ChromeTitleBarStyle>(ControlKind::ChromeTitleBar, [&](const ChromeTitleBarStyle& style) {
         judgeRules<ChromeTitleBarStyle>(style, grounds_);
-        judgeButton(style.titleButton, "caption button ", facesOf(style.surface, grounds_));
+        judgeButton(style.titleButton, "caption button ", faces_(style.surface, grounds_));
     });
     judgeKind<StatusChipStyle>(ControlKind::StatusChip);
     forEachVariant<ProgressBarStyle>(ControlKind::ProgressBar, [&](const ProgressBarStyle& style) {
@@ -166,11 +171,11 @@ std::vector<ContrastCheck> Judge::judged()
     forEachVariant<SelectBoxStyle>(ControlKind::SelectBox, [&](const SelectBoxStyle& style) {
         judgeRules<SelectBoxStyle>(style, grounds_);
         judgeFocus(style.surface, "", grounds_);
-        judgeScrollBar(style.scrollBar, "scroll bar ", facesOf(style.dropdownSurface, grounds_));
+        judgeScrollBar(style.scrollBar, "scroll bar ", faces_(style.dropdownSurface, grounds_));
     });
     forEachVariant<ListBoxStyle>(ControlKind::ListBox, [&](const ListBoxStyle& style) {
         judgeRules<ListBoxStyle>(style, grounds_);
-        judgeScrollBar(style.scrollBar, "scroll bar ", facesOf(style.surface, grounds_));
+        judgeScrollBar(style.scrollBar, "scroll bar ", faces_(style.surface, grounds_));
     });
     judgeKind<DateInputStyle>(ControlKind::DateInput);
     forEachVariant<TabsStyle>(ControlKind::Tabs,
@@ -188,7 +193,7 @@ std::vector<ContrastCheck> Judge::judged()
     judgeKind<SelectableTextStyle>(ControlKind::SelectableText);
     forEachVariant<PopupStyle>(ControlKind::Popup, [&](const PopupStyle& style) {
         judgeRules<PopupStyle>(style, grounds_);
-        const Tones bed = facesOf(style.surface, grounds_);
+        const Tones bed = faces_(style.surface, grounds_);
         judgeButton(style.closeButton, "close button ", bed);
         judgeButton(style.primaryAction, "primary action ", bed);
         judgeButton(style.secondaryAction, "secondary action ", bed);
@@ -199,6 +204,9 @@ std::vector<ContrastCheck> Judge::judged()
 
 } // namespace
 
-std::vector<ContrastCheck> contrastChecks(const StyleSheet& sheet) { return Judge(sheet).judged(); }
+std::vector<ContrastCheck> contrastChecks(const StyleSheet& sheet, const FaceTones& faces)
+{
+    return Judge(sheet, faces).judged();
+}
 
 } // namespace vela

@@ -2,14 +2,22 @@
 #pragma once
 
 #include "vela/theme/style_sheet.h"
+#include "vela/theme/surface_tones.h"
 
 #include <string>
 #include <vector>
 
 namespace vela {
 
-// One pair, judged. Reached is the ratio at the worst place: the worst stop of a gradient, and what shines
-// through a translucent face. What bitmaps and materials add is not seen.
+// How the tones are found that a surface shows when it lies on others.
+struct FaceTones {
+    using Finder = Tones (*)(const SurfaceStyle& surface, const Tones& under);
+
+    Finder ofGround = facesOf; // of what controls lie on
+    Finder ofFace = facesOf;   // of controls and their parts
+};
+
+// One pair, judged. Reached is the ratio at the worst place.
 struct ContrastCheck {
     ControlKind kind = ControlKind::Text;
     std::wstring variant;
@@ -20,6 +28,8 @@ struct ContrastCheck {
     bool holds() const noexcept { return reached >= required; }
 };
 
-std::vector<ContrastCheck> contrastChecks(const StyleSheet& sheet);
+// As far as the records tell, unless told otherwise: then the worst place is the worst stop of a gradient and
+// what shines through a translucent face, and what bitmaps and materials add is not seen.
+std::vector<ContrastCheck> contrastChecks(const StyleSheet& sheet, const FaceTones& faces = {});
 
 } // namespace vela

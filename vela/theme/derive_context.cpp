@@ -14,6 +14,8 @@ constexpr float kRimOfRatio = 0.04F; // above the rule, so that rounding never f
 constexpr float kTextRoom = 1.38F;
 constexpr float kMarkRoom = 1.6F;
 constexpr float kSolidRoom = 1.6F;
+// What the light on carved forms takes where no material is worn.
+constexpr float kReliefRoom = 1.05F;
 constexpr float kInkRoom = 1.5F; // five fills, that far apart, between the first and the last legible one
 constexpr float kStatesApart = 0.022F; // just visible side by side
 constexpr int kStateSteps = 24;        // of half that distance, tried to either side
@@ -81,15 +83,20 @@ Color towards(Color from, Color to, float distance) noexcept
 
 DeriveContext::DeriveContext(const Theme& theme_)
     : theme(theme_), look(lookOf(theme_.surfaceMode)), materials(look.materials && theme_.materials.enabled),
-      textAim((kTextContrast + kRimOfRatio) * (materials ? kTextRoom : 1)),
-      solidAim((kTextContrast + kRimOfRatio) * (materials ? kSolidRoom : 1)),
-      markAim((kMarkContrast + kRimOfRatio) * (materials ? kMarkRoom : 1))
+      textAim(withRoom(kTextContrast, kTextRoom)), solidAim(withRoom(kTextContrast, kSolidRoom)),
+      markAim(withRoom(kMarkContrast, kMarkRoom))
 {
     dark = strongestOn(theme.panel) == hexColor(0xFFFFFF);
     resolveHues();
     resolveGrounds();
     resolveInks();
     resolveControl();
+}
+
+float DeriveContext::withRoom(float ratio, float materialRoom) const noexcept
+{
+    const float plainRoom = look.leastDepth > 0 ? kReliefRoom : 1;
+    return (ratio + kRimOfRatio) * (materials ? materialRoom : plainRoom);
 }
 
 void DeriveContext::resolveHues()
@@ -226,14 +233,14 @@ Color DeriveContext::mark(Color wanted, const Tones& on) const noexcept
 
 Color DeriveContext::faint(Color normal, const Tones& on) const noexcept
 {
-    const float aim = (kDisabledTextContrast + kRimOfRatio) * (materials ? kTextRoom : 1);
+    const float wanted = withRoom(kDisabledTextContrast, kTextRoom);
     const float full = contrastRatio(normal, on);
     const float own = contrastRatio(theme.disabledText, on);
-    if (own >= aim && own <= full * 0.7F)
+    if (own >= wanted && own <= full * 0.7F)
         return theme.disabledText;
     // Between the surface and its text: the palette's own disabled text would be unreadable or too strong
     // there.
-    return reaching(mixed(on.darkest, normal, 0.35F), on, aim);
+    return reaching(mixed(on.darkest, normal, 0.35F), on, wanted);
 }
 
 } // namespace vela

@@ -95,6 +95,8 @@ public:
     Color faint(Color normal, const Tones& on) const noexcept;
 
 private:
+    // The ratio to aim at where that one is the rule: above it by what a material or relief takes.
+    float withRoom(float ratio, float materialRoom) const noexcept;
     void resolveHues();
     void resolveGrounds();
     void resolveInks();

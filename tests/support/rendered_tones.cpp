@@ -1,0 +1,131 @@
+#include "tests/support/rendered_tones.h"
+
+#include "vela/render/bounded_cache.h"
+#include "vela/render/material_constants.h"
+#include "vela/render/material_overlay.h"
+#include "vela/render/paint_plan.h"
+
+#include <array>
+#include <vector>
+
+namespace vela::testing {
+namespace {
+
+constexpr std::int32_t kSpot = 6; // pixels, both ways
+
+struct Sample {
+    Size size;
+    Rect area; // in it, whole spots
+    friend bool operator==(const Sample&, const Sample&) = default;
+};
+constexpr Sample kGround{{324, 204}, {12, 12, 300, 180}};
+constexpr Sample kFace{{132, 40}, {12, 8, 108, 24}};
+
+using Pixels = std::vector<Pixel>;
+
+PixelView viewOf(Pixels& pixels, Size size) { return {pixels.data(), size, size.width}; }
+
+Pixel over(Pixel top, Pixel bottom) noexcept
+{
+    Pixel result = 0;
+    for (int shift = 0; shift < 32; shift += 8) {
+        const unsigned below = (bottom >> shift & 0xFF) * (255 - alphaOf(top));
+        result |= std::min((top >> shift & 0xFF) + (below + 127) / 255, 255U) << shift;
+    }
+    return result;
+}
+
+void layOver(Pixels& picture, Pixels& layer)
+{
+    for (std::size_t i = 0; i < picture.size(); ++i)
+        picture[i] = over(layer[i], picture[i]);
+}
+
+// As the painter stacks the layers. Borders and outlines lie outside the text's area, and so do the corners
+// of whatever shape the surface has.
+Pixels rendered(SurfaceStyle style, Size size, Color ground)
+{
+    style.shape = ShapeKind::Rect;
+    style.showGlow = style.showShadow = false;
+    const Rect rect{0, 0, size.width, size.height};
+    const Coverage coverage(style.shape, size);
+    Pixels picture(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height),
+                   premultiplied(ground, 255));
+    Pixels layer(picture.size());
+    const LayerTarget target{viewOf(layer, size), {0, 0}};
+    for (const PaintStep& step : paintPlan(style, rect, std::nullopt)) {
+        std::fill(layer.begin(), layer.end(), 0);
+        if (step.layer == SurfaceLayer::Fill)
+            std::fill(layer.begin(), layer.end(), premultiplied(step.color, 255));
+        else if (step.layer == SurfaceLayer::Material)
+            renderMaterialOverlay(materialConstants(style, rect, 0, PerformanceProfile::Full), target);
+        else if (isPixelLayer(step.layer))
+            fillLayer(target, coverage, step, style, {0, 0});
+        layOver(picture, layer);
+    }
+    return picture;
+}
+
+Color spotAt(const PixelView& picture, std::int32_t left, std::int32_t top)
+{
+    std::array<unsigned, 3> sums{};
+    for (std::int32_t y = top; y < top + kSpot; ++y) {
+        for (std::int32_t x = left; x < left + kSpot; ++x) {
+            for (std::size_t channel = 0; channel < sums.size(); ++channel)
+                sums[channel] += picture.row(y)[x] >> 8 * channel & 0xFF;
+        }
+    }
+    const auto mean = [](unsigned sum) {
+        return static_cast<std::uint8_t>((sum + kSpot * kSpot / 2) / (kSpot * kSpot));
+    };
+    return rgb(mean(sums[2]), mean(sums[1]), mean(sums[0]));
+}
+
+Tones tonesIn(const PixelView& picture, const Rect& area)
+{
+    Tones tones = spotAt(picture, area.x, area.y);
+    for (std::int32_t y = area.y; y < area.y + area.height; y += kSpot) {
+        for (std::int32_t x = area.x; x < area.x + area.width; x += kSpot)
+            tones.include(spotAt(picture, x, y));
+    }
+    return tones;
+}
+
+struct Key {
+    SurfaceStyle style;
+    Sample sample;
+    Color ground;
+    friend bool operator==(const Key&, const Key&) = default;
+};
+
+// Parts of a skin's controls are often styled alike.
+Tones tonesOn(const SurfaceStyle& style, const Sample& sample, Color ground)
+{
+    static BoundedCache<Key, Tones> known(64);
+    return known.ensure(Key{style, sample, ground}, [&] {
+        Pixels picture = rendered(style, sample.size, ground);
+        return tonesIn(viewOf(picture, sample.size), sample.area);
+    });
+}
+
+Tones tonesOn(const SurfaceStyle& style, const Sample& sample, const Tones& under)
+{
+    Tones tones = tonesOn(style, sample, under.darkest);
+    if (under.lightest != under.darkest)
+        tones.include(tonesOn(style, sample, under.lightest));
+    return tones;
+}
+
+} // namespace
+
+Tones renderedGroundTones(const SurfaceStyle& surface, const Tones& under)
+{
+    return tonesOn(surface, kGround, under);
+}
+
+Tones renderedFaceTones(const SurfaceStyle& surface, const Tones& under)
+{
+    return tonesOn(surface, kFace, under);
+}
+
+} // namespace vela::testing
