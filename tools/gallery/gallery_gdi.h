@@ -16,6 +16,8 @@ bool drawGradientSheet(const std::wstring& path);
 bool drawLayerSheet(const std::wstring& path);
 bool drawGlyphSheet(const std::wstring& path);
 bool drawTypeSheet(const std::wstring& path);
+bool drawPresetSheet(const std::wstring& path);
+bool drawSubstanceSheet(const std::wstring& path);
 
 // The setup's dialog in every skin, side by side.
 bool drawFrontSheet(const std::wstring& path, std::vector<vela::SkinDefinition> skins);

@@ -19,9 +19,10 @@ namespace {
 using SheetDrawer = bool (*)(const std::wstring& path);
 
 constexpr std::pair<const wchar_t*, SheetDrawer> kSheets[] = {
-    {L"shapes", gallery::drawShapeSheet}, {L"gradients", gallery::drawGradientSheet},
-    {L"layers", gallery::drawLayerSheet}, {L"glyphs", gallery::drawGlyphSheet},
-    {L"type", gallery::drawTypeSheet},
+    {L"shapes", gallery::drawShapeSheet},        {L"gradients", gallery::drawGradientSheet},
+    {L"layers", gallery::drawLayerSheet},        {L"glyphs", gallery::drawGlyphSheet},
+    {L"type", gallery::drawTypeSheet},           {L"material-presets", gallery::drawPresetSheet},
+    {L"materials", gallery::drawSubstanceSheet},
 };
 
 std::vector<vela::SkinDefinition> readSkins(const std::filesystem::path& path)

@@ -85,10 +85,10 @@ constexpr Substance kSubstances[] = {
     {L"malachite", StoneMarble, Polished, 0x0E8A5C, 0x46D39A,
      255, 130,  60,  10,   0, 120, 160, 255,  60,  10,  10,  70,  54,  14,  20},
     {L"lapislazuli", StoneGranite, Frosted, 0x1D3FA4, 0xE6C35A,
-     235,  90,  60,  20,  14,  60,  90, 245,  60,  10,  10,  80,  54,  26,  20},
+     255,  90,  60,  20,  14,  30,  90, 255,  60,  10,  10,  80,  54,  11,  20},
     {L"jasper", StoneMarble, Hammered, 0xA3401F, 0xE09060,
      215,  90,  60,  30,  10,  90,  90, 235,  50,  20,   0,  80,  50,   9,  60},
-    {L"agate", LayeredGlass, Polished, 0x5A2414, 0xFFEBD2,
+    {L"agate", LayeredGlass, Polished, 0x47190D, 0xFFEBD2,
      255, 110,  90,  10,   0,  40,  60, 255, 140,  40,  60,  50,  56,  20,  20},
     {L"tigereye", LuminousGlass, Brushed, 0x6A3A0E, 0xFFB52A,
      210, 170, 120,  40,   0,  50, 200, 255,  60,  10, 230, 120,  50,  10,   0},
@@ -107,8 +107,8 @@ constexpr Substance kSubstances[] = {
      190, 220, 190,   4,   0,   8, 225, 205, 170,  40,  90,  30,  62,  19,  20},
     {L"topaz", Gemstone, Polished, 0xFFB236, 0xFFE09A,
      204, 210, 200,   4,   0,   8, 235, 230, 180,  60, 110,  40,  62,  14,  20},
-    {L"garnet", BloodGloss, WetGloss, 0x6E0A1E, 0xD02848,
-     255, 190, 230,  10,   0,  20, 220, 160, 120,  60,  50, 110,  54,  24,  20},
+    {L"garnet", Gemstone, WetGloss, 0x74182A, 0xD02848,
+     255, 190, 210,   6,   0,  20, 150, 190, 120,  60,  50, 110,  54,  26,  20},
     {L"opal", LuminousGlass, Default, 0xA9E8DC, 0xFF9EC8,
      190, 150, 110,  60,   0,  30, 180, 120, 170,  40, 230,  20,  64,  26,  40},
     {L"peridot", Gemstone, Polished, 0xAEDA34, 0xE2FF8A,
@@ -227,7 +227,7 @@ Color bodyColor(const NamedMaterial& material) noexcept
     if (material.preset != Gemstone)
         return tint;
     constexpr auto deepened = [](std::uint8_t channel) {
-        return static_cast<std::uint8_t>(channel * 7 / 10);
+        return static_cast<std::uint8_t>(channel * 8 / 10);
     };
     return rgb(deepened(redOf(tint)), deepened(greenOf(tint)), deepened(blueOf(tint)));
 }
