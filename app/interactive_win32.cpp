@@ -5,6 +5,8 @@
 #include "app/dialogs/setup_styles.h"
 #include "app/worker_thread_win32.h"
 
+#include "vela/render/text.h"
+
 namespace setup {
 namespace {
 
@@ -39,6 +41,7 @@ void askAhead(SetupEffects& effects) noexcept
 
 int runInteractiveSetup(HINSTANCE module, SetupEffects& effects)
 {
+    vela::openTextEngine();
     // Answered while the skins are read. Until then this thread asks the effects for files and folders only.
     const WorkerThread ahead([&effects] { askAhead(effects); });
     const DialogHost host{module, setupStyles(effects)};

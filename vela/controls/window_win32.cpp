@@ -1,6 +1,7 @@
 #include "vela/controls/window_native_win32.h"
 
 #include "vela/render/surface_painter.h"
+#include "vela/render/text.h"
 #include "vela/theme/record_scale.h"
 #include "vela/theme/style_sheet.h"
 
@@ -13,6 +14,7 @@ namespace vela {
 
 Window::Window() : root_(L"root", {}), input_(root_), native_(std::make_unique<Native>(*this))
 {
+    openTextEngine();
     // The root is placed by no parent: with its own size as its minimum it could grow but never shrink.
     root_.setMinimumSize({0, 0});
     root_.attach(this);

@@ -18,6 +18,7 @@ struct LoadedBitmaps {
     std::shared_ptr<const SkinBitmap> mask;
 
     SurfaceBitmaps view() const noexcept { return {skin.get(), mask.get()}; }
+    friend bool operator==(const LoadedBitmaps&, const LoadedBitmaps&) = default; // the very same bitmaps
 };
 
 class BitmapCache {

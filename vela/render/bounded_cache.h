@@ -25,17 +25,26 @@ class BoundedCache {
 public:
     explicit BoundedCache(std::size_t capacity) : capacity_(capacity) {}
 
-    // The value for the key, made by make() when there is none. `wanted` is anything that compares with a Key
-    // and converts to one, so that a look-up need not copy texts. Valid until the next call.
-    template <typename KeyView, typename Make>
-    Value& ensure(const KeyView& wanted, Make&& make)
+    // The value for the key, null when there is none. `wanted` is anything that compares with a Key, so that
+    // a look-up need not copy texts. Valid until the next call.
+    template <typename KeyView>
+    Value* find(const KeyView& wanted)
     {
         for (const auto& entry : entries_) {
             if (wanted == entry->key) {
                 entry->lastUse = ++clock_;
-                return entry->value;
+                return &entry->value;
             }
         }
+        return nullptr;
+    }
+
+    // The same, made by make() when there is none; `wanted` also converts to a Key.
+    template <typename KeyView, typename Make>
+    Value& ensure(const KeyView& wanted, Make&& make)
+    {
+        if (Value* const known = find(wanted))
+            return *known;
         auto fresh = std::make_unique<Entry>(Entry{Key(wanted), make(), ++clock_});
         ++made_;
         makeRoom(Weigh{}(fresh->value));

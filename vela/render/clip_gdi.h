@@ -16,6 +16,9 @@ std::optional<Rect> clipBox(HDC dc) noexcept;
 // The part of the rectangle inside the clip box.
 Rect visiblePart(HDC dc, const Rect& rect) noexcept;
 
+// Whether the clip shows all of its bounding box.
+bool isClipRectangle(HDC dc) noexcept;
+
 inline bool isVisible(HDC dc, const Rect& rect) noexcept { return !isEmpty(visiblePart(dc, rect)); }
 
 } // namespace vela

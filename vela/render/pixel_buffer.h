@@ -5,6 +5,7 @@
 #include "vela/geometry.h"
 #include "vela/theme/color.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -35,6 +36,13 @@ struct PixelView {
 
     Pixel* row(std::int32_t y) const noexcept { return pixels + y * stride; }
 };
+
+// Both of one size.
+inline void copyPixels(const PixelView& from, const PixelView& to) noexcept
+{
+    for (std::int32_t y = 0; y < to.size.height; ++y)
+        std::copy_n(from.row(y), to.size.width, to.row(y));
+}
 
 // Where a layer writes: the visible part of a surface. A layer writes every pixel of it, transparent ones
 // too, so the buffer need not be cleared before.

@@ -67,6 +67,25 @@ void compositeScratch(HDC dc, const Rect& rect)
         scratch().reset();
 }
 
+PixelView readPixels(HDC dc, const Rect& rect)
+{
+    PixelView pixels = scratchPixels(sizeOf(rect));
+    if (!pixels.pixels ||
+        !::BitBlt(scratch()->dc(), 0, 0, rect.width, rect.height, dc, rect.x, rect.y, SRCCOPY))
+        return {};
+    ::GdiFlush();
+    return pixels;
+}
+
+void writePixels(HDC dc, const Rect& rect, const PixelView& pixels)
+{
+    const PixelView copy = scratchPixels(sizeOf(rect));
+    if (!copy.pixels)
+        return;
+    copyPixels(pixels, copy);
+    ::BitBlt(dc, rect.x, rect.y, rect.width, rect.height, scratch()->dc(), 0, 0, SRCCOPY);
+}
+
 void compositePixelBuffer(HDC dc, const Rect& rect, const PixelView& pixels)
 {
     if (!pixels.pixels || sizeOf(rect) != pixels.size)

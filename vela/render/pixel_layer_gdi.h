@@ -13,6 +13,12 @@ PixelView scratchPixels(Size size);
 // Blends the scratch pixels of that size, from their top left corner, over the rectangle.
 void compositeScratch(HDC dc, const Rect& rect);
 
+// What the context shows there, in the scratch pixels; empty when it cannot tell.
+PixelView readPixels(HDC dc, const Rect& rect);
+
+// Replaces what the context shows there by pixels of the rectangle's size.
+void writePixels(HDC dc, const Rect& rect, const PixelView& pixels);
+
 // Lets `fill` write the visible pixels of a part of a layer, as a LayerTarget, and composites them. The layer
 // covers the rectangle; the part is in the layer's own coordinates. What the clip hides is not generated.
 template <typename Fill>

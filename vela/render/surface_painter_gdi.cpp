@@ -1,6 +1,7 @@
 #include "vela/render/surface_painter.h"
 
 #include "vela/render/clip_gdi.h"
+#include "vela/render/kept_pictures_gdi.h"
 #include "vela/render/layer_parts.h"
 #include "vela/render/material_gpu_d3d11.h"
 #include "vela/render/material_overlay_gdi.h"
@@ -8,6 +9,8 @@
 #include "vela/render/pixel_layer_gdi.h"
 #include "vela/render/surface_bitmaps.h"
 #include "vela/render/surface_outline.h"
+
+#include <algorithm>
 
 namespace vela {
 namespace {
@@ -19,6 +22,10 @@ struct Surface {
     const SurfaceStyle& style;
     const LoadedBitmaps& bitmaps;
 };
+
+bool isMaterial(const PaintStep& step) noexcept { return step.layer == SurfaceLayer::Material; }
+
+bool costsPixels(SurfaceLayer layer) noexcept { return isPixelLayer(layer) || layer == SurfaceLayer::Bitmap; }
 
 void paintPixels(const Surface& surface, const PaintStep& step)
 {
@@ -48,6 +55,73 @@ void paintStep(const Surface& surface, const PaintStep& step)
     }
 }
 
+// What decides the look of some layers of a surface, beside the pixels beneath them.
+struct LayersView {
+    const SurfaceStyle& style;
+    const LoadedBitmaps& bitmaps;
+    Rect rect;
+    Rect area;
+    SurfaceLayer first;
+};
+
+struct KeptLayers {
+    explicit KeptLayers(const LayersView& view)
+        : style(view.style), bitmaps(view.bitmaps), rect(view.rect), area(view.area), first(view.first)
+    {
+    }
+    friend bool operator==(const LayersView& view, const KeptLayers& kept)
+    {
+        return view.rect == kept.rect && view.area == kept.area && view.first == kept.first &&
+               view.bitmaps == kept.bitmaps && view.style == kept.style;
+    }
+
+    SurfaceStyle style;
+    LoadedBitmaps bitmaps;
+    Rect rect;
+    Rect area;
+    SurfaceLayer first;
+};
+
+KeptPictures<KeptLayers>& keptLayers()
+{
+    constexpr std::size_t kMostPixels = 4'000'000; // 16 MB: some dialogs in several states, or a full screen
+    static KeptPictures<KeptLayers> pictures(kMostPixels);
+    return pictures;
+}
+
+Rect boundsOf(const PaintStep* first, const PaintStep* last) noexcept
+{
+    std::int32_t left = first->rect.x;
+    std::int32_t top = first->rect.y;
+    std::int32_t right = left + first->rect.width;
+    std::int32_t bottom = top + first->rect.height;
+    for (const PaintStep* step = first + 1; step != last; ++step) {
+        left = std::min(left, step->rect.x);
+        top = std::min(top, step->rect.y);
+        right = std::max(right, step->rect.x + step->rect.width);
+        bottom = std::max(bottom, step->rect.y + step->rect.height);
+    }
+    return {left, top, right - left, bottom - top};
+}
+
+// Layers between which there is no material: that one may move, and keeps itself.
+void paintLayers(const Surface& surface, const PaintStep* first, const PaintStep* last)
+{
+    const auto paint = [&] {
+        for (const PaintStep* step = first; step != last; ++step)
+            paintStep(surface, *step);
+        return true;
+    };
+    // Plain fills and strokes cost less than a copy.
+    if (std::none_of(first, last, [](const PaintStep& step) { return costsPixels(step.layer); })) {
+        paint();
+        return;
+    }
+    const Rect area = visiblePart(surface.dc, boundsOf(first, last));
+    paintKept(surface.dc, area, keptLayers(),
+              LayersView{surface.style, surface.bitmaps, surface.rect, area, first->layer}, paint);
+}
+
 void drawLayer(HDC dc, SurfaceLayer layer, const Rect& rect, const SurfaceStyle& style)
 {
     paintStep({dc, rect, style, surfaceBitmaps(style)}, {layer, rect});
@@ -62,8 +136,15 @@ void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
     const LoadedBitmaps bitmaps = surfaceBitmaps(style);
     const Surface surface{dc, rect, style, bitmaps};
     const BitmapCover cover = bitmaps.skin ? bitmaps.skin->cover() : BitmapCover::None;
-    for (const PaintStep& step : paintPlan(style, rect, clipBox(dc), cover))
-        paintStep(surface, step);
+    const PaintPlan plan = paintPlan(style, rect, clipBox(dc), cover);
+    for (const PaintStep* step = plan.begin(); step != plan.end();) {
+        const PaintStep* const material = std::find_if(step, plan.end(), isMaterial);
+        if (step != material)
+            paintLayers(surface, step, material);
+        if (material != plan.end())
+            paintStep(surface, *material);
+        step = material == plan.end() ? material : material + 1;
+    }
 }
 
 void drawGradientShape(HDC dc, const Rect& rect, const SurfaceStyle& style)

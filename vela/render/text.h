@@ -27,6 +27,10 @@ struct TextLook {
     TextWrap wrap = TextWrap::SingleLine;
 };
 
+// Begins to open DirectWrite on a thread of its own: the system lists its fonts meanwhile, which takes longer
+// than the making of a window. Without it, or before it is done, the first text waits. Once is enough.
+void openTextEngine();
+
 // A single line stands in the middle of the rectangle's height, wrapped lines begin at its top.
 void drawText(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font, std::int32_t dpi,
               TextLook look = {});

@@ -1,12 +1,14 @@
 #include "vela/render/text_dwrite.h"
 
 #include "vela/library_win32.h"
-#include "vela/render/clip_gdi.h"
+#include "vela/owned_win32.h"
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <dwrite_3.h>
+#include <process.h>
 
 namespace vela {
 namespace {
@@ -28,7 +30,7 @@ struct Format {
 class Engine {
 public:
     // Null when the system has no DirectWrite. Never destroyed: layouts that other static objects still hold
-    // when the process ends need the library.
+    // when the process ends need the library. Any thread may be the first to ask; the others wait.
     static Engine* instance()
     {
         static Engine& engine = *new Engine;
@@ -43,8 +45,9 @@ public:
 
 private:
     Engine();
-    ComPointer<IDWriteTextFormat> makeFormat(const Font& font) const;
+    ComPointer<IDWriteTextFormat> makeFormat(const Font& font);
     bool makePlainTypography();
+    IDWriteFontCollection* ensurePrivateFonts();
     void openPrivateFonts();
 
     SystemLibrary library_{L"dwrite.dll"};
@@ -52,6 +55,7 @@ private:
     ComPointer<IDWriteGdiInterop> interop_;
     ComPointer<IDWriteFontCollection> systemFonts_;
     ComPointer<IDWriteFontCollection> privateFonts_;
+    bool privateFontsOpened_ = false;
     ComPointer<IDWriteRenderingParams> params_;
     ComPointer<IDWriteTypography> plainTypography_;
     ComPointer<IDWriteBitmapRenderTarget> target_;
@@ -69,7 +73,6 @@ Engine::Engine()
         FAILED(factory_->CreateRenderingParams(params_.put())) ||
         FAILED(factory_->GetGdiInterop(interop_.put())) || !makePlainTypography())
         interop_.reset();
-    openPrivateFonts();
 }
 
 // GDI neither kerns nor joins letters; if DirectWrite did, the text would be narrower than it was measured.
@@ -83,6 +86,14 @@ bool Engine::makePlainTypography()
     return std::all_of(std::begin(kOff), std::end(kOff), [this](DWRITE_FONT_FEATURE_TAG tag) {
         return SUCCEEDED(plainTypography_->AddFontFeature({tag, 0}));
     });
+}
+
+// Not part of opening the engine: the list of these fonts belongs to the UI thread.
+IDWriteFontCollection* Engine::ensurePrivateFonts()
+{
+    if (!std::exchange(privateFontsOpened_, true))
+        openPrivateFonts();
+    return privateFonts_.get();
 }
 
 // DirectWrite does not see what GDI registered for this process alone: it gets a collection of its own. An
@@ -161,12 +172,12 @@ bool setLines(IDWriteTextFormat& format, const Font& font)
                                            static_cast<float>(font.ascent)));
 }
 
-ComPointer<IDWriteTextFormat> Engine::makeFormat(const Font& font) const
+ComPointer<IDWriteTextFormat> Engine::makeFormat(const Font& font)
 {
     ComPointer<IDWriteTextFormat> format;
     const ChosenFace face = font.owned ? chosenFace(*interop_.get(), font) : ChosenFace();
-    IDWriteFontCollection* const fonts =
-        hasFamily(privateFonts_.get(), face.family) ? privateFonts_.get() : systemFonts_.get();
+    IDWriteFontCollection* const own = ensurePrivateFonts();
+    IDWriteFontCollection* const fonts = hasFamily(own, face.family) ? own : systemFonts_.get();
     if (!hasFamily(fonts, face.family))
         return format;
     if (FAILED(factory_->CreateTextFormat(face.family.c_str(), fonts, face.weight, face.style, face.stretch,
@@ -295,7 +306,19 @@ Rect inkOf(IDWriteTextLayout& layout, Size box)
     return {-left, -top, box.width + left + outward(over.right), box.height + top + outward(over.bottom)};
 }
 
+unsigned __stdcall openEngine(void*)
+{
+    Engine::instance();
+    return 0;
+}
+
 } // namespace
+
+void openTextEngine()
+{
+    static const OwnedKernelObject thread(
+        reinterpret_cast<HANDLE>(::_beginthreadex(nullptr, 0, openEngine, nullptr, 0, nullptr)));
+}
 
 DirectWriteLayout makeDirectWriteLayout(const TextLines& lines, const Font& font, std::int32_t width,
                                         TextAlign align)
@@ -319,14 +342,8 @@ DirectWriteLayout makeDirectWriteLayout(const TextLines& lines, const Font& font
     return made;
 }
 
-bool tryDrawDirectWrite(HDC dc, const DirectWriteLayout& layout, Point corner, const Rect& clip, Color color)
+bool tryDrawDirectWrite(HDC dc, const DirectWriteLayout& layout, Point corner, const Rect& area, Color color)
 {
-    if (!layout.layout)
-        return false;
-    const Rect ink{corner.x + layout.ink.x, corner.y + layout.ink.y, layout.ink.width, layout.ink.height};
-    const Rect area = visiblePart(dc, intersection(ink, clip));
-    if (isEmpty(area))
-        return true;
     Engine& engine = *Engine::instance();
     IDWriteBitmapRenderTarget* const target = engine.ensureTarget(dc, sizeOf(area));
     if (!target)

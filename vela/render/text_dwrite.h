@@ -18,8 +18,8 @@ struct DirectWriteLayout {
 DirectWriteLayout makeDirectWriteLayout(const TextLines& lines, const Font& font, std::int32_t width,
                                         TextAlign align);
 
-// Draws over what the device context shows. Only pixels inside `clip` are touched; false when nothing was
-// drawn though something should have been.
-bool tryDrawDirectWrite(HDC dc, const DirectWriteLayout& layout, Point corner, const Rect& clip, Color color);
+// Draws over what the device context shows. Only pixels of the area, which is not empty, are touched; false
+// when nothing was drawn. The layout is one that could be made.
+bool tryDrawDirectWrite(HDC dc, const DirectWriteLayout& layout, Point corner, const Rect& area, Color color);
 
 } // namespace vela

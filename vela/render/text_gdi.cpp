@@ -3,6 +3,7 @@
 #include "vela/render/bounded_cache.h"
 #include "vela/render/clip_gdi.h"
 #include "vela/render/fonts_gdi.h"
+#include "vela/render/kept_pictures_gdi.h"
 #include "vela/render/text_dwrite.h"
 
 #include <optional>
@@ -113,12 +114,49 @@ Color colorFor(const FontSpec& font, TextTone tone) noexcept
     return tone == TextTone::Enabled ? font.color : font.disabledColor;
 }
 
+// What decides the look of a text, beside the pixels beneath it.
+struct TextPictureView {
+    const TextRequest& request;
+    Color color;
+    Point offset; // of the text's corner from that of the picture
+};
+
+struct TextPicture {
+    explicit TextPicture(const TextPictureView& view)
+        : text(view.request), color(view.color), offset(view.offset)
+    {
+    }
+    friend bool operator==(const TextPictureView& view, const TextPicture& kept) noexcept
+    {
+        return view.color == kept.color && view.offset == kept.offset && view.request == kept.text;
+    }
+
+    TextKey text;
+    Color color;
+    Point offset;
+};
+
+KeptPictures<TextPicture>& keptTexts()
+{
+    constexpr std::size_t kMostPixels = 1'000'000; // 4 MB: a large window full of text
+    static KeptPictures<TextPicture> pictures(kMostPixels);
+    return pictures;
+}
+
 bool tryDrawText(HDC dc, const Rect& rect, const TextRequest& request, PreparedText& text, Color color)
 {
     if (!text.layout)
         text.layout = makeDirectWriteLayout(text.lines, *request.font, rect.width, request.align);
-    const std::int32_t top = textTop(rect, request.wrap, text.lines.count * request.font->lineHeight);
-    return tryDrawDirectWrite(dc, *text.layout, {rect.x, top}, rect, color);
+    const DirectWriteLayout& layout = *text.layout;
+    if (!layout.layout)
+        return false;
+    const Point corner{rect.x, textTop(rect, request.wrap, text.lines.count * request.font->lineHeight)};
+    const Rect area = visiblePart(dc, intersection(movedBy(layout.ink, corner), rect));
+    if (isEmpty(area))
+        return true;
+    return paintKept(dc, area, keptTexts(),
+                     TextPictureView{request, color, {corner.x - area.x, corner.y - area.y}},
+                     [&] { return tryDrawDirectWrite(dc, layout, corner, area, color); });
 }
 
 } // namespace

@@ -1,0 +1,88 @@
+// What a dialog costs once it is open: painted as a whole, and one button changing its state and back.
+// Medians in milliseconds, one line a skin. Run it under Wine with scripts/wine; there a paint is Wine's GDI
+// as much as this program's own work. Usage: dialog_speed SKIN_FOLDER [SKIN...]     without skins, all of the
+// folder's
+#include "app/dialogs/choice_dialog.h"
+
+#include "vela/render/kept_pictures_gdi.h"
+#include "vela/theme/skin_host_win32.h"
+#include "vela/theme/style_sections.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include <windows.h>
+
+namespace {
+
+constexpr double kDialogGoal = 8.0;
+constexpr double kButtonGoal = 0.5;
+
+template <typename Work>
+double medianOf(Work&& work)
+{
+    constexpr int kRounds = 200;
+    using Clock = std::chrono::steady_clock;
+    std::vector<double> rounds;
+    for (int round = 0; round < kRounds; ++round) {
+        const auto start = Clock::now();
+        work();
+        rounds.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
+    }
+    std::nth_element(rounds.begin(), rounds.begin() + kRounds / 2, rounds.end());
+    return rounds[kRounds / 2];
+}
+
+struct Costs {
+    double dialog;
+    double button;
+};
+
+Costs costsOf(setup::ChoiceDialog& dialog, bool kept)
+{
+    vela::setPicturesKept(kept);
+    const double whole = medianOf([&] {
+        ::InvalidateRect(dialog.handle(), nullptr, FALSE);
+        ::UpdateWindow(dialog.handle());
+    });
+    vela::ThemedButton& button = dialog.popup().actionButton(0);
+    const double state = medianOf([&] {
+        button.setHot(!button.isHot());
+        ::UpdateWindow(dialog.handle());
+    });
+    return {whole, state};
+}
+
+void measure(const vela::SkinDefinition& skin)
+{
+    const auto styles = std::make_shared<vela::StyleSheet>(vela::buildStyleSheet(skin));
+    setup::ChoiceDialog dialog({::GetModuleHandleW(nullptr), [&] { return styles; }}, {});
+    dialog.open();
+    ::ShowWindow(dialog.handle(), SW_SHOWNORMAL);
+    ::UpdateWindow(dialog.handle());
+    const Costs without = costsOf(dialog, false);
+    const Costs with = costsOf(dialog, true);
+    std::printf("%-24ls dialog %6.2f (%6.2f without)%s   button %6.3f (%6.3f without)%s\n", skin.id.c_str(),
+                with.dialog, without.dialog, with.dialog > kDialogGoal ? " !" : "  ", with.button,
+                without.button, with.button > kButtonGoal ? " !" : "");
+}
+
+} // namespace
+
+int wmain(int count, wchar_t** arguments)
+{
+    if (count < 2)
+        return 2;
+    vela::setSkinFolders({arguments[1]});
+    const vela::SkinCatalog& catalog = vela::skinCatalog();
+    std::printf("goals: a dialog of 690 x 420 within %.1f ms, a button within %.1f ms\n", kDialogGoal,
+                kButtonGoal);
+    for (int i = 2; i < count; ++i)
+        measure(catalog.find(arguments[i]));
+    if (count == 2)
+        std::for_each(catalog.skins().begin(), catalog.skins().end(), measure);
+    return 0;
+}
