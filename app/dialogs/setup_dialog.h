@@ -32,7 +32,8 @@ public:
     SetupDialog& operator=(const SetupDialog&) = delete;
     ~SetupDialog() override;
 
-    // Once. False when Windows refuses the window.
+    // Once. The window stands around the point around which the user left the one before. False when Windows
+    // refuses the window.
     bool open();
 
     vela::Size designSize() const noexcept { return size_; }
@@ -56,8 +57,11 @@ protected:
     // Ends a dialog's constructor: gives the finished tree its looks and the keyboard to `focus`.
     void finish(vela::Control* focus);
     void growBy(std::int32_t height);
+    void onDestroyed() override;
 
 private:
+    void followTheLastDialog();
+
     DialogHost host_;
     vela::Size size_;
     std::wstring title_;

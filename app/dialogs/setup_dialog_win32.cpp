@@ -2,7 +2,10 @@
 
 #include "app/window_title.h"
 
+#include "vela/controls/window_geometry.h"
 #include "vela/theme/style_sheet.h"
+
+#include <optional>
 
 #include <windows.h>
 
@@ -11,6 +14,17 @@ namespace setup {
 using vela::CaptionButton;
 using vela::ChromeTitleBar;
 using vela::CommandEvent;
+
+namespace {
+
+// Of the dialog that was open last, in screen pixels.
+std::optional<POINT>& lastCentre()
+{
+    static std::optional<POINT> centre;
+    return centre;
+}
+
+} // namespace
 
 ChromeTitleBar& applySetupChrome(vela::Window& window, const vela::StyleSheet& styles, std::int32_t width,
                                  std::wstring_view title, bool closable, bool minimizable)
@@ -63,7 +77,40 @@ void SetupDialog::growBy(std::int32_t height)
 bool SetupDialog::open()
 {
     const DWORD style = WS_POPUP | WS_SYSMENU | (minimizable_ ? WS_MINIMIZEBOX : 0U);
-    return create(host_.module, title_, size_, {style, WS_EX_APPWINDOW}, host_.owner);
+    if (!create(host_.module, title_, size_, {style, WS_EX_APPWINDOW}, host_.owner))
+        return false;
+    // The system's menu and the taskbar's offer what the title bar does.
+    if (!titleBar_->button(CaptionButton::Close).isEnabled())
+        ::EnableMenuItem(::GetSystemMenu(handle(), FALSE), SC_CLOSE, MF_BYCOMMAND | MF_GRAYED);
+    followTheLastDialog();
+    return true;
+}
+
+void SetupDialog::followTheLastDialog()
+{
+    if (!lastCentre())
+        return;
+    const POINT centre = *lastCentre();
+    RECT own{};
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    if (!::GetWindowRect(handle(), &own) ||
+        !::GetMonitorInfoW(::MonitorFromPoint(centre, MONITOR_DEFAULTTONEAREST), &monitor))
+        return;
+    const vela::Size size{own.right - own.left, own.bottom - own.top};
+    const RECT& work = monitor.rcWork;
+    const vela::Rect place =
+        vela::keptInside({centre.x - size.width / 2, centre.y - size.height / 2, size.width, size.height},
+                         {work.left, work.top, work.right - work.left, work.bottom - work.top});
+    ::SetWindowPos(handle(), nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void SetupDialog::onDestroyed()
+{
+    RECT own{};
+    if (!::IsIconic(handle()) && ::GetWindowRect(handle(), &own))
+        lastCentre() = POINT{(own.left + own.right) / 2, (own.top + own.bottom) / 2};
+    DialogWindow::onDestroyed();
 }
 
 } // namespace setup

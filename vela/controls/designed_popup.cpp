@@ -18,6 +18,7 @@ namespace {
 constexpr Size kCloseButton{32, 28};
 constexpr std::int32_t kCloseMargin = 8;
 constexpr std::int32_t kTitleGap = 14;
+constexpr std::int32_t kBandGap = 12;
 
 constexpr struct {
     std::wstring_view text;
@@ -185,9 +186,12 @@ std::int32_t DesignedPopup::titleLeft() const noexcept
 
 Rect DesignedPopup::messageRect() const noexcept
 {
+    // A header that is seen as a band ends where it ends; one without a ground of its own already keeps away.
+    const bool band = style_.header.drawFill || style_.header.drawBorder;
+    const std::int32_t top = style_.headerHeight + (band ? scaled(kBandGap) : 0);
     const std::int32_t below = buttons_.empty() ? 0 : style_.actionHeight + style_.paddingY;
-    return {contentLeft(), style_.headerHeight, std::max(contentRight() - contentLeft(), 0),
-            std::max(bounds().height - style_.headerHeight - style_.paddingY - below, 0)};
+    return {contentLeft(), top, std::max(contentRight() - contentLeft(), 0),
+            std::max(bounds().height - top - style_.paddingY - below, 0)};
 }
 
 void DesignedPopup::paint(HDC dc, Point origin)

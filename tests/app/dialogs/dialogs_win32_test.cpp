@@ -204,6 +204,29 @@ TEST(ProgressDialogTest, ShowsWhatIsUnderWay)
     EXPECT_EQ(dialog.bar().value(), 15);
 }
 
+TEST(SetupDialogTest, OpensWhereTheUserLeftTheOneBefore)
+{
+    const Rect work = Desktop::workArea();
+    // The middle of the first one, then where the second one begins: around it, but within the work area.
+    const vela::Point rows[][2] = {
+        {{500, 400}, {190, 262}},
+        {{work.width - 400, work.height - 250}, {work.width - 710, work.height - 388}},
+        {{345, 210}, {35, 72}}};
+    for (const auto& [middle, corner] : rows) {
+        ChoiceDialog first(host(), {});
+        ASSERT_TRUE(first.open());
+        ::SetWindowPos(first.handle(), nullptr, middle.x - 345, middle.y - 210, 0, 0,
+                       SWP_NOSIZE | SWP_NOZORDER);
+        first.destroy();
+        NoticeDialog second(host(), {L"Nadpis", L"Telo.", false});
+        ASSERT_TRUE(second.open());
+        RECT place{};
+        ::GetWindowRect(second.handle(), &place);
+        EXPECT_EQ(place.left, corner.x);
+        EXPECT_EQ(place.top, corner.y);
+    }
+}
+
 TEST(NoticeDialogTest, TellsHowItEnded)
 {
     for (const bool danger : {false, true}) {
