@@ -160,13 +160,13 @@ constexpr Substance kSubstances[] = {
      255, 220, 255,  24,   2,  70, 190, 230,  70, 110,   0,  90,  54,  22,  90},
     {L"gold", Metal, WetGloss, 0xE2A91F, 0xFFE28A,
      255, 255, 255,   6,   0,  24, 250,  60, 110, 160,  20,  90,  60,  24,  20},
-    {L"rosegold", Metal, Satin, 0xD4937F, 0xFFD8CC,
+    {L"rosegold", Metal, WetGloss, 0xD4937F, 0xFFD8CC,
      235, 210, 255,   8,   0,  30, 230,  50,  90,  90,  10,  70,  58,  24,  20},
-    {L"whitegold", Metal, Satin, 0xDDD3B4, 0xFFFFF0,
+    {L"whitegold", Metal, WetGloss, 0xDDCFA2, 0xFFFFF0,
      255, 255, 255,   6,   0,  20, 240,  50, 100, 110,  10,  60,  62,  24,  20},
     {L"silver", Metal, WetGloss, 0xC2CAD4, 0xFFFFFF,
      255, 255, 255,   4,   0,  14, 250,  50, 110, 150,   0,  80,  62,  24,  20},
-    {L"platinum", BrushedMetal, Polished, 0xB9BDBC, 0xFFFFFF,
+    {L"platinum", BrushedMetal, WetGloss, 0xB4B6B2, 0xFFFFFF,
      255, 240, 255,   6,   0,  30, 235,  40, 100, 110,   0, 100,  60,  28,  30},
     {L"palladium", Gloss, Satin, 0xB5B1AC, 0xFFF8F0,
      170, 190, 200,  10,   0,  40, 210,  50,  90,  70,   0,  70,  56,  24,  20},
@@ -209,6 +209,17 @@ constexpr auto kNamedMaterials = [] {
     return materials;
 }();
 
+// How much of the tint's light a body sends back: facets shine above it, and a metal's sheen.
+constexpr int bodyPercent(MaterialPreset preset) noexcept
+{
+    switch (preset) {
+    case Gemstone: return 80;
+    case Metal:
+    case BrushedMetal: return 88;
+    default: return 100;
+    }
+}
+
 } // namespace
 
 std::span<const NamedMaterial> namedMaterials() noexcept { return kNamedMaterials; }
@@ -223,12 +234,10 @@ const NamedMaterial* findNamedMaterial(std::wstring_view normalisedName) noexcep
 
 Color bodyColor(const NamedMaterial& material) noexcept
 {
-    const Color tint = material.shading.materialTint;
-    if (material.preset != Gemstone)
-        return tint;
-    constexpr auto deepened = [](std::uint8_t channel) {
-        return static_cast<std::uint8_t>(channel * 8 / 10);
+    const auto deepened = [percent = bodyPercent(material.preset)](std::uint8_t channel) {
+        return static_cast<std::uint8_t>(channel * percent / 100);
     };
+    const Color tint = material.shading.materialTint;
     return rgb(deepened(redOf(tint)), deepened(greenOf(tint)), deepened(blueOf(tint)));
 }
 

@@ -28,7 +28,7 @@ std::span<const NamedMaterial> namedMaterials() noexcept;
 const NamedMaterial* findNamedMaterial(std::wstring_view normalisedName) noexcept;
 
 // The plain colour to lay under a substance that stands for itself, as on a swatch: a material is light and
-// texture over a fill. Cut gems lie deeper than their tint, which is that of their facets.
+// texture over a fill. Cut gems and metals lie deeper than their tint, which is that of facets and sheen.
 Color bodyColor(const NamedMaterial& material) noexcept;
 
 // Gives the surface the substance: its preset, its shading as a whole and the mark that it is drawn. Fill,
