@@ -1,5 +1,6 @@
 // The software material overlay in megapixels a second, for every preset as a surface has it by default and
 // for every finish on gloss, beside a plain scalar translation of the same shader. One thread.
+#include "bench/material_surfaces.h"
 #include "tests/support/material_reference.h"
 #include "vela/render/material_overlay.h"
 
@@ -11,22 +12,9 @@
 namespace {
 
 using namespace vela;
-
-constexpr Size kDialog{690, 420};
+using bench::kDialog;
 
 using Render = void (*)(const MaterialConstants&, const LayerTarget&);
-
-MaterialConstants constantsOf(MaterialPreset material, MaterialFinish finish)
-{
-    SurfaceStyle style;
-    style.material = material;
-    style.materialEnabled = true;
-    style.finish = finish;
-    style.materialTint = hexColor(0x4A8F6B);
-    style.backlightOpacity = 140;
-    style.innerGlow = 90;
-    return materialConstants(style, {0, 0, kDialog.width, kDialog.height}, 0.3F, PerformanceProfile::Full);
-}
 
 void measure(benchmark::State& state, Render render, const MaterialConstants& constants)
 {
@@ -43,7 +31,7 @@ void measure(benchmark::State& state, Render render, const MaterialConstants& co
 
 void add(const std::string& name, MaterialPreset material, MaterialFinish finish)
 {
-    const MaterialConstants constants = constantsOf(material, finish);
+    const MaterialConstants constants = bench::materialOf(material, finish);
     benchmark::RegisterBenchmark((name + "/vela").c_str(), measure, renderMaterialOverlay, constants)
         ->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark((name + "/scalar").c_str(), measure, renderReferenceMaterial, constants)
@@ -51,14 +39,10 @@ void add(const std::string& name, MaterialPreset material, MaterialFinish finish
 }
 
 const bool registered = [] {
-    const char* const presets[] = {
-        "glass",         "frostedGlass", "gloss",       "metal",          "brushedMetal", "plastic",
-        "rubber",        "paper",        "carbonFiber", "obsidianGlass",  "bloodGloss",   "amberGlass",
-        "luminousGlass", "layeredGlass", "gemstone",    "obsidianRelief", "stoneGranite", "stoneMarble"};
     const char* const finishes[] = {"polished", "brushed",  "satin",  "matte",   "rough",
                                     "cracked",  "hammered", "etched", "frosted", "wetGloss"};
     int number = 0;
-    for (const char* const preset : presets)
+    for (const char* const preset : bench::kMaterialNames)
         add(preset, static_cast<MaterialPreset>(++number), MaterialFinish::Default);
     number = 0;
     for (const char* const finish : finishes)
