@@ -12,10 +12,13 @@ namespace {
 
 using vela::ComPointer;
 
-ComPointer<IShellItem> shellItem(const std::wstring& path)
+// The folder, or the nearest one above it that is there: a folder to install into often is not there yet.
+ComPointer<IShellItem> nearestFolder(std::wstring path)
 {
     ComPointer<IShellItem> item;
-    ::SHCreateItemFromParsingName(path.c_str(), nullptr, IID_IShellItem, item.putVoid());
+    while (!path.empty() &&
+           FAILED(::SHCreateItemFromParsingName(path.c_str(), nullptr, IID_IShellItem, item.putVoid())))
+        path = parentFolder(path);
     return item;
 }
 
@@ -35,8 +38,8 @@ HRESULT prepare(IFileOpenDialog& dialog, const std::wstring& current)
         result = dialog.SetOptions(options | FOS_PICKFOLDERS | FOS_FORCEFILESYSTEM);
     if (SUCCEEDED(result))
         result = dialog.SetTitle(L"Vyber instalacni slozku Tambere");
-    // A folder that is not there yet is no reason to fail: the dialog then opens where it last was.
-    const ComPointer<IShellItem> folder = current.empty() ? ComPointer<IShellItem>() : shellItem(current);
+    // Without one the dialog opens where it last was.
+    const ComPointer<IShellItem> folder = nearestFolder(current);
     if (SUCCEEDED(result) && folder)
         dialog.SetFolder(folder.get());
     return result;
