@@ -17,7 +17,7 @@ ComPointer<IShellItem> nearestFolder(std::wstring path)
 {
     ComPointer<IShellItem> item;
     while (!path.empty() &&
-           FAILED(::SHCreateItemFromParsingName(path.c_str(), nullptr, IID_IShellItem, item.putVoid())))
+           FAILED(::SHCreateItemFromParsingName(path.c_str(), nullptr, __uuidof(IShellItem), item.putVoid())))
         path = parentFolder(path);
     return item;
 }
@@ -53,8 +53,8 @@ std::optional<std::wstring> pickInstallFolder(HWND owner, const std::wstring& cu
     ComPointer<IFileOpenDialog> dialog;
     HRESULT result = apartment.result();
     if (SUCCEEDED(result))
-        result = ::CoCreateInstance(CLSID_FileOpenDialog, nullptr, CLSCTX_INPROC_SERVER, IID_IFileOpenDialog,
-                                    dialog.putVoid());
+        result = ::CoCreateInstance(__uuidof(FileOpenDialog), nullptr, CLSCTX_INPROC_SERVER,
+                                    __uuidof(IFileOpenDialog), dialog.putVoid());
     if (SUCCEEDED(result))
         result = prepare(*dialog.get(), current);
     if (SUCCEEDED(result))

@@ -7,9 +7,13 @@
 #include "vela/com_pointer_win32.h"
 #include "vela/owned_win32.h"
 
-#include <knownfolders.h>
 #include <objbase.h>
 #include <shlobj.h>
+
+// Last, and the ids of folders are defined here: the library that has them brings 40 KB of others along.
+#include <initguid.h>
+
+#include <knownfolders.h>
 
 namespace setup {
 namespace {
@@ -44,8 +48,8 @@ HRESULT describeLink(IShellLinkW& shellLink, const ShellLink& link)
 HRESULT writeLink(const ShellLink& link)
 {
     vela::ComPointer<IShellLinkW> shellLink;
-    HRESULT result = ::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
-                                        shellLink.putVoid());
+    HRESULT result = ::CoCreateInstance(__uuidof(::ShellLink), nullptr, CLSCTX_INPROC_SERVER,
+                                        __uuidof(IShellLinkW), shellLink.putVoid());
     if (SUCCEEDED(result))
         result = describeLink(*shellLink.get(), link);
     vela::ComPointer<IPersistFile> file;

@@ -62,14 +62,14 @@ std::optional<std::uint32_t> leadingUnsigned(std::wstring_view text) noexcept
     return leadingNumber<std::uint32_t>(text);
 }
 
-std::wstring decimalText(std::uint32_t value)
+std::wstring decimalText(std::uint64_t magnitude, bool negative)
 {
     std::wstring digits;
     do {
-        digits.insert(digits.begin(), static_cast<wchar_t>(L'0' + value % 10));
-        value /= 10;
-    } while (value != 0);
-    return digits;
+        digits.insert(digits.begin(), static_cast<wchar_t>(L'0' + magnitude % 10));
+        magnitude /= 10;
+    } while (magnitude != 0);
+    return negative ? L'-' + digits : digits;
 }
 
 } // namespace vela

@@ -3,6 +3,7 @@
 // which.
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -29,6 +30,14 @@ bool equalsIgnoringAsciiCase(std::wstring_view left, std::wstring_view right) no
 std::optional<std::int32_t> leadingInteger(std::wstring_view text) noexcept;
 std::optional<std::uint32_t> leadingUnsigned(std::wstring_view text) noexcept;
 
-std::wstring decimalText(std::uint32_t value);
+std::wstring decimalText(std::uint64_t magnitude, bool negative);
+
+// Any whole number, without the C library's formatting behind std::to_wstring.
+template <std::integral Number>
+std::wstring decimalText(Number value)
+{
+    const auto bits = static_cast<std::uint64_t>(value);
+    return value < 0 ? decimalText(~bits + 1, true) : decimalText(bits, false);
+}
 
 } // namespace vela

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace vela {
 namespace {
 
@@ -37,6 +39,15 @@ TEST(Text, ReadsTheLeadingIntegerAndStopsAtTheLimits)
     };
     for (const auto& row : rows)
         EXPECT_EQ(leadingInteger(row.text), row.value) << std::string(row.text.begin(), row.text.end());
+}
+
+TEST(Text, WritesWholeNumbersInDecimal)
+{
+    EXPECT_EQ(decimalText(0), L"0");
+    EXPECT_EQ(decimalText(-7), L"-7");
+    EXPECT_EQ(decimalText(4294967295U), L"4294967295");
+    EXPECT_EQ(decimalText(std::numeric_limits<std::int64_t>::min()), L"-9223372036854775808");
+    EXPECT_EQ(decimalText(std::numeric_limits<std::uint64_t>::max()), L"18446744073709551615");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "vela/render/program_icon.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
+#include "vela/text.h"
 #include "vela/theme/record_scale.h"
 #include "vela/theme/style_sheet.h"
 
@@ -101,7 +102,7 @@ void ChromeTitleBar::showButton(CaptionButton which, bool shown)
 
 ThemedButton& ChromeTitleBar::addHeaderAction(std::int32_t number, std::wstring caption)
 {
-    const std::wstring digits = std::to_wstring(number);
+    const std::wstring digits = decimalText(number);
     auto& made = headerActions_.emplace_back(
         std::make_unique<UnfocusedButton>(L"chrome-header-action-" + digits, Rect{}, std::move(caption)));
     made->setAction(L"header-action-" + digits);

@@ -4,6 +4,7 @@
 #include "vela/render/mark_painter.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
+#include "vela/text.h"
 #include "vela/theme/record_scale.h"
 #include "vela/theme/style_sheet.h"
 
@@ -116,7 +117,7 @@ void DesignedPopup::setActions(std::vector<PopupAction> actions)
     for (std::size_t i = 0; i < actions_.size(); ++i) {
         PopupAction& action = actions_[i];
         if (action.id.empty())
-            action.id = id() + L".action." + std::to_wstring(i);
+            action.id = id() + L".action." + decimalText(i);
         buttons_.push_back(std::make_unique<ThemedButton>(action.id, Rect{}, action.label));
         addChild(*buttons_.back());
     }

@@ -1,20 +1,21 @@
 #include "vela/controls/diagnostics.h"
 
 #include "vela/controls/control.h"
+#include "vela/text.h"
 
 namespace vela {
 
 std::wstring toText(Point point)
 {
-    return L"{x=" + std::to_wstring(point.x) + L",y=" + std::to_wstring(point.y) + L"}";
+    return L"{x=" + decimalText(point.x) + L",y=" + decimalText(point.y) + L"}";
 }
 
-std::wstring toText(Size size) { return std::to_wstring(size.width) + L"x" + std::to_wstring(size.height); }
+std::wstring toText(Size size) { return decimalText(size.width) + L"x" + decimalText(size.height); }
 
 std::wstring toText(const Rect& rect)
 {
-    return L"{x=" + std::to_wstring(rect.x) + L",y=" + std::to_wstring(rect.y) + L",w=" +
-           std::to_wstring(rect.width) + L",h=" + std::to_wstring(rect.height) + L"}";
+    return L"{x=" + decimalText(rect.x) + L",y=" + decimalText(rect.y) + L",w=" + decimalText(rect.width) +
+           L",h=" + decimalText(rect.height) + L"}";
 }
 
 std::wstring toText(Anchors anchors)

@@ -34,7 +34,7 @@ bool ProgressBar::applyStyle(const StyleSheet& styles)
     return true;
 }
 
-std::wstring ProgressBar::text() const { return std::to_wstring(value_) + L"%"; }
+std::wstring ProgressBar::text() const { return decimalText(value_) + L"%"; }
 
 void ProgressBar::paint(HDC dc, Point origin)
 {
@@ -60,7 +60,7 @@ bool ProgressBar::containsLocal(Point point) const
            pointInShape(style_.frameShape, bounds().width, bounds().height, point);
 }
 
-PropertyList ProgressBar::properties() const { return {{L"value", std::to_wstring(value_)}}; }
+PropertyList ProgressBar::properties() const { return {{L"value", decimalText(value_)}}; }
 
 void ProgressBar::setProperty(std::wstring_view name, std::wstring_view value)
 {

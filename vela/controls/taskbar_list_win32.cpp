@@ -24,7 +24,7 @@ constexpr StateRow kStates[] = {
 
 TaskbarList::TaskbarList() noexcept
 {
-    const HRESULT made = ::CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER,
+    const HRESULT made = ::CoCreateInstance(__uuidof(::TaskbarList), nullptr, CLSCTX_INPROC_SERVER,
                                             __uuidof(ITaskbarList3), list_.putVoid());
     if (FAILED(made) || FAILED(list_->HrInit()))
         list_.reset();

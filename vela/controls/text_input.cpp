@@ -160,9 +160,9 @@ bool TextInput::containsLocal(Point point) const
 PropertyList TextInput::properties() const
 {
     return {{L"text", model_.text()},
-            {L"caretIndex", std::to_wstring(model_.caret())},
-            {L"textScrollOffset", std::to_wstring(scroll_)},
-            {L"attachmentCount", std::to_wstring(attachments_.size())}};
+            {L"caretIndex", decimalText(model_.caret())},
+            {L"textScrollOffset", decimalText(scroll_)},
+            {L"attachmentCount", decimalText(attachments_.size())}};
 }
 
 void TextInput::setProperty(std::wstring_view name, std::wstring_view value)

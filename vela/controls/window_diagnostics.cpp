@@ -1,6 +1,7 @@
 #include "vela/controls/window_diagnostics.h"
 
 #include "vela/controls/diagnostics.h"
+#include "vela/text.h"
 
 namespace vela {
 
@@ -22,13 +23,13 @@ Rect rectOf(const Edges& edges) noexcept
 
 std::wstring hitTestDiagnostic(std::intptr_t hit, const FrameFacts& facts)
 {
-    return L"[Vela diagnostic] WM_NCHITTEST hit=" + std::to_wstring(hit) + factsText(facts);
+    return L"[Vela diagnostic] WM_NCHITTEST hit=" + decimalText(hit) + factsText(facts);
 }
 
 std::wstring sizingDiagnostic(std::uintptr_t edge, const Edges& before, const Edges& after,
                               const FrameFacts& facts)
 {
-    return L"[Vela diagnostic] WM_SIZING edge=" + std::to_wstring(edge) + L" rectBefore=" +
+    return L"[Vela diagnostic] WM_SIZING edge=" + decimalText(edge) + L" rectBefore=" +
            toText(rectOf(before)) + L" rectAfter=" + toText(rectOf(after)) + factsText(facts);
 }
 
