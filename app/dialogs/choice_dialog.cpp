@@ -79,13 +79,14 @@ ChoiceDialog::ChoiceDialog(DialogHost host, const ChoiceState& state, FolderPick
     popup().setGlyph(std::wstring(form.glyph));
     popup().setMessage(std::wstring(form.body));
     popup().setActions(actionsOf(form));
-    for (const ChoiceButton& button : form.buttons)
-        subscribe(std::wstring(button.id), [this, button](vela::CommandEvent& event) {
-            // The title bar's button is called "close" too: either way nothing is done.
-            event.handled = true;
-            action_ = button.action;
+    for (const ChoiceButton& button : form.buttons) {
+        if (button.action == SetupAction::Close)
+            continue; // the window closes itself, as by its title bar, and nothing is chosen
+        subscribe(std::wstring(button.id), [this, action = button.action](vela::CommandEvent&) {
+            action_ = action;
             endModal(1);
         });
+    }
     addFolderField(state.installed);
     folder_->setText(state.choice.install.installDir);
     addOptions(state.choice.install);
