@@ -4,6 +4,7 @@
 #include "tests/support/material_reference.h"
 #include "tests/support/material_samples.h"
 #include "tests/support/picture_difference.h"
+#include "vela/render/material_light.h"
 #include "vela/render/simd_math.h"
 
 #include <cmath>
@@ -137,6 +138,26 @@ TEST(MaterialOverlay, ReducedLuminousGlassHasNoLightsBehindIt)
     EXPECT_NE(with(0.3F, PerformanceProfile::Full), with(0.8F, PerformanceProfile::Full));
     EXPECT_NE(with(0, PerformanceProfile::Full), with(0, PerformanceProfile::Reduced));
     EXPECT_EQ(with(0.3F, PerformanceProfile::Reduced), with(0.8F, PerformanceProfile::Reduced));
+}
+
+TEST(MaterialOverlay, AddsAMovingLightToWhatStandsStill)
+{
+    for (const std::uint8_t strength : {std::uint8_t{120}, std::uint8_t{255}}) {
+        SurfaceStyle style = busyStyle(MaterialPreset::LuminousGlass);
+        style.materialStrength = strength;
+        style.backlightOpacity = 255;
+        const Size size{61, 33};
+        const MaterialConstants constants = constantsOf(style, size);
+        ASSERT_TRUE(hasMovingLight(constants));
+        Picture unlit = overlayOf(withoutLight(constants));
+        const Picture whole = overlayOf(constants);
+        Picture lit{size, std::vector<Pixel>(unlit.pixels.size())};
+        addLight(constants, viewOf(unlit), viewOf(lit));
+        EXPECT_NE(unlit.pixels, lit.pixels);
+        EXPECT_TRUE(matches(lit, {0, 0, size.width, size.height}, 1, [&](std::int32_t x, std::int32_t y) {
+            return whole.at(x, y);
+        })) << int{strength};
+    }
 }
 
 // Whatever a skin says, pixels stay premultiplied and nothing overflows.

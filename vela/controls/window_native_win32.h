@@ -3,6 +3,7 @@
 
 #include "vela/controls/window.h"
 
+#include "vela/controls/moving_lights.h"
 #include "vela/controls/text_services_win32.h"
 #include "vela/controls/window_diagnostics.h"
 #include "vela/controls/window_geometry.h"
@@ -75,6 +76,7 @@ private:
     LRESULT onSettingChange(WPARAM wParam, LPARAM lParam);
     LRESULT onSystemLook(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onTimer(WPARAM wParam, LPARAM lParam);
+    void moveLights(std::uint32_t elapsed);
     void deactivate();
     void clearHover();
     void updateTooltip(std::uint64_t now);
@@ -131,6 +133,7 @@ private:
     const Control* tooltipFor_ = nullptr; // compared, never used
     WindowsTextServices textServices_;
     std::uint64_t lastTick_ = 0;
+    MovingLights lights_;
     wchar_t highSurrogate_ = 0;
     std::unique_ptr<TaskbarList> taskbar_;
     bool hasTaskbarButton_ = false;

@@ -2,7 +2,10 @@
 // size, and from there to the screen.
 #include "vela/controls/window_native_win32.h"
 
+#include "vela/render/material_clock.h"
 #include "vela/render/owned_gdi.h"
+
+#include <chrono>
 
 namespace vela {
 
@@ -12,6 +15,7 @@ LRESULT Window::Native::onPaint()
     // Before BeginPaint, which forgets it: the damage itself rather than the rectangle around it.
     const OwnedRegion damage(::CreateRectRgn(0, 0, 0, 0));
     ::GetUpdateRgn(handle, damage.get(), FALSE);
+    const auto start = std::chrono::steady_clock::now();
     PAINTSTRUCT paint{};
     const HDC screen = ::BeginPaint(handle, &paint);
     const Size size = window_.lastClientSize_;
@@ -25,6 +29,12 @@ LRESULT Window::Native::onPaint()
         ::BitBlt(screen, part.x, part.y, part.width, part.height, backBuffer_->dc(), part.x, part.y, SRCCOPY);
     }
     ::EndPaint(handle, &paint);
+    if (lights_.isPaintingDue()) {
+        const std::chrono::duration<std::uint32_t, std::micro> spent =
+            std::chrono::duration_cast<std::chrono::duration<std::uint32_t, std::micro>>(
+                std::chrono::steady_clock::now() - start);
+        lights_.painted(spent.count());
+    }
     return 0;
 }
 
@@ -37,6 +47,7 @@ LRESULT Window::Native::onPrintClient(HDC dc)
 
 void Window::Native::paintTree(HDC dc)
 {
+    setMaterialMoment({lights_.time(), lights_.profile()});
     window_.root_.paint(dc, {});
     if (!window_.debugOverlay_.on)
         return;

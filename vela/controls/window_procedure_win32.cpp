@@ -3,6 +3,7 @@
 
 #include "vela/controls/taskbar_list_win32.h"
 #include "vela/controls/tooltip_window_win32.h"
+#include "vela/render/performance_win32.h"
 
 #include <cwchar>
 
@@ -128,6 +129,7 @@ LRESULT Window::Native::onCreate()
     blockShutdown();
     admitTaskbar();
     lastTick_ = ::GetTickCount64();
+    lights_.setProfile(performanceProfile());
     ::SetTimer(window_.handle_, kWindowTimer, kWindowTimerPeriod, nullptr);
     window_.onCreated();
     return 0;
@@ -246,8 +248,18 @@ LRESULT Window::Native::onTimer(WPARAM wParam, LPARAM lParam)
     lastTick_ = now;
     if (window_.root_.wantsAnimation())
         tickAnimations(window_.root_, elapsed);
+    moveLights(elapsed);
     updateTooltip(now);
     return 0;
+}
+
+void Window::Native::moveLights(std::uint32_t elapsed)
+{
+    const HWND handle = window_.handle_;
+    if (!::IsWindowVisible(handle) || ::IsIconic(handle) || !showsMovingLight(window_.root_))
+        return;
+    if (lights_.tick(elapsed, performanceProfile()))
+        repaintMovingLights(window_.root_);
 }
 
 } // namespace vela

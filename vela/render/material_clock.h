@@ -1,5 +1,4 @@
-// The time of lights that move within a material. One clock for all windows, so that surfaces that look the
-// same keep looking the same; it runs only while a window that can be seen advances it. UI thread only.
+// Where lights that move within a material are. UI thread only.
 #pragma once
 
 #include "vela/theme/surface_style.h"
@@ -11,12 +10,19 @@ namespace vela {
 // Whether time changes how the surface looks: luminous glass with a light that turns.
 bool hasMovingLight(const SurfaceStyle& style) noexcept;
 
-// Turns of the light at that time, in milliseconds; the animation speed counts degrees a second, negative
-// ones turn backwards. 0 for a surface whose light rests; above 0 for all others, so the first step of an
-// animation does not jump.
+// Turns of the light at that time, in milliseconds; the animation speed counts turns in ten minutes, negative
+// ones backwards. 0 for a surface whose light rests; above 0 for all others, so the first step of an animation
+// does not jump.
 float lightPhase(const SurfaceStyle& style, std::uint64_t time) noexcept;
 
-std::uint64_t materialTime() noexcept;
-void advanceMaterialTime(std::uint32_t milliseconds) noexcept;
+// What surfaces are painted for. Each window sets its own moment before it paints, so that a part of it that
+// is painted again between two steps of an animation fits the rest.
+struct MaterialMoment {
+    std::uint64_t time = 0;
+    PerformanceProfile profile = PerformanceProfile::Full;
+};
+
+const MaterialMoment& materialMoment() noexcept;
+void setMaterialMoment(const MaterialMoment& moment) noexcept;
 
 } // namespace vela

@@ -1,11 +1,10 @@
 // Thick glasses: obsidian, blood, amber, layered and luminous.
+#include "vela/render/material_light.h"
 #include "vela/render/material_noise.h"
 #include "vela/render/material_stage.h"
 #include "vela/render/material_terms.h"
 
 #include <algorithm>
-#include <cmath>
-#include <numbers>
 
 namespace vela {
 namespace {
@@ -203,52 +202,6 @@ private:
     Float4 axis_{};
 };
 
-// A light behind the glass, brightest along an axis of its own.
-class Backlight {
-public:
-    explicit Backlight(const MaterialScene& scene) : scene_(scene)
-    {
-        const MaterialLook& look = scene.look();
-        if (look.phase > 0) {
-            const float turned = look.phase * (2 * std::numbers::pi_v<float>);
-            middleX_ += 0.16F * std::cos(turned);
-            middleY_ += 0.12F * std::sin(turned * 0.83F + 0.8F);
-        }
-        const float spread = look.blobScale / std::max(64.0F, scene.longerSide());
-        const float length = std::clamp(spread * 0.62F, 0.26F, 1.25F);
-        const float breadth = std::clamp(spread * 0.24F, 0.12F, 0.64F);
-        const float axisX = std::cos(look.blobAngle);
-        const float axisY = std::sin(look.blobAngle);
-        const float along = 1 / (length * length);
-        const float across = 1 / (breadth * breadth);
-        squareX_ = axisX * axisX * along + axisY * axisY * across;
-        squareY_ = axisY * axisY * along + axisX * axisX * across;
-        product_ = 2 * axisX * axisY * (along - across);
-    }
-
-    void beginRow(const MaterialRow& row) noexcept
-    {
-        const Float4 y = row.texture - middleY_;
-        constant_ = squareY_ * y * y;
-        linear_ = product_ * y;
-    }
-    Float4 at(std::size_t column) const noexcept
-    {
-        const Float4 x = scene_.textureX(column) - middleX_;
-        return simd::exponential(-(constant_ + x * (linear_ + x * squareX_)));
-    }
-
-private:
-    const MaterialScene& scene_;
-    float middleX_ = 0.30F;
-    float middleY_ = 0.62F;
-    float squareX_; // the falling off as a quadratic form
-    float squareY_;
-    float product_;
-    Float4 constant_{};
-    Float4 linear_{};
-};
-
 // With the reduced look the glass has its field and rim, but no lights behind it.
 class LuminousGlass {
 public:
@@ -276,7 +229,7 @@ public:
         if (look_.reduced)
             return sums.add(innerColor_,
                             innerField * (look_.backlightOpacity * 0.16F) + rim * (look_.rimLight * 0.10F));
-        sums.add(look_.backlight, light_.at(column) * (look_.backlightOpacity * 0.70F));
+        sums.add(look_.backlight, light_.at(column));
         sums.add(innerColor_, lower_ * load(&lowerAcross_[column]) * (look_.innerGlow * 0.54F) +
                                   innerField * (look_.innerGlow * 0.12F));
         sums.add(rimColor_, rim * (look_.rimLight * 0.34F));

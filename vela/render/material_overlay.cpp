@@ -9,7 +9,6 @@ namespace vela {
 namespace {
 
 using simd::Float4;
-using simd::Int4;
 
 using MakeStage = StagePointer (*)(const MaterialScene&);
 
@@ -66,10 +65,8 @@ simd::UInt4 pixelsOf(const FourSums& sums, float strength) noexcept
 {
     const Float4 alpha = sums.alpha * strength;
     const Float4 levels = 255.0F * (alpha > 1.0F ? 1.0F / sums.alpha : simd::splat(strength));
-    const auto level = [levels](Float4 sum) { return simd::truncated(sum * levels + 0.5F); };
-    const Int4 pixels =
-        level(sums.blue) | level(sums.green) << 8 | level(sums.red) << 16 | level(sums.alpha) << 24;
-    return reinterpret_cast<simd::UInt4>(pixels);
+    return simd::packedPixels(sums.blue * levels, sums.green * levels, sums.red * levels,
+                              sums.alpha * levels);
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 
 #include "vela/render/coverage.h"
 #include "vela/render/material_clock.h"
+#include "vela/render/material_light.h"
 #include "vela/render/material_overlay.h"
-#include "vela/render/performance_win32.h"
 #include "vela/render/pixel_layer_gdi.h"
 #include "vela/render/surface_bitmaps.h"
 #include "vela/render/surface_outline.h"
@@ -26,10 +26,23 @@ void compositeCut(HDC dc, const Rect& rect, const SurfaceStyle& style, Write&& w
     renderPixelLayer(dc, rect, [&](const LayerTarget& target) { write(target, coverage); });
 }
 
+PixelView unlitOverlay(const MaterialConstants& constants)
+{
+    static MaterialOverlayCache overlays(kMostKeptPixels);
+    const MaterialConstants unlit = withoutLight(constants);
+    return overlays.ensure(unlit, [&unlit](const PixelView& pixels) {
+        renderMaterialOverlay(unlit, {pixels, {}});
+        return true;
+    });
+}
+
 void drawInSoftware(HDC dc, const Rect& rect, const SurfaceStyle& style, const MaterialConstants& constants)
 {
     const PixelView kept = materialOverlays().ensure(constants, [&constants](const PixelView& pixels) {
-        renderMaterialOverlay(constants, {pixels, {}});
+        if (hasMovingLight(constants))
+            addLight(constants, unlitOverlay(constants), pixels);
+        else
+            renderMaterialOverlay(constants, {pixels, {}});
         return true;
     });
     if (kept.pixels)
@@ -51,7 +64,8 @@ MaterialOverlayCache& materialOverlays()
 
 MaterialConstants currentMaterialConstants(const SurfaceStyle& style, const Rect& rect)
 {
-    return materialConstants(style, rect, lightPhase(style, materialTime()), performanceProfile());
+    const MaterialMoment& now = materialMoment();
+    return materialConstants(style, rect, lightPhase(style, now.time), now.profile);
 }
 
 void compositeMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style, const PixelView& overlay)
@@ -77,7 +91,7 @@ void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceS
         return;
     SurfaceStyle seamless = style;
     seamless.uvMapping = MappingSpace::Global;
-    const float phase = lightPhase(style, materialTime());
+    const float phase = lightPhase(style, materialMoment().time);
     drawInSoftware(dc, rect, seamless, materialConstants(seamless, rect, phase, profile));
 }
 

@@ -64,6 +64,25 @@ inline void storeChannels(Pixel* out, Int4 first, Int4 second, Int4 third, Int4 
 #endif
 }
 
+// Four pixels of which at least `left` exist, at least one; those beyond are transparent.
+inline UInt4 loadPixels(const Pixel* from, std::int32_t left) noexcept
+{
+    UInt4 four{};
+    if (left >= kLanes)
+        std::memcpy(&four, from, sizeof four);
+    else
+        std::memcpy(&four, from, static_cast<std::size_t>(left) * sizeof(Pixel));
+    return four;
+}
+
+// Four pixels from their channels: a lane for each pixel, 0 to 255, rounded to the nearest level.
+inline UInt4 packedPixels(Float4 blue, Float4 green, Float4 red, Float4 alpha) noexcept
+{
+    const auto level = [](Float4 value) { return truncated(value + 0.5F); };
+    const Int4 pixels = level(blue) | level(green) << 8 | level(red) << 16 | level(alpha) << 24;
+    return reinterpret_cast<UInt4>(pixels);
+}
+
 inline void store(Pixel* out, UInt4 pixels) noexcept { std::memcpy(out, &pixels, sizeof pixels); }
 
 inline void fillPixels(Pixel* out, std::int32_t count, Pixel pixel) noexcept
