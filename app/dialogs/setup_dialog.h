@@ -7,6 +7,7 @@
 #include "vela/controls/chrome_title_bar.h"
 #include "vela/controls/designed_popup.h"
 #include "vela/controls/dialog_window.h"
+#include "vela/controls/window_edge.h"
 
 #include <string_view>
 
@@ -66,8 +67,9 @@ private:
     vela::Size size_;
     std::wstring title_;
     bool minimizable_;
-    vela::ChromeTitleBar* titleBar_ = nullptr; // both owned by the root
+    vela::ChromeTitleBar* titleBar_ = nullptr; // all owned by the root
     vela::DesignedPopup* popup_ = nullptr;
+    vela::WindowEdge* edge_ = nullptr;
 };
 
 } // namespace setup

@@ -55,6 +55,7 @@ SetupDialog::SetupDialog(DialogHost host, const Design& design, std::wstring_vie
     popup_ = &root().addControl(std::make_unique<vela::DesignedPopup>(
         std::wstring(design.popupId), vela::Rect{0, top, size_.width, size_.height - top}));
     popup_->setClosable(false); // the title bar closes the window
+    popup_->setFramed(false);
     popup_->setContentColumn(design.columnLeft, design.columnRight);
 }
 
@@ -62,6 +63,10 @@ SetupDialog::~SetupDialog() { destroy(); }
 
 void SetupDialog::finish(vela::Control* focus)
 {
+    // The last control lies above all others.
+    edge_ = &root().addControl(
+        std::make_unique<vela::WindowEdge>(L"setup.edge", vela::Rect{0, 0, size_.width, size_.height}));
+    edge_->setStyleKey(popup_->styleKey());
     setStyleSource(host_.styles);
     focusControl(focus);
 }
@@ -72,6 +77,7 @@ void SetupDialog::growBy(std::int32_t height)
     vela::Rect bounds = popup_->bounds();
     bounds.height += height;
     popup_->setBounds(bounds);
+    edge_->setBounds({0, 0, size_.width, size_.height});
 }
 
 bool SetupDialog::open()

@@ -179,7 +179,7 @@ TEST_F(ChromeTest, APopupPaintsItsPartsInsideItself)
     };
     const PopupStyle style;
     EXPECT_EQ(rectOfText(L"Titul").x, style.paddingX + style.iconSize + 14);
-    EXPECT_EQ(rectOfText(L"Zprava").y, 40 + style.headerHeight);
+    EXPECT_EQ(rectOfText(L"Zprava").y, 40 + style.headerHeight + 16); // clear of the header's band
     EXPECT_EQ(
         std::count_if(calls.begin(), calls.end(), [](const auto& call) { return call.what == L"glyph"; }),
         2); // the icon's mark and the close button's

@@ -270,14 +270,14 @@ TEST_F(TextInputTest, PaintingShowsStateSelectionAndCaret)
     const TextInputStyle style;
     ASSERT_EQ(painted(L"fill").size(), 1u);
     EXPECT_EQ(painted(L"fill")[0].rect, (Rect{30 + 80, 48, 1, 16}));
-    EXPECT_EQ(painted(L"line")[0].rect.x, 30);
+    EXPECT_EQ(painted(L"text")[0].rect.x, 30);
     press(kKeyLeft, kShift);
     ASSERT_EQ(painted(L"surface").size(), 2u);
     EXPECT_EQ(painted(L"surface")[1].rect, (Rect{30 + 72, 46, 8, 20}));
     window.focused = nullptr;
     EXPECT_TRUE(painted(L"fill").empty());
     input.setEnabled(false);
-    EXPECT_EQ(painted(L"line")[0].color, style.text.disabledColor);
+    EXPECT_EQ(painted(L"text")[0].color, style.text.disabledColor);
     input.setText(L"");
     input.setPlaceholder(L"Slozka");
     EXPECT_EQ(painted(L"text")[0].text, L"Slozka");

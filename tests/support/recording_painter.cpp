@@ -93,6 +93,11 @@ void paintBadge(HDC, const Rect& rect, const SurfaceStyle& style)
     calls().push_back({L"badge", rect, {}, style, style.fill});
 }
 
+void paintControlSurface(HDC, const Rect& rect, const SurfaceStyle& style)
+{
+    calls().push_back({L"surface", rect, {}, style, style.fill});
+}
+
 void paintProgressFill(HDC, const Rect& track, const SurfaceStyle& fill, float end)
 {
     calls().push_back(

@@ -5,6 +5,7 @@
 #include "vela/theme/skin_document.h"
 #include "vela/theme/style_sheet.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -24,5 +25,12 @@ bool drawFrontSheet(const std::wstring& path, std::vector<vela::SkinDefinition> 
 
 // All control kinds of a skin with their variants and states.
 bool drawSkinSheet(const std::wstring& path, const vela::SkinDefinition& skin);
+
+// Takes a sheet's name and what draws it to a path.
+using SheetList = std::function<void(const std::wstring& name,
+                                     const std::function<bool(const std::wstring& path)>& drawSheet)>;
+
+// The setup's own windows in every skin and state.
+void drawDialogs(const std::vector<vela::SkinDefinition>& skins, const SheetList& draw);
 
 } // namespace gallery

@@ -80,7 +80,7 @@ int wmain(int count, wchar_t** arguments)
     const std::filesystem::path folder = arguments[1];
     const std::wstring word = count > 3 ? arguments[3] : L"";
     int failed = 0;
-    const auto draw = [&](const std::wstring& name, const auto& drawSheet) {
+    const gallery::SheetList draw = [&](const std::wstring& name, const auto& drawSheet) {
         if (name.find(word) == std::wstring::npos)
             return;
         const bool drawn = drawSheet((folder / (name + L".png")).wstring());
@@ -95,6 +95,7 @@ int wmain(int count, wchar_t** arguments)
     for (const vela::SkinDefinition& skin : skins)
         draw(L"skin-" + skin.id,
              [&](const std::wstring& path) { return gallery::drawSkinSheet(path, skin); });
+    gallery::drawDialogs(skins, draw);
     if (!skins.empty())
         drawShowcase(skins, draw);
     if (skins.empty())

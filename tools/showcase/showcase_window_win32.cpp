@@ -1,8 +1,7 @@
 #include "tools/showcase/showcase_window_win32.h"
 
 #include "tools/showcase_content/content.h"
-
-#include "vela/theme/record_scale.h"
+#include "tools/window_camera_win32.h"
 
 #include <windows.h>
 
@@ -23,21 +22,8 @@ bool ShowcaseWindow::open()
     return true;
 }
 
-void ShowcaseWindow::changeDpi(std::int32_t newDpi)
-{
-    RECT place{};
-    if (!::GetWindowRect(handle(), &place))
-        return;
-    place.right = place.left + vela::scaledLength(kClientSize.width, newDpi);
-    place.bottom = place.top + vela::scaledLength(kClientSize.height, newDpi);
-    ::SendMessageW(handle(), WM_DPICHANGED, MAKEWPARAM(newDpi, newDpi), reinterpret_cast<LPARAM>(&place));
-}
+void ShowcaseWindow::changeDpi(std::int32_t newDpi) { tools::changeDpi(*this, kClientSize, newDpi); }
 
-std::unique_ptr<vela::DibSurface> ShowcaseWindow::picture()
-{
-    auto surface = std::make_unique<vela::DibSurface>(sizeOf(clientRect()));
-    ::SendMessageW(handle(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(surface->dc()), PRF_CLIENT);
-    return surface;
-}
+std::unique_ptr<vela::DibSurface> ShowcaseWindow::picture() { return tools::pictureOf(*this); }
 
 } // namespace showcase

@@ -1,7 +1,6 @@
 #include "vela/controls/check_box.h"
 
 #include "vela/render/mark_painter.h"
-#include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 #include "vela/theme/record_scale.h"
 #include "vela/theme/style_sheet.h"
@@ -58,7 +57,7 @@ void CheckBox::paint(HDC dc, Point origin)
 {
     const Rect all = movedBy(bounds(), origin);
     const Rect box = movedBy(boxRect(), {all.x, all.y});
-    paintSurface(dc, box, boxSurface());
+    paintControlSurface(dc, box, boxSurface());
     if (checked_)
         paintGlyph(dc, Glyph::Check, markBox(boxSurface().shape, box), dpi(),
                    isEnabled() ? style_.checkColor : style_.text.disabledColor);

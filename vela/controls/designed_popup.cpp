@@ -19,12 +19,12 @@ namespace {
 constexpr Size kCloseButton{32, 28};
 constexpr std::int32_t kCloseMargin = 8;
 constexpr std::int32_t kTitleGap = 14;
-constexpr std::int32_t kBandGap = 12;
+constexpr std::int32_t kBandGap = 16;
 
 constexpr struct {
     std::wstring_view text;
     Glyph glyph;
-} kIconGlyphs[] = {{L"i", Glyph::Info}, {L"!", Glyph::Warning}, {L"X", Glyph::Close}};
+} kIconGlyphs[] = {{L"i", Glyph::Info}, {L"!", Glyph::Warning}, {L"X", Glyph::Failure}};
 
 // Closes its popup before it says so: whoever hears of it may destroy both.
 class PopupCloseButton final : public ThemedButton {
@@ -140,6 +140,12 @@ std::int32_t DesignedPopup::missingHeight() const
     return std::max(measureText(message_, style_.messageText, dpi(), room.width) - room.height, 0);
 }
 
+void DesignedPopup::setFramed(bool framed)
+{
+    if (std::exchange(framed_, framed) != framed)
+        invalidate(InvalidationReason::State);
+}
+
 void DesignedPopup::setOpen(bool open)
 {
     open_ = open;
@@ -190,29 +196,54 @@ Rect DesignedPopup::messageRect() const noexcept
     // A header that is seen as a band ends where it ends; one without a ground of its own already keeps away.
     const bool band = style_.header.drawFill || style_.header.drawBorder;
     const std::int32_t top = style_.headerHeight + (band ? scaled(kBandGap) : 0);
-    const std::int32_t below = buttons_.empty() ? 0 : style_.actionHeight + style_.paddingY;
     return {contentLeft(), top, std::max(contentRight() - contentLeft(), 0),
-            std::max(bounds().height - top - style_.paddingY - below, 0)};
+            std::max(bounds().height - top - style_.paddingY - footerHeight(), 0)};
+}
+
+std::int32_t DesignedPopup::footerHeight() const noexcept
+{
+    return buttons_.empty() ? 0 : style_.actionHeight + 2 * style_.paddingY;
+}
+
+void DesignedPopup::paintGround(HDC dc, const Rect& box) const
+{
+    SurfaceStyle ground = style_.surface;
+    if (!framed_) {
+        ground.shape = ShapeKind::Rect;
+        ground.drawBorder = ground.showOutline = ground.showShadow = ground.showGlow = false;
+    }
+    paintSurface(dc, box, ground);
+    paintSurface(dc, {box.x, box.y, box.width, style_.headerHeight}, style_.header);
+    const std::int32_t footer = footerHeight();
+    // The strip would fill the round or cut corners of a frame.
+    if (footer == 0 || framed_)
+        return;
+    const std::int32_t top = box.y + box.height - footer;
+    paintSurface(dc, {box.x, top, box.width, footer}, style_.footer);
+    fillShape(dc, {box.x, top, box.width, scaled(1)}, ShapeKind::Rect, style_.footer.border);
+}
+
+void DesignedPopup::paintIcon(HDC dc, Point at) const
+{
+    const Rect icon = movedBy(iconRect(), at);
+    paintBadge(dc, icon, style_.icon);
+    const auto* const row = std::find_if(std::begin(kIconGlyphs), std::end(kIconGlyphs),
+                                         [this](const auto& known) { return known.text == glyph_; });
+    const std::int32_t side = icon.width * 9 / 16;
+    const Rect inner{icon.x + (icon.width - side) / 2, icon.y + (icon.height - side) / 2, side, side};
+    if (row != std::end(kIconGlyphs))
+        paintGlyph(dc, row->glyph, inner, dpi(), style_.iconText.color);
+    else
+        drawText(dc, icon, glyph_, style_.iconText, dpi(), {.align = TextAlign::Center});
 }
 
 void DesignedPopup::paint(HDC dc, Point origin)
 {
     const Rect box = movedBy(bounds(), origin);
     const Point at{box.x, box.y};
-    paintSurface(dc, box, style_.surface);
-    paintSurface(dc, {box.x, box.y, box.width, style_.headerHeight}, style_.header);
-    if (!glyph_.empty()) {
-        const Rect icon = movedBy(iconRect(), at);
-        paintBadge(dc, icon, style_.icon);
-        const auto* const row = std::find_if(std::begin(kIconGlyphs), std::end(kIconGlyphs),
-                                             [this](const auto& known) { return known.text == glyph_; });
-        const std::int32_t side = icon.width / 2;
-        const Rect inner{icon.x + (icon.width - side) / 2, icon.y + (icon.height - side) / 2, side, side};
-        if (row != std::end(kIconGlyphs))
-            paintGlyph(dc, row->glyph, inner, dpi(), style_.iconText.color);
-        else
-            drawText(dc, icon, glyph_, style_.iconText, dpi(), {.align = TextAlign::Center});
-    }
+    paintGround(dc, box);
+    if (!glyph_.empty())
+        paintIcon(dc, at);
     const std::int32_t titleRight = close_->isVisible() ? close_->bounds().x : contentRight();
     const Rect title{titleLeft(), 0, std::max(titleRight - titleLeft(), 0), style_.headerHeight};
     drawText(dc, movedBy(title, at), title_, style_.titleText, dpi());

@@ -51,6 +51,9 @@ public:
     // for popups on which other controls stand in the same column. The icon takes the middle of the room
     // before it. Without it all of them keep the style's padding, and the icon stands before the title.
     void setContentColumn(std::int32_t left, std::int32_t right);
+    // A popup that is the ground of its window has neither corners nor a border of its own: the window has
+    // them.
+    void setFramed(bool framed);
     // By how many pixels the popup must grow for its whole message to be seen; 0 when it is.
     std::int32_t missingHeight() const;
     void setOpen(bool open);
@@ -70,6 +73,9 @@ private:
     void setPart(std::wstring& part, std::wstring text);
     std::int32_t contentLeft() const noexcept;
     std::int32_t contentRight() const noexcept;
+    std::int32_t footerHeight() const noexcept;
+    void paintGround(HDC dc, const Rect& box) const;
+    void paintIcon(HDC dc, Point at) const;
     std::wstring copiedText() const;
     bool moveAlongActions(const KeyEvent& event);
     std::int32_t titleLeft() const noexcept;
@@ -81,6 +87,7 @@ private:
     std::wstring message_;
     std::vector<PopupAction> actions_;
     std::optional<ContentColumn> column_;
+    bool framed_ = true;
     bool open_ = true;
     PopupStyle designStyle_; // at 96 DPI, as the buttons take it
     PopupStyle style_;

@@ -2,7 +2,6 @@
 
 #include "vela/render/mark_painter.h"
 #include "vela/render/shape.h"
-#include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 #include "vela/text.h"
 #include "vela/theme/record_scale.h"
@@ -42,8 +41,8 @@ void ProgressBar::paint(HDC dc, Point origin)
     const std::int32_t labelRoom = showsLabel_ ? std::min(style_.labelWidth, all.width) : 0;
     const Rect bar{all.x, all.y, all.width - labelRoom, all.height};
     const Rect track = insetBy(bar, style_.insetX, style_.insetY);
-    paintSurface(dc, bar, style_.frame);
-    paintSurface(dc, track, style_.track);
+    paintControlSurface(dc, bar, style_.frame);
+    paintControlSurface(dc, track, style_.track);
     paintProgressFill(dc, track, style_.fill, progressEnd(track.width, value_));
     if (showsLabel_) {
         const Rect label{bar.x + bar.width + style_.labelPadding, all.y,

@@ -62,7 +62,7 @@ std::vector<TextInput::Chip> TextInput::chips() const
 void TextInput::paint(HDC dc, Point origin)
 {
     const Rect box = movedBy(bounds(), origin);
-    paintSurface(dc, box, surface());
+    paintControlSurface(dc, box, surface());
     paintChips(dc, {box.x, box.y});
     paintText(dc, {box.x, box.y});
     // The focused surface tells where the keyboard is; one that is locked has none.
@@ -78,13 +78,13 @@ void TextInput::paintChips(HDC dc, Point at)
     const PaintClip clip(dc, {movedBy(localBounds(), at)});
     for (std::size_t i = 0; i < shown.size(); ++i) {
         const Chip& chip = shown[i];
-        paintSurface(dc, movedBy(chip.body, at), style_.attachmentSurface);
-        paintSurface(dc, movedBy(chip.image, at), style_.attachmentImageSurface);
+        paintControlSurface(dc, movedBy(chip.body, at), style_.attachmentSurface);
+        paintControlSurface(dc, movedBy(chip.image, at), style_.attachmentImageSurface);
         drawText(dc, movedBy(chip.name, at), attachments_[i].name, style_.attachmentText, dpi());
         if (chip.remove.width == 0)
             continue;
         const Rect remove = movedBy(chip.remove, at);
-        paintSurface(dc, remove, style_.attachmentRemoveSurface);
+        paintControlSurface(dc, remove, style_.attachmentRemoveSurface);
         const std::int32_t inset = remove.width / 4;
         paintGlyph(dc, Glyph::Close,
                    {remove.x + inset, remove.y + inset, remove.width - 2 * inset, remove.height - 2 * inset},
@@ -109,9 +109,15 @@ void TextInput::paintText(HDC dc, Point at)
         const std::int32_t height = std::min(std::max(style_.lineHeight, caret.height), area.height);
         paintSurface(dc, centredIn(area, area.x + from - scroll_, to - from, height), style_.selection);
     }
-    const bool usable = isEnabled() && !model_.locked();
-    drawUnclippedLine(dc, {area.x - scroll_, caret.y, textWidth() + 1, caret.height}, model_.text(),
-                      style_.text, dpi(), usable ? style_.text.color : style_.text.disabledColor);
+    // What cannot be changed is still there to be read.
+    const FontSpec& font = model_.locked() ? style_.placeholderText : style_.text;
+    const TextTone tone = isEnabled() ? TextTone::Enabled : TextTone::Disabled;
+    // Only a text that is longer than the field needs to be drawn by what knows no ellipsis.
+    if (scroll_ == 0 && textWidth() <= area.width)
+        drawText(dc, {area.x, caret.y, area.width, caret.height}, model_.text(), font, dpi(), {tone});
+    else
+        drawUnclippedLine(dc, {area.x - scroll_, caret.y, textWidth() + 1, caret.height}, model_.text(), font,
+                          dpi(), isEnabled() ? font.color : font.disabledColor);
     if (hasFocus() && caretShown_)
         fillShape(dc, caret, ShapeKind::Rect, style_.caretColor);
 }

@@ -2,7 +2,6 @@
 
 #include "vela/render/mark_painter.h"
 #include "vela/render/shape.h"
-#include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 #include "vela/theme/record_scale.h"
 #include "vela/theme/style_sheet.h"
@@ -76,7 +75,7 @@ void ThemedButton::paint(HDC dc, Point origin)
     const Rect box = movedBy(bounds(), origin);
     const VisualState state = visualState();
     const FontSpec& font = style_.text[state];
-    paintSurface(dc, box, style_.surface[state]);
+    paintControlSurface(dc, box, style_.surface[state]);
     const TextTone tone = isEnabled() ? TextTone::Enabled : TextTone::Disabled;
     if (glyph_) {
         const std::int32_t side = captionGlyphSize(dpi());

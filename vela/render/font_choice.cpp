@@ -22,6 +22,9 @@ constexpr WeightSuffix kWeightSuffixes[] = {
 
 constexpr std::int32_t kRegularWeight = 400;
 
+// GDI cuts longer names: the system's own "Segoe UI Variable Display Semib" is one.
+constexpr std::size_t kLongestFamily = 31;
+
 constexpr std::wstring_view kFontExtensions[] = {L".ttf", L".otf", L".ttc", L".otc"};
 
 // A point size comes from a skin and may be anything; beyond this no text fits a screen.
@@ -44,7 +47,7 @@ FontFace chooseFace(std::wstring_view family, std::int32_t weight,
         for (const WeightSuffix& row : kWeightSuffixes) {
             if (row.weight != weight)
                 continue;
-            std::wstring ofWeight = std::wstring(wanted).append(row.suffix);
+            std::wstring ofWeight = std::wstring(wanted).append(row.suffix).substr(0, kLongestFamily);
             if (isInstalled(ofWeight)) // asked for more than regular, GDI might thicken what is heavy already
                 return {std::move(ofWeight), std::min(weight, kRegularWeight)};
         }

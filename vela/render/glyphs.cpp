@@ -36,8 +36,9 @@ constexpr Move kResetSize[] = {
     {1, 0.78F, true},     {1, 1},         {0.78F, 1},     {0.22F, 1, true}, {0, 1},        {0, 0.78F},
     {0.33F, 0.33F, true}, {0.67F, 0.33F}, {0.67F, 0.67F}, {0.33F, 0.67F},   {0.33F, 0.33F}};
 constexpr Move kClose[] = {{0, 0, true}, {1, 1}, {1, 0, true}, {0, 1}};
-constexpr Move kInfo[] = {{0.5F, 0.22F, true}, {0.5F, 0.44F, true}, {0.5F, 0.8F}};
-constexpr Move kWarning[] = {{0.5F, 0.2F, true}, {0.5F, 0.56F}, {0.5F, 0.78F, true}};
+constexpr Move kInfo[] = {{0.5F, 0.12F, true}, {0.5F, 0.42F, true}, {0.5F, 0.9F}};
+constexpr Move kWarning[] = {{0.5F, 0.1F, true}, {0.5F, 0.58F}, {0.5F, 0.88F, true}};
+constexpr Move kFailure[] = {{0.16F, 0.16F, true}, {0.84F, 0.84F}, {0.84F, 0.16F, true}, {0.16F, 0.84F}};
 
 struct Design {
     std::span<const Move> moves;
@@ -50,6 +51,7 @@ constexpr Design kDesigns[kGlyphCount] = {
     {kChevronLeft, 1.5F, false}, {kChevronRight, 1.5F, false}, {kMinimize, 1, true},
     {kMaximize, 1, true},        {kRestore, 1, true},          {kResetSize, 1, true},
     {kClose, 1.1F, false},       {kInfo, 2.2F, false},         {kWarning, 2.2F, false},
+    {kFailure, 2.2F, false},
 };
 
 struct Segment {

@@ -71,6 +71,16 @@ SurfaceStyle lightOf(const SurfaceStyle& style)
     return light;
 }
 
+// What lies around a surface rather than on it.
+SurfaceStyle haloOf(const SurfaceStyle& style)
+{
+    SurfaceStyle halo = style;
+    halo.drawFill = halo.useGradient = halo.drawBorder = halo.showOutline = halo.showInnerShadow =
+        halo.useNoise = halo.materialEnabled = false;
+    halo.materialDepth = 0;
+    return halo;
+}
+
 } // namespace
 
 void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color)
@@ -118,6 +128,17 @@ void paintBadge(HDC dc, const Rect& rect, const SurfaceStyle& style)
         stroke(1.0F, style.border);
     if (style.showOutline)
         stroke(static_cast<float>(style.outlineWidth), style.outline);
+}
+
+void paintControlSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
+{
+    if (style.image || style.shape == ShapeKind::Rect)
+        return paintSurface(dc, rect, style);
+    if (style.showShadow || style.showGlow)
+        paintSurface(dc, rect, haloOf(style));
+    const bool hasFace = style.drawFill || style.useGradient || style.materialEnabled;
+    if (hasFace || style.drawBorder || style.showOutline)
+        paintBadge(dc, rect, style);
 }
 
 void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end)

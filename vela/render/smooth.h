@@ -24,8 +24,9 @@ enum class Glyph : std::uint8_t {
     Close,
     Info,
     Warning,
+    Failure,
 };
-inline constexpr int kGlyphCount = 12;
+inline constexpr int kGlyphCount = 13;
 
 // The glyph fills the square in the middle of the box. The line grows with the DPI.
 void drawGlyph(const LayerTarget& target, Glyph glyph, const Rect& box, std::int32_t dpi, Color color,

@@ -195,8 +195,9 @@ std::vector<ContrastCheck> Judge::judged()
         judgeRules<PopupStyle>(style, grounds_);
         const Tones bed = faces_(style.surface, grounds_);
         judgeButton(style.closeButton, "close button ", bed);
-        judgeButton(style.primaryAction, "primary action ", bed);
-        judgeButton(style.secondaryAction, "secondary action ", bed);
+        const Tones footer = facesOf(style.footer, bed);
+        judgeButton(style.primaryAction, "primary action ", footer);
+        judgeButton(style.secondaryAction, "secondary action ", footer);
     });
     judgeKind<TooltipStyle>(ControlKind::Tooltip);
     return std::move(checks_);

@@ -186,6 +186,7 @@ struct PopupRows {
         VELA_FIELD(headerShape, "headerShape"),
         VELA_FIELD(iconShape, "iconShape"),
         VELA_SHAPED(header, headerShape, "header"),
+        VELA_FIELD(footer, "footer"),
         VELA_SHAPED(surface, shape, "surface"),
         VELA_FIELD(shadowOffsetX, "shadowOffsetX"),
         VELA_FIELD(shadowOffsetY, "shadowOffsetY"),

@@ -397,6 +397,7 @@ struct SelectableTextStyle {
 
 struct PopupStyle {
     SurfaceStyle header;
+    SurfaceStyle footer; // the strip under a row of actions; its border is the line above it
     SurfaceStyle surface;
     ShapeKind shape = ShapeKind::RoundedRect;
     std::int32_t shadowOffsetX = 0;

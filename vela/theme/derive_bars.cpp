@@ -6,14 +6,14 @@
 namespace vela {
 namespace {
 
-// A thin bar without a frame: the track is an outline, its inset makes it eight pixels of the control's 28.
+// A thin bar without a frame: the track is an outline, its inset makes it six pixels of the control's 28.
 void makeSlim(const DeriveContext& context, ProgressBarStyle& style)
 {
     style.frame = bareSurface(context, style.frameShape);
     style.track =
         surfaceOf(context, {.fill = context.control.normal, .border = context.edge}, style.trackShape);
     style.insetX = 0;
-    style.insetY = 10;
+    style.insetY = 11;
 }
 
 void makeFramed(const DeriveContext& context, ProgressBarStyle& style)

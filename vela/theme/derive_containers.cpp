@@ -3,13 +3,24 @@
 #include "vela/theme/derive_builders.h"
 #include "vela/theme/oklab.h"
 
+#include <algorithm>
+
 namespace vela {
 namespace {
 
-constexpr Type kPopupTitle = {.points = 6, .weight = 200};
+constexpr Type kPopupTitle = {.points = 8, .weight = 200};
 constexpr Type kCardTitle = {.points = 2, .weight = 200};
 constexpr Type kGlyph = {.points = 4, .weight = 300};
 constexpr std::uint8_t kGlassOpacity = 214;
+
+// Sentences are read in the regular weight, however heavy a skin makes its captions.
+FontSpec readingTextOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted)
+{
+    constexpr std::int32_t kRegular = 400;
+    FontSpec font = textOn(context, on, wanted);
+    font.weight = std::min(font.weight, kRegular);
+    return font;
+}
 
 void deriveCard(const DeriveContext& context, Color fill, CardStyle& style)
 {
@@ -56,26 +67,29 @@ void deriveChip(const DeriveContext& context, Hue hue, StatusChipStyle& style)
     style.badge = plateOf(context, context.markFill(lead, bed.tones, Form::Plate), style.badgeShape);
 }
 
-void derivePopup(const DeriveContext& context, Color fill, Color frame, Hue hue, Emphasis emphasis,
-                 PopupStyle& style)
+void derivePopup(const DeriveContext& context, Color frame, Hue badge, PopupStyle& style)
 {
     const ShapeKind button = context.look.controlShape;
     style.shape = context.look.panelShape;
     style.headerShape = context.look.panelShape;
     style.iconShape = ShapeKind::Pill;
-    style.surface = groundOf(context, fill, frame, style.shape);
+    style.surface = groundOf(context, context.grounds.panel, frame, style.shape);
     style.header = bareSurface(context, style.headerShape);
-    style.icon = badgeOf(context, hue, context.ground, style.iconShape);
+    style.footer = groundOf(context, context.grounds.glass, context.hairline, ShapeKind::Rect);
+    style.footer.drawBorder = false;
+    style.icon = badgeOf(context, badge, context.ground, style.iconShape);
     const Bed bed = bedOn(style.surface, context.ground);
     const Color ink = context.inkOn(bedOn(style.icon, bed).tones);
     style.iconText = textOf(context, ink, ink, kGlyph);
     style.titleText = textOn(context, bed.tones, {context.strongText, context.text}, kPopupTitle);
-    style.messageText = textOn(context, bed.tones, {context.text});
+    style.messageText = readingTextOn(context, bed.tones, {context.text});
     deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, bed, button, style.closeButton);
-    deriveButton(context, {hue, emphasis, kLabel}, bed, button, style.primaryAction);
-    deriveButton(context, {}, bed, button, style.secondaryAction);
+    const Bed actions = bedOn(style.footer, bed);
+    deriveButton(context, {Hue::Accent, Emphasis::Solid, kLabel}, actions, button, style.primaryAction);
+    deriveButton(context, {}, actions, button, style.secondaryAction);
     style.showShadow = context.look.form(Form::Raised).shadow > 0;
-    style.headerHeight = 64;
+    // With the title bar of the mode, messages begin at one height in all windows.
+    style.headerHeight = context.look.flushCaptionButtons ? 80 : 72;
     style.iconSize = 32;
     style.paddingX = 20;
     style.paddingY = 20;
@@ -108,9 +122,9 @@ void buildTexts(const DeriveContext& context, StyleSheet& sheet)
 {
     VariantTable<TextStyle>& texts = sheet.table<TextStyle>();
     const Tones& ground = context.ground.tones;
-    texts.ensure(L"default") = textOn(context, ground, {context.text});
+    texts.ensure(L"default") = readingTextOn(context, ground, {context.text});
     texts.ensure(L"title") = textOn(context, ground, {context.strongText}, kLabel);
-    texts.ensure(L"muted") = textOn(context, ground, {context.mutedText});
+    texts.ensure(L"muted") = readingTextOn(context, ground, {context.mutedText});
     FontSpec& mono = texts.ensure(L"mono");
     mono = context.theme.monoFont;
     mono.color = context.text;
@@ -177,11 +191,11 @@ void buildPopups(const DeriveContext& context, StyleSheet& sheet)
 {
     VariantTable<PopupStyle>& popups = sheet.table<PopupStyle>();
     const Color frame = context.theme.frame;
-    derivePopup(context, context.grounds.panel, frame, Hue::Accent, Emphasis::Solid,
-                popups.ensure(L"default"));
-    // A failure is told, not shouted: the badge is red, the frame leans to red, the button is only tinted.
-    derivePopup(context, context.grounds.dangerPopup, mixed(frame, context.solid(Hue::Danger), 0.6F),
-                Hue::Danger, Emphasis::Soft, popups.ensure(L"danger"));
+    derivePopup(context, frame, Hue::Accent, popups.ensure(L"default"));
+    // A failure is told, not shouted: the badge is red and the frame leans to red; what Enter presses looks
+    // as everywhere.
+    derivePopup(context, mixed(frame, context.solid(Hue::Danger), 0.6F), Hue::Danger,
+                popups.ensure(L"danger"));
 }
 
 void buildTooltips(const DeriveContext& context, StyleSheet& sheet)

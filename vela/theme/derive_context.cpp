@@ -126,8 +126,7 @@ void DeriveContext::resolveGrounds()
                .glass = near(theme.header, 0.030F),
                .card = near(theme.control, 0.024F),
                .raisedCard = near(theme.control, 0.036F),
-               .dashboard = near(theme.shell, 0.030F),
-               .dangerPopup = near(solid(Hue::Danger), 0.009F)};
+               .dashboard = near(theme.shell, 0.030F)};
     header.fill = groundFill(theme.header);
     header.tones = shades(header.fill, Form::Ground);
 }

@@ -26,7 +26,6 @@ struct Grounds {
     Color card = 0;
     Color raisedCard = 0;
     Color dashboard = 0;
-    Color dangerPopup = 0;
 };
 
 class DeriveContext {

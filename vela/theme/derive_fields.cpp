@@ -30,7 +30,8 @@ FieldFills fieldFills(const DeriveContext& context, Form form)
     fills.pressed = state(mixed(fills.normal, context.control.pressed, 0.5F), {fills.normal, fills.hot});
     // The field in use is the calmest one: deeper in the dark, whiter in the light.
     fills.focused = state(lightened(fills.normal, context.dark ? -0.03F : 0.03F), {});
-    fills.disabled = context.control.disabled;
+    // The ink has to be read here too: what is locked is shown on it.
+    fills.disabled = context.fillUnder(ink, fills.normal, context.control.disabled, Form::Plate, {});
     return fills;
 }
 
@@ -85,7 +86,9 @@ void buildTextInput(const DeriveContext& context, StyleSheet& sheet)
         faces.include(context.shades(fill, Form::Sunken));
     style.text = textOn(context, faces, {fills.ink});
     style.text.disabledColor = context.faint(context.text, context.shades(fills.disabled, Form::Plate));
-    style.placeholderText = textOn(context, faces, {context.theme.mutedText});
+    Tones quietFaces = faces; // and that of a locked field, whose text is no louder than a placeholder
+    quietFaces.include(context.shades(fills.disabled, Form::Plate));
+    style.placeholderText = textOn(context, quietFaces, {context.theme.mutedText});
     style.placeholderText.disabledColor = style.text.disabledColor;
     style.selection = selectionOn(context, style.text.color, fills.focused, ShapeKind::Rect);
     style.caretColor = context.mark(context.theme.textHot, faces);
