@@ -105,15 +105,15 @@ void DialogStage::play(Act act)
     });
 }
 
-bool DialogStage::focusNext()
+const vela::Control* DialogStage::focusNext()
 {
     ::SendMessageW(dialog_->handle(), WM_KEYDOWN, VK_TAB, 0);
     const vela::Control* const focused = dialog_->focusedControl();
+    if (focused == firstFocused_)
+        return nullptr;
     if (!firstFocused_)
         firstFocused_ = focused;
-    else if (focused == firstFocused_)
-        return false;
-    return focused != nullptr;
+    return focused;
 }
 
 std::vector<const vela::Control*> DialogStage::leaves() const

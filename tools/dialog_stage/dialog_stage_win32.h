@@ -41,8 +41,8 @@ public:
 
     // From rest; a stage plays one act.
     void play(Act act);
-    // Gives the keyboard to the next control; false when it has come round to the first.
-    bool focusNext();
+    // Gives the keyboard to the next control; null when it has come round to the first.
+    const vela::Control* focusNext();
 
     setup::SetupDialog& dialog() noexcept { return *dialog_; }
     // Those that have a place of their own: not the root, the popup and what is there to be dragged.

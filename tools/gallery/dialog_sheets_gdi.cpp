@@ -41,15 +41,23 @@ std::unique_ptr<vela::DibSurface> photograph(const Scene& scene, const vela::Ski
     return stage.picture();
 }
 
-bool drawSkins(const std::wstring& path, const Scene& scene, const std::vector<vela::SkinDefinition>& skins)
+// A skin that turns into another one by itself would only show that one twice.
+std::vector<vela::SkinDefinition> distinctSkins(std::vector<vela::SkinDefinition> skins)
 {
-    constexpr std::int32_t kColumns = 3;
-    constexpr std::int32_t kGap = 24;
-    constexpr std::int32_t kCaption = 26;
+    std::erase_if(skins, [](const vela::SkinDefinition& skin) { return skin.id.ends_with(L"-auto"); });
+    return skins;
+}
+
+bool drawSkins(const std::wstring& path, const Scene& scene, const std::vector<vela::SkinDefinition>& skins,
+               std::int32_t dpi)
+{
+    constexpr std::int32_t kColumns = 4;
+    constexpr std::int32_t kGap = 20;
+    constexpr std::int32_t kCaption = 24;
     std::vector<std::unique_ptr<vela::DibSurface>> pictures;
     vela::Size cell;
     for (const vela::SkinDefinition& skin : skins) {
-        pictures.push_back(photograph(scene, skin, kDpi, Act::Rest));
+        pictures.push_back(photograph(scene, skin, dpi, Act::Rest));
         if (!pictures.back())
             return false;
         cell = vela::largerOf(cell, pictures.back()->size());
@@ -70,14 +78,18 @@ bool drawSkins(const std::wstring& path, const Scene& scene, const std::vector<v
 
 } // namespace
 
+bool drawFrontSheet(const std::wstring& path, const std::vector<vela::SkinDefinition>& skins)
+{
+    constexpr std::int32_t kSmallDpi = 64; // drawn small rather than made smaller: text stays crisp
+    return drawSkins(path, stage::scenes().front(), distinctSkins(skins), kSmallDpi);
+}
+
 void drawDialogs(const std::vector<vela::SkinDefinition>& allSkins, const SheetList& draw)
 {
-    std::vector<vela::SkinDefinition> skins = allSkins;
-    // A skin that turns into another one by itself would only show that one twice.
-    std::erase_if(skins, [](const vela::SkinDefinition& skin) { return skin.id.ends_with(L"-auto"); });
+    const std::vector<vela::SkinDefinition> skins = distinctSkins(allSkins);
     for (const Scene& scene : stage::scenes()) {
         draw(L"dialogs-" + std::wstring(scene.name),
-             [&](const std::wstring& path) { return drawSkins(path, scene, skins); });
+             [&](const std::wstring& path) { return drawSkins(path, scene, skins, kDpi); });
         for (const vela::SkinDefinition& skin : skins)
             for (const std::int32_t dpi : kDpis)
                 for (const auto& [act, suffix] : kActs) {

@@ -20,8 +20,8 @@ bool drawTypeSheet(const std::wstring& path);
 bool drawPresetSheet(const std::wstring& path);
 bool drawSubstanceSheet(const std::wstring& path);
 
-// The setup's dialog in every skin, side by side.
-bool drawFrontSheet(const std::wstring& path, std::vector<vela::SkinDefinition> skins);
+// The setup's first window in every skin, small and side by side.
+bool drawFrontSheet(const std::wstring& path, const std::vector<vela::SkinDefinition>& skins);
 
 // All control kinds of a skin with their variants and states.
 bool drawSkinSheet(const std::wstring& path, const vela::SkinDefinition& skin);

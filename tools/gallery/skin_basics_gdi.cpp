@@ -75,7 +75,7 @@ void SkinPage::arrow(const Rect& rect, vela::Color color, bool up) const
                      centered(rect, {side, side}), kDpi, color);
 }
 
-std::int32_t drawTitleBar(const SkinPage& page, Rect bar, std::wstring_view title, CaptionButtons buttons)
+std::int32_t drawTitleBar(const SkinPage& page, Rect bar, std::wstring_view title)
 {
     struct CaptionButton {
         vela::Glyph glyph;
@@ -91,14 +91,13 @@ std::int32_t drawTitleBar(const SkinPage& page, Rect bar, std::wstring_view titl
     page.text({bar.x + style.titleLeft, bar.y, bar.width / 2, bar.height}, title, style.titleText);
     std::int32_t right = bar.x + bar.width - style.rightMargin;
     for (const CaptionButton& button : kButtons) {
-        const VisualState state = buttons == CaptionButtons::AllNormal ? VisualState::Normal : button.state;
         const Rect place{right - style.buttonWidth, bar.y + style.buttonTop, style.buttonWidth,
                          style.buttonHeight};
-        page.surface(place, style.titleButton.surface[state]);
-        const vela::FontSpec& font = style.titleButton.text[state];
+        page.surface(place, style.titleButton.surface[button.state]);
+        const vela::FontSpec& font = style.titleButton.text[button.state];
         const std::int32_t side = vela::captionGlyphSize(kDpi);
         vela::paintGlyph(page.sheet.dc(), button.glyph, centered(place, {side, side}), kDpi,
-                         state == VisualState::Disabled ? font.disabledColor : font.color);
+                         button.state == VisualState::Disabled ? font.disabledColor : font.color);
         right -= style.buttonWidth + style.buttonGap;
     }
     return bar.y + bar.height;

@@ -24,9 +24,7 @@ struct SkinPage {
 };
 
 // The place is where the group's top left corner lies; the result is the row below it.
-enum class CaptionButtons { AllNormal, OneOfEachState };
-std::int32_t drawTitleBar(const SkinPage& page, vela::Rect bar, std::wstring_view title,
-                          CaptionButtons buttons);
+std::int32_t drawTitleBar(const SkinPage& page, vela::Rect bar, std::wstring_view title);
 std::int32_t drawButtons(const SkinPage& page, vela::Point place);
 std::int32_t drawTexts(const SkinPage& page, vela::Point place);
 std::int32_t drawCheckBoxes(const SkinPage& page, vela::Point place);

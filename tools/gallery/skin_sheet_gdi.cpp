@@ -121,8 +121,7 @@ bool drawSkinSheet(const std::wstring& path, const vela::SkinDefinition& skin)
     vela::SurfaceStyle ground = styles.find<vela::PanelStyle>(vela::kDefaultVariant).surface;
     ground.shape = vela::ShapeKind::Rect; // a sheet has no corners to cut
     page.surface({0, 0, kSheet.width, kSheet.height}, ground);
-    const std::int32_t top =
-        drawTitleBar(page, {0, 0, kSheet.width, 40}, skin.name, CaptionButtons::OneOfEachState) + 16;
+    const std::int32_t top = drawTitleBar(page, {0, 0, kSheet.width, 40}, skin.name) + 16;
 
     constexpr std::int32_t kLeft = 24;
     constexpr std::int32_t kRight = 700;

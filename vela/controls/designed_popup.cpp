@@ -1,6 +1,7 @@
 #include "vela/controls/designed_popup.h"
 
 #include "vela/controls/text_services.h"
+#include "vela/mul_div.h"
 #include "vela/render/mark_painter.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
@@ -136,8 +137,17 @@ void DesignedPopup::setContentColumn(std::int32_t left, std::int32_t right)
 
 std::int32_t DesignedPopup::missingHeight() const
 {
-    const Rect room = messageRect();
-    return std::max(measureText(message_, style_.messageText, dpi(), room.width) - room.height, 0);
+    constexpr std::int32_t kScales[] = {96, 120, 144, 168, 192, 216, 240, 288};
+    const Size room{mulDiv(messageRect().width, kDesignDpi, dpi()),
+                    mulDiv(messageRect().height, kDesignDpi, dpi())};
+    std::int32_t missing = 0;
+    for (const std::int32_t scale : kScales) {
+        const std::int32_t text =
+            measureText(message_, designStyle_.messageText, scale, scaledLength(room.width, scale));
+        // One more than the quotient, for what rounding takes from the room.
+        missing = std::max(missing, text * kDesignDpi / scale + 1 - room.height);
+    }
+    return missing;
 }
 
 void DesignedPopup::setFramed(bool framed)

@@ -54,7 +54,8 @@ public:
     // A popup that is the ground of its window has neither corners nor a border of its own: the window has
     // them.
     void setFramed(bool framed);
-    // By how many pixels the popup must grow for its whole message to be seen; 0 when it is.
+    // By how many 96-DPI pixels the popup must grow for its whole message to be seen at every usual scale, 0
+    // when it is: letters do not grow evenly, and a line more at one scale is a line cut.
     std::int32_t missingHeight() const;
     void setOpen(bool open);
     bool isOpen() const noexcept { return open_; }
