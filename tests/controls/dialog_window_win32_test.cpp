@@ -77,6 +77,26 @@ TEST(DialogWindowTest, EveryOtherWayToCloseItGivesFive)
     }
 }
 
+TEST(DialogWindowTest, LooksGivenBeforeTheWindowTakeItsScale)
+{
+    const Size design{4 * Desktop::workArea().width, 240};
+    const auto open = [&design](bool looksFirst) {
+        auto dialog = std::make_unique<DialogWindow>();
+        dialog->setShrinkToFit(true); // the one way to another scale that every desktop has
+        auto& popup = dialog->root().addControl(
+            std::make_unique<DesignedPopup>(L"popup", Rect{0, 0, design.width, design.height}));
+        popup.setActions({{L"OK", L"ok", true}});
+        if (looksFirst)
+            dialog->applyStyles(styles());
+        EXPECT_TRUE(dialog->create(::GetModuleHandleW(nullptr), L"", design, kPopup));
+        EXPECT_LT(dialog->dpi(), 96);
+        if (!looksFirst)
+            dialog->applyStyles(styles());
+        return popup.actionButton(0).bounds();
+    };
+    EXPECT_EQ(open(true), open(false));
+}
+
 TEST(DialogWindowTest, EnterPressesThePrimaryButton)
 {
     TestDialog dialog(

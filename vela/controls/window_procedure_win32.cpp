@@ -6,6 +6,7 @@
 #include "vela/render/performance_win32.h"
 
 #include <cwchar>
+#include <utility>
 
 namespace vela {
 
@@ -124,8 +125,12 @@ LRESULT Window::Native::handle(UINT message, WPARAM wParam, LPARAM lParam)
 LRESULT Window::Native::onCreate()
 {
     window_.monitorDpi_ = static_cast<std::int32_t>(::GetDpiForWindow(window_.handle_));
-    window_.dpi_ = scaleFor(workArea(), window_.monitorDpi_, frameExtra());
+    const std::int32_t before =
+        std::exchange(window_.dpi_, scaleFor(workArea(), window_.monitorDpi_, frameExtra()));
     window_.root_.rescale(window_.dpi_);
+    // Looks that were given before are those of another scale.
+    if (window_.dpi_ != before)
+        window_.applyStyles(window_.styles_);
     blockShutdown();
     admitTaskbar();
     lastTick_ = ::GetTickCount64();
