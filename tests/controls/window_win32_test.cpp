@@ -349,6 +349,13 @@ TEST_F(WindowTest, ATooltipShowsAfterTheDelayAndGoesWithAKey)
     open();
     window.applyStyles(std::make_shared<StyleSheet>(buildStyleSheet(builtInSkin())));
     addButton({0, 0, 200, 100}).setHint(L"Otevre systemovy vyber instalacni slozky.");
+    // As when the window opens under a pointer that rests: it is told where that is.
+    POINT pointer{};
+    ::GetCursorPos(&pointer);
+    ::SetWindowPos(window.handle(), nullptr, pointer.x - 40, pointer.y - 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    send(WM_MOUSEMOVE, 0, MAKELPARAM(40, 40));
+    drainMessages(300);
+    EXPECT_EQ(tooltips(), 0);
     Desktop::movePointer(window.handle(), {50, 50});
     drainMessages(300);
     EXPECT_EQ(tooltips(), 1);

@@ -91,8 +91,12 @@ LRESULT Window::Native::onMouseMove(LPARAM lParam)
         TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, window_.handle_, 0};
         trackingLeave_ = ::TrackMouseEvent(&track) != FALSE;
     }
-    const std::uint64_t now = ::GetTickCount64();
-    window_.tooltipClock_.pointerAt(hintedControlAt(window_.root_, position), position, now);
+    // A window that opens under a resting pointer is told of it too, but the user has asked for nothing yet.
+    POINT screen{};
+    if (pointerAtStart_ && ::GetCursorPos(&screen) && *pointerAtStart_ != Point{screen.x, screen.y})
+        pointerAtStart_.reset();
+    const Control* const hinted = pointerAtStart_ ? nullptr : hintedControlAt(window_.root_, position);
+    window_.tooltipClock_.pointerAt(hinted, position, ::GetTickCount64());
     window_.input_.mouseMoved(position);
     // The overlay's header tells where the pointer is.
     if (window_.debugOverlay_.on)

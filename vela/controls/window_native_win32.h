@@ -132,6 +132,7 @@ private:
     std::unique_ptr<TooltipWindow> tooltip_;
     const Control* tooltipFor_ = nullptr; // compared, never used
     WindowsTextServices textServices_;
+    std::optional<Point> pointerAtStart_; // on the screen, until it moves
     std::uint64_t lastTick_ = 0;
     MovingLights lights_;
     wchar_t highSurrogate_ = 0;

@@ -134,6 +134,9 @@ LRESULT Window::Native::onCreate()
     blockShutdown();
     admitTaskbar();
     lastTick_ = ::GetTickCount64();
+    POINT pointer{};
+    ::GetCursorPos(&pointer);
+    pointerAtStart_ = Point{pointer.x, pointer.y};
     lights_.setProfile(performanceProfile());
     ::SetTimer(window_.handle_, kWindowTimer, kWindowTimerPeriod, nullptr);
     window_.onCreated();
