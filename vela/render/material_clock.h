@@ -11,8 +11,8 @@ namespace vela {
 bool hasMovingLight(const SurfaceStyle& style) noexcept;
 
 // Turns of the light at that time, in milliseconds; the animation speed counts turns in ten minutes, negative
-// ones backwards. 0 for a surface whose light rests; above 0 for all others, so the first step of an animation
-// does not jump.
+// ones backwards. 0 for a surface whose light rests; above 0 for all others, so the first step of an
+// animation does not jump.
 float lightPhase(const SurfaceStyle& style, std::uint64_t time) noexcept;
 
 // What surfaces are painted for. Each window sets its own moment before it paints, so that a part of it that
