@@ -51,6 +51,7 @@ private:
     std::wstring title_;
     ChromeTitleBarStyle designStyle_; // at 96 DPI, as the buttons take it
     ChromeTitleBarStyle style_;
+    ButtonStyle closeStyle_; // at 96 DPI as well
     DragArea dragArea_;
     std::array<std::unique_ptr<ThemedButton>, kCaptionButtonCount> captions_;
     std::vector<std::unique_ptr<ThemedButton>> headerActions_;
