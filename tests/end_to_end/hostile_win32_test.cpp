@@ -1,5 +1,6 @@
 // A setup runs with administrator rights out of a folder full of strangers' files.
 #include "tests/end_to_end/setup_test_win32.h"
+#include "tests/end_to_end/setup_window_win32.h"
 
 #include <filesystem>
 
@@ -40,8 +41,12 @@ TEST_F(Hostile, NothingPlantedBesideTheSetupOrInTheCurrentFolderIsLoaded)
     ASSERT_TRUE(exists(beside + L"\\dwmapi.dll.loaded"));
     std::filesystem::remove(beside + L"\\dwmapi.dll.loaded");
 
-    for (const wchar_t* mode : {L"--install --quiet", L"--uninstall --quiet", L"--quiet"})
-        EXPECT_EQ(startSetup(mode, setup, current).wait(), 0U);
+    for (const wchar_t* mode : {L"--install --quiet", L"--uninstall --quiet"})
+        EXPECT_EQ(runSetup(mode, setup, current), 0U);
+    const Program withWindows = startSetup(L"", setup, current);
+    const SetupWindow choice(withWindows, kSetupTitle, installPlan());
+    press(VK_ESCAPE);
+    EXPECT_EQ(withWindows.wait(), 0U);
     for (const std::wstring& folder : {beside, current}) {
         for (const auto& file : std::filesystem::directory_iterator(folder))
             EXPECT_NE(file.path().extension(), L".loaded") << file.path();

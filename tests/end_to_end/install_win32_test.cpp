@@ -108,14 +108,6 @@ TEST_F(Install, RunsFromTheInstallFolderItself)
     }
 }
 
-TEST_F(Install, WithoutAModeChangesNothing)
-{
-    EXPECT_EQ(runSetup(L"--quiet --desktop --restart-app"), 0U);
-    EXPECT_EQ(installedProducts(), kNothing);
-    EXPECT_FALSE(exists(kProductFolder));
-    EXPECT_FALSE(exists(desktopShortcut()));
-}
-
 TEST_F(Uninstall, RemovesTheProductFromWhereItWasPut)
 {
     const std::wstring folder = std::wstring(kPlayground) + L"\\elsewhere";

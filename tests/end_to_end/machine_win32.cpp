@@ -17,8 +17,6 @@
 namespace end_to_end {
 namespace {
 
-constexpr DWORD kPatienceMilliseconds = 120'000;
-
 std::wstring ownFolder()
 {
     std::wstring path(MAX_PATH, L'\0');
@@ -46,6 +44,11 @@ std::wstring package(std::wstring_view name)
     return (std::filesystem::path(ownFolder()) / L"..\\..\\packages" / name).lexically_normal().wstring();
 }
 
+std::wstring source(std::wstring_view path)
+{
+    return (std::filesystem::path(L"" TAMBER_SOURCE_DIR) / path).make_preferred().wstring();
+}
+
 std::wstring finishedSetup()
 {
     return (std::filesystem::path(ownFolder()) / L"..\\..\\TamberSetup.exe").lexically_normal().wstring();
@@ -69,11 +72,20 @@ Program::Program(const std::wstring& path, std::wstring_view arguments, const st
     id_ = process.dwProcessId;
 }
 
-bool Program::runs() const noexcept { return ::WaitForSingleObject(process_.get(), 0) == WAIT_TIMEOUT; }
+Program::~Program()
+{
+    if (runs())
+        terminate();
+}
+
+bool Program::endsWithin(DWORD milliseconds) const noexcept
+{
+    return ::WaitForSingleObject(process_.get(), milliseconds) != WAIT_TIMEOUT;
+}
 
 DWORD Program::wait() const
 {
-    if (::WaitForSingleObject(process_.get(), kPatienceMilliseconds) != WAIT_OBJECT_0) {
+    if (!endsWithin(kPatienceMilliseconds)) {
         ADD_FAILURE() << "the program does not end";
         terminate();
     }
@@ -210,6 +222,39 @@ std::vector<DWORD> processesNamed(std::wstring_view fileName)
             ids.push_back(entry.th32ProcessID);
     }
     return ids;
+}
+
+std::vector<HWND> windowsOf(DWORD processId)
+{
+    struct Search {
+        DWORD processId;
+        std::vector<HWND> found;
+    } search{processId, {}};
+    ::EnumWindows(
+        [](HWND window, LPARAM parameter) -> BOOL {
+            auto& wanted = *reinterpret_cast<Search*>(parameter);
+            DWORD owner = 0;
+            ::GetWindowThreadProcessId(window, &owner);
+            if (owner == wanted.processId)
+                wanted.found.push_back(window);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+std::vector<HWND> visibleWindows(DWORD processId)
+{
+    std::vector<HWND> windows = windowsOf(processId);
+    std::erase_if(windows, [](HWND window) { return !::IsWindowVisible(window); });
+    return windows;
+}
+
+std::wstring titleOf(HWND window)
+{
+    std::wstring title(256, L'\0');
+    title.resize(static_cast<std::size_t>(::GetWindowTextW(window, title.data(), 256)));
+    return title;
 }
 
 std::vector<ApplicationStart> applicationStarts()

@@ -17,6 +17,8 @@ namespace end_to_end {
 std::wstring builtFile(std::wstring_view name);
 // In the build's folder of packages.
 std::wstring package(std::wstring_view name);
+// In the source tree.
+std::wstring source(std::wstring_view path);
 // The finished TamberSetup.exe.
 std::wstring finishedSetup();
 
@@ -26,9 +28,14 @@ class Program {
 public:
     // Working in the given folder, or in this program's when it is empty. A start that fails fails the test.
     Program(const std::wstring& path, std::wstring_view arguments, const std::wstring& folder = {});
+    Program(Program&&) = default;
+    Program& operator=(Program&&) = delete;
+    // Ends the program: a failed test may have left it waiting.
+    ~Program();
 
     DWORD id() const noexcept { return id_; }
-    bool runs() const noexcept;
+    bool runs() const noexcept { return !endsWithin(0); }
+    bool endsWithin(DWORD milliseconds) const noexcept;
     // The exit code. A program that does not end within two minutes is ended and fails the test.
     DWORD wait() const;
     void terminate() const noexcept;
@@ -82,16 +89,25 @@ void removeTree(const std::wstring& path) noexcept;
 bool canBeWritten(const std::wstring& path);
 
 std::vector<DWORD> processesNamed(std::wstring_view fileName);
-// Looks again and again, for at most half a minute.
+// The top-level windows of a process, and those of them that a person could see.
+std::vector<HWND> windowsOf(DWORD processId);
+std::vector<HWND> visibleWindows(DWORD processId);
+std::wstring titleOf(HWND window);
+
+// How long a slow machine may take for what takes a moment otherwise.
+inline constexpr DWORD kPatienceMilliseconds = 120'000;
+
+// Looks again and again, for as long as patience lasts.
 template <typename Condition>
 bool eventually(Condition condition)
 {
-    for (int round = 0; round < 600; ++round) {
-        if (condition())
-            return true;
-        ::Sleep(50);
+    const ULONGLONG end = ::GetTickCount64() + kPatienceMilliseconds;
+    while (!condition()) {
+        if (::GetTickCount64() > end)
+            return false;
+        ::Sleep(20);
     }
-    return false;
+    return true;
 }
 
 // What the sample application wrote down about itself.

@@ -45,22 +45,6 @@ void removeEverything()
     ::DeleteFileW(desktopShortcut().c_str());
 }
 
-BOOL CALLBACK noteOwner(HWND window, LPARAM parameter)
-{
-    DWORD owner = 0;
-    ::GetWindowThreadProcessId(window, &owner);
-    auto& wanted = *reinterpret_cast<DWORD*>(parameter);
-    if (owner == wanted)
-        wanted = 0;
-    return wanted != 0;
-}
-
-bool hasWindow(DWORD processId)
-{
-    ::EnumWindows(noteOwner, reinterpret_cast<LPARAM>(&processId));
-    return processId == 0;
-}
-
 } // namespace
 
 void SetupTest::SetUp()
@@ -82,9 +66,24 @@ Program SetupTest::startSetup(std::wstring_view arguments, const std::wstring& p
     return setup;
 }
 
-DWORD SetupTest::runSetup(std::wstring_view arguments, const std::wstring& program)
+DWORD SetupTest::runSetup(std::wstring_view arguments, const std::wstring& program,
+                          const std::wstring& currentFolder)
 {
-    return startSetup(arguments, program).wait();
+    const bool skinsBefore = exists(skinsFile());
+    const Program setup = startSetup(arguments, program, currentFolder);
+    while (!setup.endsWithin(10)) {
+        if (!visibleWindows(setup.id()).empty()) {
+            ADD_FAILURE() << "a quiet setup shows a window";
+            setup.terminate();
+        }
+    }
+    EXPECT_EQ(exists(skinsFile()), skinsBefore) << "a setup without windows needs no skins";
+    return setup.wait();
+}
+
+std::wstring SetupTest::skinsFile()
+{
+    return knownFolder(FOLDERID_LocalAppData) + L"\\Tamber\\setup-skins\\00-vela-default-skins.json";
 }
 
 std::wstring SetupTest::runFile(std::wstring_view name) const
@@ -98,8 +97,8 @@ Program SetupTest::startApplication(std::wstring_view options, std::wstring_view
     copyFile(package(L"sample_package\\Tamber.exe"), path);
     Program application(path, options);
     const bool windowless = options.find(L"--windowless") != std::wstring_view::npos;
-    EXPECT_TRUE(
-        eventually([&] { return windowless ? !applicationStarts().empty() : hasWindow(application.id()); }));
+    EXPECT_TRUE(eventually(
+        [&] { return windowless ? !applicationStarts().empty() : !windowsOf(application.id()).empty(); }));
     return application;
 }
 

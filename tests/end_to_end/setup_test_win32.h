@@ -22,13 +22,17 @@ protected:
     // Starts a setup; the files of a run asked for below are from now on this one's.
     Program startSetup(std::wstring_view arguments, const std::wstring& program = finishedSetup(),
                        const std::wstring& currentFolder = {});
-    // The same, to its end: the exit code.
-    DWORD runSetup(std::wstring_view arguments, const std::wstring& program = finishedSetup());
+    // Starts a quiet one and sees it to its end, during which it must show no window: the exit code.
+    DWORD runSetup(std::wstring_view arguments, const std::wstring& program = finishedSetup(),
+                   const std::wstring& currentFolder = {});
 
     // A file of the last run in the temp folder.
     std::wstring runFile(std::wstring_view name) const;
     // The last run's own log of its steps.
     std::string stepLog() const { return contents(runFile(L"setup.log")); }
+
+    // The skins that the setup puts down for its windows.
+    static std::wstring skinsFile();
 
     // Starts a copy of the sample application, under its own name in a folder of its own, and waits until it
     // has its window (or would have it).

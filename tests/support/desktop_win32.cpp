@@ -1,5 +1,5 @@
 // Before the first window: without a window manager Wine waits two seconds for one whenever a window that
-// should be managed goes away. This program's windows are said not to be.
+// should be managed goes away. No program's windows are managed in the prefix of the tests.
 #include <gtest/gtest.h>
 
 #include <windows.h>
@@ -11,8 +11,8 @@ public:
     void SetUp() override
     {
         constexpr wchar_t kNo[] = L"N";
-        ::RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\AppDefaults\\unit_tests.exe\\X11 Driver",
-                          L"Managed", REG_SZ, kNo, sizeof kNo);
+        ::RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\X11 Driver", L"Managed", REG_SZ, kNo,
+                          sizeof kNo);
     }
 };
 [[maybe_unused]] const auto* const kUnmanagedWindows =

@@ -77,11 +77,17 @@ struct Desktop {
     {
         POINT at{client.x, client.y};
         ::ClientToScreen(window, &at);
+        pointer({at.x, at.y}, 0);
+    }
+    // Screen pixels. Whatever moves the pointer meanwhile, a button given by the flags goes down or up at
+    // that point.
+    static void pointer(Point at, DWORD buttonFlags)
+    {
         INPUT input{};
         input.type = INPUT_MOUSE;
         input.mi.dx = at.x * 65536 / ::GetSystemMetrics(SM_CXSCREEN) + 1;
         input.mi.dy = at.y * 65536 / ::GetSystemMetrics(SM_CYSCREEN) + 1;
-        input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+        input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | buttonFlags;
         ::SendInput(1, &input, sizeof input);
     }
     static void button(DWORD flags)
