@@ -126,6 +126,7 @@ private:
     class Native; // the side that talks to Windows
     friend class Native;
 
+    void invalidateAll();
     void styleTree(Control& control);
 
     HWND handle_ = nullptr;
@@ -141,6 +142,7 @@ private:
     bool closeOnDeactivate_ = false;
     std::uint32_t tooltipDelay_ = 650;
     Size lastClientSize_;
+    bool allDamaged_ = true; // until the next paint: nothing more can be damaged
     Size designClient_; // 96-DPI pixels, as given to `create`
     bool shrinkToFit_ = false;
     std::int32_t dpi_ = 96;        // the scale of all that is drawn

@@ -211,7 +211,7 @@ LRESULT Window::Native::onSize(WPARAM wParam)
     window_.layoutTree();
     if (before == window_.lastClientSize_)
         return 0;
-    ::InvalidateRect(window_.handle_, nullptr, FALSE);
+    window_.invalidateAll();
     applyShape();
     return 0;
 }

@@ -100,7 +100,7 @@ LRESULT Window::Native::onMouseMove(LPARAM lParam)
     window_.input_.mouseMoved(position);
     // The overlay's header tells where the pointer is.
     if (window_.debugOverlay_.on)
-        ::InvalidateRect(window_.handle_, nullptr, FALSE);
+        window_.invalidateAll();
     return 0;
 }
 
@@ -228,7 +228,7 @@ void Window::Native::pressDebugKey(const KeyEvent& event)
     if (event.repeated)
         return;
     window_.debugOverlay_ = afterDebugKey(window_.debugOverlay_, event.modifiers);
-    ::InvalidateRect(window_.handle_, nullptr, FALSE);
+    window_.invalidateAll();
 }
 
 // Characters outside the first plane arrive in two halves.

@@ -12,6 +12,7 @@ namespace vela {
 LRESULT Window::Native::onPaint()
 {
     const HWND handle = window_.handle_;
+    window_.allDamaged_ = false;
     // Before BeginPaint, which forgets it: the damage itself rather than the rectangle around it.
     const OwnedRegion damage(::CreateRectRgn(0, 0, 0, 0));
     ::GetUpdateRgn(handle, damage.get(), FALSE);

@@ -124,6 +124,7 @@ LRESULT Window::Native::handle(UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT Window::Native::onCreate()
 {
+    window_.allDamaged_ = true;
     window_.monitorDpi_ = static_cast<std::int32_t>(::GetDpiForWindow(window_.handle_));
     const std::int32_t before =
         std::exchange(window_.dpi_, scaleFor(workArea(), window_.monitorDpi_, frameExtra()));
@@ -164,8 +165,8 @@ void Window::Native::clearHover()
 {
     window_.tooltipClock_.pointerAt(nullptr, kPointerGone, ::GetTickCount64());
     updateTooltip(::GetTickCount64());
-    if (window_.input_.pointerLeft() && window_.isAlive())
-        ::InvalidateRect(window_.handle_, nullptr, FALSE);
+    if (window_.input_.pointerLeft())
+        window_.invalidateAll();
 }
 
 // Called on every tick: a tooltip appears when it is due and goes when its control does.

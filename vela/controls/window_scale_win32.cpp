@@ -51,7 +51,7 @@ LRESULT Window::Native::onDpiChanged(WPARAM wParam, const RECT& suggested)
     // The client area may have kept its size; the tree has not.
     window_.layoutTree();
     loadIcons(reinterpret_cast<HINSTANCE>(::GetWindowLongPtrW(window_.handle_, GWLP_HINSTANCE)));
-    ::InvalidateRect(window_.handle_, nullptr, FALSE);
+    window_.invalidateAll();
     return 0;
 }
 

@@ -67,10 +67,18 @@ Size Window::minimumTrackSize() const
 
 void Window::invalidateClient(const Rect& rect, InvalidationReason)
 {
-    if (!isAlive())
+    if (allDamaged_ || !isAlive())
         return;
     const RECT damaged = toRECT(rect);
     ::InvalidateRect(handle_, &damaged, FALSE);
+}
+
+void Window::invalidateAll()
+{
+    if (!isAlive())
+        return;
+    allDamaged_ = true;
+    ::InvalidateRect(handle_, nullptr, FALSE);
 }
 
 void Window::captureMouse(Control* control)
@@ -101,12 +109,11 @@ void Window::applyStyles(std::shared_ptr<const StyleSheet> styles)
     if (!styles)
         return;
     styles_ = std::move(styles);
+    invalidateAll();
     const PanelStyle& ground = styles_->find<PanelStyle>(root_.styleKey());
     root_.setSurface(scaledToDpi(ground.surface, dpi_));
     styleTree(root_);
     native_->applyShape();
-    if (isAlive())
-        ::InvalidateRect(handle_, nullptr, FALSE);
 }
 
 // A control that is made of others gives them their looks after they have taken their own.

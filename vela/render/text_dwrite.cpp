@@ -16,9 +16,6 @@ namespace {
 // Font sizes and rectangles are pixels already, so to DirectWrite a pixel is its unit.
 constexpr float kPixelsPerUnit = 1.0F;
 
-// Reach of anti-aliasing and of marks beyond what the layout reports.
-constexpr std::int32_t kInkMargin = 2;
-
 // Measured with this locale, drawn with it: it decides nothing but the shapes of a few letters.
 constexpr wchar_t kLocale[] = L"cs-cz";
 
@@ -296,14 +293,16 @@ private:
 constexpr DWRITE_TEXT_ALIGNMENT kAlignments[] = {DWRITE_TEXT_ALIGNMENT_LEADING, DWRITE_TEXT_ALIGNMENT_CENTER,
                                                  DWRITE_TEXT_ALIGNMENT_TRAILING};
 
-Rect inkOf(IDWriteTextLayout& layout, Size box)
+// A line's height around the text: letters reach beyond their widths and lines by less. How far they do is
+// not asked, for the answer takes as long as drawing them.
+Rect inkOf(IDWriteTextLayout& layout, std::int32_t margin)
 {
-    DWRITE_OVERHANG_METRICS over{};
-    layout.GetOverhangMetrics(&over);
-    const auto outward = [](FLOAT value) { return static_cast<std::int32_t>(std::ceil(value)) + kInkMargin; };
-    const std::int32_t left = outward(over.left);
-    const std::int32_t top = outward(over.top);
-    return {-left, -top, box.width + left + outward(over.right), box.height + top + outward(over.bottom)};
+    DWRITE_TEXT_METRICS text{};
+    layout.GetMetrics(&text);
+    const auto floored = [](FLOAT value) { return static_cast<std::int32_t>(std::floor(value)); };
+    const auto raised = [](FLOAT value) { return static_cast<std::int32_t>(std::ceil(value)); };
+    return {floored(text.left) - margin, floored(text.top) - margin, raised(text.width) + 1 + 2 * margin,
+            raised(text.height) + 1 + 2 * margin};
 }
 
 unsigned __stdcall openEngine(void*)
@@ -338,7 +337,7 @@ DirectWriteLayout makeDirectWriteLayout(const TextLines& lines, const Font& font
         made.layout.reset();
         return made;
     }
-    made.ink = inkOf(*made.layout.get(), box);
+    made.ink = inkOf(*made.layout.get(), font.lineHeight);
     return made;
 }
 
