@@ -159,6 +159,23 @@ TEST(DialogWindowTest, AQuitRequestPassesThroughEveryLoop)
     EXPECT_EQ(message.wParam, 9u);
 }
 
+// Or the next test could not fail.
+TEST(DialogWindowTest, TheCountsSeeWhatIsHeld)
+{
+    const int before = testing::userObjectCount();
+    const std::size_t bytesBefore = testing::heapBytes();
+    {
+        testing::TestWindow held;
+        ASSERT_TRUE(held.create(::GetModuleHandleW(nullptr), L"", {300, 200}, kPopup));
+        const HMENU menu = ::CreatePopupMenu();
+        EXPECT_GE(testing::userObjectCount(), before + 2);
+        ::DestroyMenu(menu);
+        const std::vector<char> bytes(100'000);
+        EXPECT_GE(testing::heapBytes(), bytesBefore + bytes.size());
+    }
+    EXPECT_EQ(testing::userObjectCount(), before);
+}
+
 TEST(DialogWindowTest, FiveHundredDialogsLeaveNothingBehind)
 {
     const auto openAndClose = [](int times) {
@@ -170,9 +187,11 @@ TEST(DialogWindowTest, FiveHundredDialogsLeaveNothingBehind)
     openAndClose(20);
     const int before = testing::gdiObjectCount();
     const int windowsBefore = testing::userObjectCount();
+    const std::size_t bytesBefore = testing::heapBytes();
     openAndClose(500);
     EXPECT_LE(testing::gdiObjectCount(), before + 2);
     EXPECT_LE(testing::userObjectCount(), windowsBefore);
+    EXPECT_LT(testing::heapBytes(), bytesBefore + 500 * 100) << "a hundred bytes of each dialog";
 }
 
 } // namespace

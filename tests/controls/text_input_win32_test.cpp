@@ -82,6 +82,44 @@ TEST_F(TextInputWindowTest, DraggingSelects)
     EXPECT_EQ(input->model().selectionEnd(), input->text().size());
 }
 
+// Where on a chip its cross stands is the style's business: the pointer looks for it from the left.
+TEST_F(TextInputWindowTest, ChipsAreRemovedByAClickOnTheirCrossAlone)
+{
+    input->setAttachments({{L"a1", L"jedna.txt"}, {L"a2", L"dve.txt"}});
+    std::vector<std::wstring> removed;
+    window.subscribe(L"attachment-remove", [&](CommandEvent& event) { removed.push_back(event.text); });
+    std::int32_t x = input->bounds().x + 1;
+    for (; removed.empty() && x < 200; x += 3)
+        clickAt({x, 46});
+    ASSERT_EQ(removed, (std::vector<std::wstring>{L"a1"}));
+    EXPECT_GT(x, 80) << "the chip's name is no cross";
+    EXPECT_EQ(input->attachments(), (std::vector<TextAttachment>{{L"a2", L"dve.txt"}}));
+    EXPECT_EQ(input->text(), L"C:\\Program Files\\Tamber");
+}
+
+TEST_F(TextInputWindowTest, BackspaceBeforeTheTextRemovesTheLastChip)
+{
+    input->setAttachments({{L"a1", L"jedna.txt"}, {L"a2", L"dve.txt"}});
+    std::vector<std::wstring> removed;
+    window.subscribe(L"attachment-remove", [&](CommandEvent& event) { removed.push_back(event.text); });
+    window.focusControl(input);
+    const auto press = [](WORD key) {
+        Desktop::key(key);
+        drainMessages();
+    };
+    press(VK_HOME);
+    chord(VK_SHIFT, VK_RIGHT);
+    press(VK_BACK); // what is selected goes first
+    EXPECT_TRUE(removed.empty());
+    EXPECT_EQ(input->text(), L":\\Program Files\\Tamber");
+    press(VK_BACK);
+    EXPECT_EQ(removed, (std::vector<std::wstring>{L"a2"}));
+    press(VK_BACK);
+    press(VK_BACK);
+    EXPECT_EQ(removed, (std::vector<std::wstring>{L"a2", L"a1"}));
+    EXPECT_EQ(input->text(), L":\\Program Files\\Tamber");
+}
+
 TEST_F(TextInputWindowTest, HalvesOfACharacterArriveAsOne)
 {
     clickAt({60, 46}, 3);

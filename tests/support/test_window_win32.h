@@ -60,6 +60,17 @@ bool drainUntil(DWORD milliseconds, Condition&& holds)
     return true;
 }
 
+// Handles messages until `done` holds. The patience is for a machine with much else to do; a test that passes
+// does not use it up.
+template <typename Done>
+bool pumpUntil(Done&& done, DWORD patienceMilliseconds = 20'000)
+{
+    const ULONGLONG end = ::GetTickCount64() + patienceMilliseconds;
+    while (!done() && ::GetTickCount64() < end)
+        drainMessages(5);
+    return done();
+}
+
 struct Desktop {
     static Rect workArea()
     {

@@ -80,6 +80,7 @@ private:
     std::int32_t textWidth() const { return xOf(model_.text().size()); }
     const SurfaceStyle& surface() const;
     bool pressChip(Point position);
+    bool erasesChip() const noexcept;
     void removeAttachment(std::size_t index);
     // After every edit and every move of the caret.
     void edited(const std::wstring& before);

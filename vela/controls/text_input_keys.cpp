@@ -71,6 +71,10 @@ bool TextInput::keyPressed(const KeyEvent& event)
     }
     for (const auto& row : kErasers) {
         if (row.key == event.key && row.control == control) {
+            if (row.key == kKeyBack && erasesChip()) {
+                removeAttachment(attachments_.size() - 1);
+                return true;
+            }
             const std::wstring before = model_.text();
             model_.erase(row.what);
             edited(before);
@@ -214,6 +218,13 @@ bool TextInput::pressChip(Point position)
     if (inside(hit->remove))
         removeAttachment(static_cast<std::size_t>(hit - shown.begin()));
     return true;
+}
+
+// Chips stand before the text: Backspace goes on with them where it begins.
+bool TextInput::erasesChip() const noexcept
+{
+    return style_.showAttachmentRemove && !attachments_.empty() && model_.caret() == 0 &&
+           !model_.hasSelection();
 }
 
 void TextInput::removeAttachment(std::size_t index)
