@@ -58,8 +58,9 @@ Costs costsOf(setup::ChoiceDialog& dialog, bool kept)
 
 void measure(const vela::SkinDefinition& skin)
 {
-    const auto styles = std::make_shared<vela::StyleSheet>(vela::buildStyleSheet(skin));
-    setup::ChoiceDialog dialog({::GetModuleHandleW(nullptr), [&] { return styles; }}, {});
+    const std::shared_ptr<const vela::StyleSheet> styles =
+        std::make_shared<vela::StyleSheet>(vela::buildStyleSheet(skin));
+    setup::ChoiceDialog dialog({::GetModuleHandleW(nullptr), [&styles] { return styles; }}, {});
     dialog.open();
     ::ShowWindow(dialog.handle(), SW_SHOWNORMAL);
     ::UpdateWindow(dialog.handle());

@@ -143,7 +143,7 @@ private:
     std::uint32_t tooltipDelay_ = 650;
     Size lastClientSize_;
     bool allDamaged_ = true; // until the next paint: nothing more can be damaged
-    Size designClient_; // 96-DPI pixels, as given to `create`
+    Size designClient_;      // 96-DPI pixels, as given to `create`
     bool shrinkToFit_ = false;
     std::int32_t dpi_ = 96;        // the scale of all that is drawn
     std::int32_t monitorDpi_ = 96; // the system's; of the standard frame and the icons
