@@ -2,7 +2,7 @@
 // line each, in megapixels a second by the clock and in a second of processor time, all threads together
 // (what else the machine does spoils the first). Under Wine Direct3D is software too, its shader compiled for
 // this processor:
-//   scripts/with-display taskset -c 0 scripts/wine-gpu build/windows/bench/material_speed.exe
+//   taskset -c 0 scripts/wine-gpu build/windows/bench/material_speed.exe
 #include "bench/material_surfaces.h"
 #include "vela/render/material_gpu_d3d11.h"
 #include "vela/render/material_overlay.h"

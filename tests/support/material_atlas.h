@@ -1,6 +1,6 @@
 // The pictures of the material samples as Direct3D drew them, kept in the repository: one file a mapping, a
 // column for each preset, a row for each finish. With TAMBER_UPDATE_GOLDEN set in the environment,
-//   scripts/with-display scripts/wine-gpu build/windows/tests/unit_tests.exe --gtest_filter=MaterialGpuTest.*
+//   scripts/wine-gpu build/windows/tests/unit_tests.exe --gtest_filter=MaterialGpuTest.*
 // keeps new ones.
 #pragma once
 
