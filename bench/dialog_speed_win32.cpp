@@ -1,7 +1,9 @@
-// What a dialog costs once it is open: painted as a whole, and one button changing its state and back.
-// Medians in milliseconds, one line a skin. Run it under Wine with scripts/wine; there a paint is Wine's GDI
-// as much as this program's own work. Usage: dialog_speed SKIN_FOLDER [SKIN...]     without skins, all of the
-// folder's
+// What the setup's first dialog costs once it is open, one line a skin: painted as a whole, and one button
+// changing its state, each with kept pictures and, in the same run, without (medians in milliseconds); then
+// what it takes while nobody touches it. Run it under Wine with scripts/wine; there a paint is Wine's GDI as
+// much as this program's own work.
+//
+// Usage: dialog_speed SKIN_FOLDER [SKIN...], without skins all of the folder's.
 #include "app/dialogs/choice_dialog.h"
 
 #include "vela/render/kept_pictures_gdi.h"
@@ -56,10 +58,14 @@ Costs costsOf(setup::ChoiceDialog& dialog, bool kept)
     return {whole, state};
 }
 
+std::shared_ptr<const vela::StyleSheet> stylesOf(const vela::SkinDefinition& skin)
+{
+    return std::make_shared<vela::StyleSheet>(vela::buildStyleSheet(skin));
+}
+
 void measure(const vela::SkinDefinition& skin)
 {
-    const std::shared_ptr<const vela::StyleSheet> styles =
-        std::make_shared<vela::StyleSheet>(vela::buildStyleSheet(skin));
+    const auto styles = stylesOf(skin);
     setup::ChoiceDialog dialog({::GetModuleHandleW(nullptr), [&styles] { return styles; }}, {});
     dialog.open();
     ::ShowWindow(dialog.handle(), SW_SHOWNORMAL);
@@ -69,6 +75,42 @@ void measure(const vela::SkinDefinition& skin)
     std::printf("%-24ls dialog %6.2f (%6.2f without)%s   button %6.3f (%6.3f without)%s\n", skin.id.c_str(),
                 with.dialog, without.dialog, with.dialog > kDialogGoal ? " !" : "  ", with.button,
                 without.button, with.button > kButtonGoal ? " !" : "");
+}
+
+double processorMilliseconds()
+{
+    FILETIME begun{};
+    FILETIME ended{};
+    FILETIME kernel{};
+    FILETIME user{};
+    ::GetProcessTimes(::GetCurrentProcess(), &begun, &ended, &kernel, &user);
+    const auto hundredNanoseconds = [](const FILETIME& time) {
+        return static_cast<double>(std::uint64_t{time.dwHighDateTime} << 32 | time.dwLowDateTime);
+    };
+    return (hundredNanoseconds(kernel) + hundredNanoseconds(user)) / 10'000;
+}
+
+// An open dialog that nobody touches: only the caret blinks in its field.
+void measureIdle(const vela::SkinDefinition& skin)
+{
+    constexpr ULONGLONG kSettling = 1'000;
+    constexpr ULONGLONG kWatched = 10'000;
+    const auto styles = stylesOf(skin);
+    setup::ChoiceDialog dialog({::GetModuleHandleW(nullptr), [&styles] { return styles; }}, {});
+    dialog.open();
+    ::ShowWindow(dialog.handle(), SW_SHOWNORMAL);
+    ::SetForegroundWindow(dialog.handle());
+    const auto pumpFor = [](ULONGLONG milliseconds) {
+        const ULONGLONG end = ::GetTickCount64() + milliseconds;
+        MSG message{};
+        while (::GetTickCount64() < end && ::GetMessageW(&message, nullptr, 0, 0) > 0)
+            ::DispatchMessageW(&message);
+    };
+    pumpFor(kSettling);
+    const double before = processorMilliseconds();
+    pumpFor(kWatched);
+    std::printf("idle for %.0f s: %.0f ms of processor time, after %.0f ms for all that was before\n",
+                kWatched / 1000.0, processorMilliseconds() - before, before);
 }
 
 } // namespace
@@ -85,5 +127,6 @@ int wmain(int count, wchar_t** arguments)
         measure(catalog.find(arguments[i]));
     if (count == 2)
         std::for_each(catalog.skins().begin(), catalog.skins().end(), measure);
+    measureIdle(catalog.find(count > 2 ? arguments[2] : L"win11-auto"));
     return 0;
 }
