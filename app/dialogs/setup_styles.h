@@ -8,7 +8,7 @@
 namespace setup {
 
 // The first use prepares the skin folders and reads the catalogue; a later one only looks whether the user
-// has switched between light and dark. Borrows the effects. UI thread only.
+// has switched between light and dark, or to high contrast. Borrows the effects. UI thread only.
 vela::Window::StyleSource setupStyles(SetupEffects& effects);
 
 } // namespace setup

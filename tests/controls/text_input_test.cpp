@@ -274,6 +274,16 @@ TEST_F(TextInputTest, PaintingShowsStateSelectionAndCaret)
     press(kKeyLeft, kShift);
     ASSERT_EQ(painted(L"surface").size(), 2u);
     EXPECT_EQ(painted(L"surface")[1].rect, (Rect{30 + 72, 46, 8, 20}));
+    // A selection in the text's own colour would hide it: there the text takes the field's.
+    StyleSheet inverted;
+    auto& record = inverted.table<TextInputStyle>().defaultRecord();
+    record.selection.fill = record.text.color = hexColor(0xFFFFFF);
+    record.focusedSurface.fill = hexColor(0x000000);
+    input.applyStyle(inverted);
+    ASSERT_EQ(painted(L"text").size(), 2u);
+    EXPECT_EQ(painted(L"text")[0].color, hexColor(0xFFFFFF));
+    EXPECT_EQ(painted(L"text")[1].color, hexColor(0x000000));
+    input.applyStyle(StyleSheet());
     window.focused = nullptr;
     EXPECT_TRUE(painted(L"fill").empty());
     input.setEnabled(false);

@@ -38,9 +38,11 @@ public:
     }
 
     std::optional<std::uint32_t> appsUseLightTheme() override { return lightTheme; }
+    std::optional<SystemColors> highContrastColors() override { return contrastColors; }
 
     std::map<std::wstring, std::vector<File>> folders;
     std::optional<std::uint32_t> lightTheme;
+    std::optional<SystemColors> contrastColors;
 };
 
 std::string skin(const std::string& id, const std::string& name)
@@ -159,6 +161,24 @@ TEST(SkinCatalog, WithoutSkinsGivesTheBuiltInOne)
     EXPECT_EQ(&catalog.find(L"win11-auto"), &builtInSkin());
     EXPECT_EQ(builtInSkin().theme, Theme());
     EXPECT_TRUE(builtInSkin().id.empty());
+}
+
+TEST(SkinCatalog, StylesFollowTheSystem)
+{
+    FakeHost host;
+    host.folders[L"f"] = {{L"a.json", R"({"skins": [
+        {"id": "win11-light", "theme": {"text": "#000000", "panel": "#FFFFFF"}},
+        {"id": "win11-dark", "theme": {"text": "#FFFFFF", "panel": "#000000"}}]})"}};
+    const std::wstring folders[] = {L"f"};
+    const SkinCatalog catalog(host, folders);
+    const auto textColor = [&] {
+        return styleSheetFor(catalog.find(L"win11-auto"), host).find<TextStyle>(L"default").color;
+    };
+    EXPECT_EQ(textColor(), hexColor(0x000000));
+    host.lightTheme = 0;
+    EXPECT_EQ(textColor(), hexColor(0xFFFFFF));
+    host.contrastColors = SystemColors{.windowText = hexColor(0xFFFF00)};
+    EXPECT_EQ(textColor(), hexColor(0xFFFF00));
 }
 
 } // namespace

@@ -2,9 +2,12 @@
 //   gallery OUTPUT-FOLDER SKINS-DOCUMENT [WORD]
 #include "tools/gallery/gallery_gdi.h"
 #include "tools/gallery/showcase_camera_gdi.h"
+#include "tools/showcase_content/contrast_themes.h"
 #include "vela/theme/json.h"
+#include "vela/theme/style_sections.h"
 #include "vela/theme/utf8.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -63,6 +66,15 @@ void drawShowcase(const std::vector<vela::SkinDefinition>& skins, const Draw& dr
         }
     }
     camera.aim(showcase::pages().front(), gallery::kDpi);
+    // The mode is for the skin that the setup asks for.
+    const auto windows = std::ranges::find(skins, L"win11-light", &vela::SkinDefinition::id);
+    const vela::SkinDefinition& product = windows != skins.end() ? *windows : skins.front();
+    for (const showcase::ContrastTheme& theme : showcase::kContrastThemes) {
+        vela::StyleSheet styles = buildStyleSheet(product);
+        applyHighContrast(styles, theme.colors);
+        const std::wstring name = L"contrast-" + std::wstring(theme.name);
+        draw(name, [&](const std::wstring& path) { return camera.shoot(path, name, std::move(styles)); });
+    }
     for (const auto& [name, modifiers] : kOverlays) {
         camera.pressDebugKey({modifiers.begin(), modifiers.size()});
         draw(name, [&](const std::wstring& path) { return camera.shoot(path, skins.front()); });

@@ -38,12 +38,17 @@ void ShowcaseCamera::aim(const showcase::Page& page, std::int32_t dpi)
 
 bool ShowcaseCamera::shoot(const std::wstring& path, const vela::SkinDefinition& skin)
 {
+    return shoot(path, skin.name, buildStyleSheet(skin));
+}
+
+bool ShowcaseCamera::shoot(const std::wstring& path, const std::wstring& name, vela::StyleSheet styles)
+{
     if (!open_)
         return false;
-    window_.titleBar().setTitle(skin.name);
-    window_.applyStyles(std::make_shared<const vela::StyleSheet>(buildStyleSheet(skin)));
+    window_.titleBar().setTitle(name);
+    window_.applyStyles(std::make_shared<const vela::StyleSheet>(std::move(styles)));
     const auto picture = window_.picture();
-    thumbnails_.push_back({skin.name, shrunk(*picture)});
+    thumbnails_.push_back({name, shrunk(*picture)});
     return tools::writePng(path, picture->pixels());
 }
 

@@ -27,6 +27,7 @@ public:
 
     // Each returns whether its file could be written.
     bool shoot(const std::wstring& path, const vela::SkinDefinition& skin);
+    bool shoot(const std::wstring& path, const std::wstring& name, vela::StyleSheet styles);
     bool saveContactSheet(const std::wstring& path) const;
 
     // Presses F12 with the given modifier keys, as the user does.

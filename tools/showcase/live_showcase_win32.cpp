@@ -213,7 +213,9 @@ void LiveShowcase::show()
         title.append(L"  as it last was in order");
     ::SetWindowTextW(window_.handle(), title.c_str());
     window_.titleBar().setTitle(std::move(title));
-    window_.applyStyles(std::make_shared<const vela::StyleSheet>(buildStyleSheet(skin)));
+    window_.setStyleSource([this] {
+        return std::make_shared<const vela::StyleSheet>(styleSheetFor(shelf_.skin(), vela::systemSkinHost()));
+    });
 }
 
 void LiveShowcase::showPageAt(std::size_t index)

@@ -5,6 +5,8 @@
 #include "vela/render/paint_clip.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
+#include "vela/theme/contrast.h"
+#include "vela/theme/surface_tones.h"
 
 #include <algorithm>
 
@@ -18,6 +20,13 @@ constexpr std::int32_t kChipPadding = 8;
 Rect centredIn(const Rect& row, std::int32_t x, std::int32_t width, std::int32_t height) noexcept
 {
     return {x, row.y + (row.height - height) / 2, width, height};
+}
+
+// The field's text where it can be read on the selection, else the field's own ground.
+Color selectedTextColor(const TextInputStyle& style)
+{
+    const Color ground = style.focusedSurface.fill;
+    return pickReaching({style.text.color, ground}, facesOf(style.selection, ground), kTextContrast);
 }
 
 } // namespace
@@ -67,7 +76,7 @@ void TextInput::paint(HDC dc, Point origin)
     paintText(dc, {box.x, box.y});
     // The focused surface tells where the keyboard is; one that is locked has none.
     if (model_.locked() && hasFocus() && window()->showsFocus())
-        paintFocusRing(dc, box, style_.shape, dpi(), style_.caretColor);
+        paintFocusRing(dc, box, surface().shape, dpi(), surface().glow);
 }
 
 void TextInput::paintChips(HDC dc, Point at)
@@ -103,21 +112,35 @@ void TextInput::paintText(HDC dc, Point at)
     const Rect caret = movedBy(caretRect().value_or(Rect{}), at);
     // A caret behind the last character stands half outside the text.
     const PaintClip clip(dc, {{area.x, area.y, area.width + caret.width, area.height}});
-    if (model_.hasSelection()) {
-        const std::int32_t from = xOf(model_.selectionStart());
-        const std::int32_t to = xOf(model_.selectionEnd());
-        const std::int32_t height = std::min(std::max(style_.lineHeight, caret.height), area.height);
-        paintSurface(dc, centredIn(area, area.x + from - scroll_, to - from, height), style_.selection);
-    }
     // What cannot be changed is still there to be read.
     const FontSpec& font = model_.locked() ? style_.placeholderText : style_.text;
-    const TextTone tone = isEnabled() ? TextTone::Enabled : TextTone::Disabled;
-    // Only a text that is longer than the field needs to be drawn by what knows no ellipsis.
-    if (scroll_ == 0 && textWidth() <= area.width)
-        drawText(dc, {area.x, caret.y, area.width, caret.height}, model_.text(), font, dpi(), {tone});
-    else
-        drawUnclippedLine(dc, {area.x - scroll_, caret.y, textWidth() + 1, caret.height}, model_.text(), font,
-                          dpi(), isEnabled() ? font.color : font.disabledColor);
+    const auto drawLine = [&](Color color) {
+        FontSpec inked = font;
+        inked.color = color;
+        // Only a text that is longer than the field needs to be drawn by what knows no ellipsis.
+        if (scroll_ == 0 && textWidth() <= area.width)
+            drawText(dc, {area.x, caret.y, area.width, caret.height}, model_.text(), inked, dpi());
+        else
+            drawUnclippedLine(dc, {area.x - scroll_, caret.y, textWidth() + 1, caret.height}, model_.text(),
+                              inked, dpi(), color);
+    };
+    const Color color = isEnabled() ? font.color : font.disabledColor;
+    if (model_.hasSelection()) {
+        const std::int32_t from = area.x + xOf(model_.selectionStart()) - scroll_;
+        const std::int32_t to = area.x + xOf(model_.selectionEnd()) - scroll_;
+        const std::int32_t height = std::min(std::max(style_.lineHeight, caret.height), area.height);
+        const Rect selected = centredIn(area, from, to - from, height);
+        paintSurface(dc, selected, style_.selection);
+        {
+            const PaintClip before(dc, {{area.x, area.y, std::max(from - area.x, 0), area.height},
+                                        {to, area.y, std::max(area.x + area.width - to, 0), area.height}});
+            drawLine(color);
+        }
+        const PaintClip inside(dc, {selected});
+        drawLine(selectedTextColor(style_));
+    } else {
+        drawLine(color);
+    }
     if (hasFocus() && caretShown_)
         fillShape(dc, caret, ShapeKind::Rect, style_.caretColor);
 }

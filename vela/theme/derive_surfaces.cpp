@@ -28,17 +28,6 @@ std::uint8_t percentOf(std::uint8_t value, int percent)
     return static_cast<std::uint8_t>(value * percent / 100);
 }
 
-// Highlights, relief and edges by the form's share of the light; what a material is made of stays.
-void dim(MaterialShading& shading, int percent, std::uint8_t leastDepth)
-{
-    shading.materialDepth = std::max(shading.materialDepth, leastDepth);
-    for (std::uint8_t MaterialShading::*const light :
-         {&MaterialShading::highlightOpacity, &MaterialShading::reflectionOpacity,
-          &MaterialShading::materialDepth, &MaterialShading::backlightOpacity, &MaterialShading::innerGlow,
-          &MaterialShading::rimLight, &MaterialShading::ambientOcclusion, &MaterialShading::edgeWear})
-        shading.*light = percentOf(shading.*light, percent);
-}
-
 void wearMaterial(SurfaceStyle& surface, const DeriveContext& context, const Face& face)
 {
     const MaterialProfile& profile = context.theme.materials;
@@ -51,7 +40,8 @@ void wearMaterial(SurfaceStyle& surface, const DeriveContext& context, const Fac
     surface.materialEnabled = surface.material != MaterialPreset::None && profile.materialStrength > 0;
     if (face.substance == Substance::Accent)
         surface.materialTint = mixed(profile.materialTint, lightened(face.fill, 0.12F), 0.7F);
-    dim(surface, face.drawn ? context.look.form(face.form).light : 0, context.look.leastDepth);
+    surface.materialDepth = std::max(surface.materialDepth, context.look.leastDepth);
+    dimLight(surface, face.drawn ? context.look.form(face.form).light : 0);
     // What is pushed in takes the light from the other side.
     if (face.form == Form::Pressed || face.form == Form::Sunken)
         surface.materialLightAngle = (surface.materialLightAngle % kFullTurn + kHalfTurn) % kFullTurn;
@@ -79,6 +69,15 @@ void shade(SurfaceStyle& surface, const DeriveContext& context, const Face& face
 }
 
 } // namespace
+
+void dimLight(MaterialShading& shading, int percent) noexcept
+{
+    for (std::uint8_t MaterialShading::*const light :
+         {&MaterialShading::highlightOpacity, &MaterialShading::reflectionOpacity,
+          &MaterialShading::materialDepth, &MaterialShading::backlightOpacity, &MaterialShading::innerGlow,
+          &MaterialShading::rimLight, &MaterialShading::ambientOcclusion, &MaterialShading::edgeWear})
+        shading.*light = percentOf(shading.*light, percent);
+}
 
 SurfaceStyle surfaceOf(const DeriveContext& context, const Face& face, ShapeKind shape)
 {

@@ -1,6 +1,7 @@
 #include "vela/theme/skin_catalog.h"
 
 #include "vela/text.h"
+#include "vela/theme/style_sections.h"
 
 #include <algorithm>
 #include <iterator>
@@ -28,6 +29,14 @@ const SkinDefinition& builtInSkin()
 {
     static const SkinDefinition skin;
     return skin;
+}
+
+StyleSheet styleSheetFor(const SkinDefinition& skin, SkinHost& host)
+{
+    StyleSheet sheet = buildStyleSheet(skin);
+    if (const std::optional<SystemColors> colors = host.highContrastColors())
+        applyHighContrast(sheet, *colors);
+    return sheet;
 }
 
 SkinCatalog::SkinCatalog(SkinHost& host, std::span<const std::wstring> folders) : host_(host)

@@ -18,6 +18,10 @@ std::wstring resolveSkinId(std::wstring_view requestedId, SkinHost& host);
 // Made of defaults alone; lives as long as the process.
 const SkinDefinition& builtInSkin();
 
+// The skin's style sheet as the user's system wants it at this moment: in high-contrast mode in the user's
+// colours.
+StyleSheet styleSheetFor(const SkinDefinition& skin, SkinHost& host);
+
 class SkinCatalog {
 public:
     // Reads the folders in their order. The host is borrowed and must outlive the catalogue.

@@ -1,6 +1,7 @@
 // What the skin catalogue asks of the machine, and the skins of one folder read through it.
 #pragma once
 
+#include "vela/theme/high_contrast.h"
 #include "vela/theme/skin_document.h"
 
 #include <cstddef>
@@ -28,6 +29,9 @@ public:
 
     // The user's choice for applications: 0 is dark, anything else light. Empty when it cannot be read.
     virtual std::optional<std::uint32_t> appsUseLightTheme() = 0;
+
+    // The user's colours while the system is in high-contrast mode, empty otherwise.
+    virtual std::optional<SystemColors> highContrastColors() { return std::nullopt; }
 };
 
 // In bytes: many times what hundreds of skins need. A larger file counts as one that cannot be read.

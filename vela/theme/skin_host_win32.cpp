@@ -66,13 +66,48 @@ std::optional<std::uint32_t> WindowsSkinHost::appsUseLightTheme()
     return status == ERROR_SUCCESS ? std::optional<std::uint32_t>(value) : std::nullopt;
 }
 
+std::optional<SystemColors> WindowsSkinHost::highContrastColors()
+{
+    HIGHCONTRASTW mode{};
+    mode.cbSize = sizeof mode;
+    if (!::SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof mode, &mode, 0) ||
+        (mode.dwFlags & HCF_HIGHCONTRASTON) == 0)
+        return std::nullopt;
+    return SystemColors{.window = ::GetSysColor(COLOR_WINDOW),
+                        .windowText = ::GetSysColor(COLOR_WINDOWTEXT),
+                        .hotlight = ::GetSysColor(COLOR_HOTLIGHT),
+                        .grayText = ::GetSysColor(COLOR_GRAYTEXT),
+                        .highlight = ::GetSysColor(COLOR_HIGHLIGHT),
+                        .highlightText = ::GetSysColor(COLOR_HIGHLIGHTTEXT),
+                        .buttonFace = ::GetSysColor(COLOR_BTNFACE),
+                        .buttonText = ::GetSysColor(COLOR_BTNTEXT)};
+}
+
+SkinHost& systemSkinHost()
+{
+    static WindowsSkinHost host;
+    return host;
+}
+
 void setSkinFolders(std::vector<std::wstring> folders) { skinFolders() = std::move(folders); }
 
 const SkinCatalog& skinCatalog()
 {
-    static WindowsSkinHost host;
-    static const SkinCatalog catalog(host, skinFolders());
+    static const SkinCatalog catalog(systemSkinHost(), skinFolders());
     return catalog;
+}
+
+std::shared_ptr<const StyleSheet> systemStyles(std::wstring_view requestedId)
+{
+    static const SkinDefinition* skin = nullptr;
+    static std::optional<SystemColors> colors;
+    static std::shared_ptr<const StyleSheet> sheet;
+    const SkinDefinition& wanted = skinCatalog().find(requestedId);
+    const std::optional<SystemColors> contrast = systemSkinHost().highContrastColors();
+    const bool sameSkin = std::exchange(skin, &wanted) == &wanted;
+    if (std::exchange(colors, contrast) != contrast || !sameSkin)
+        sheet = std::make_shared<const StyleSheet>(styleSheetFor(wanted, systemSkinHost()));
+    return sheet;
 }
 
 } // namespace vela
