@@ -1,6 +1,7 @@
 // Integer device pixels. A size never has a negative component where the toolkit produces one.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 namespace vela {
@@ -29,24 +30,46 @@ constexpr bool isEmpty(Size size) noexcept { return size.width < 1 || size.heigh
 constexpr bool isEmpty(const Rect& rect) noexcept { return rect.width < 1 || rect.height < 1; }
 constexpr Size sizeOf(const Rect& rect) noexcept { return {rect.width, rect.height}; }
 
-// What both cover; the empty rectangle when they do not meet. In 64 bits, for an edge may lie outside 32.
+// An edge may lie outside 32 bits: sums are made in 64, and what does not fit stops at the limits.
+constexpr std::int32_t saturated(std::int64_t value) noexcept
+{
+    return static_cast<std::int32_t>(value < INT32_MIN ? INT32_MIN : value > INT32_MAX ? INT32_MAX : value);
+}
+
+// What both cover; the empty rectangle when they do not meet.
 constexpr Rect intersection(const Rect& a, const Rect& b) noexcept
 {
-    const auto larger = [](std::int64_t l, std::int64_t r) { return l > r ? l : r; };
-    const auto smaller = [](std::int64_t l, std::int64_t r) { return l < r ? l : r; };
-    const std::int64_t left = larger(a.x, b.x);
-    const std::int64_t top = larger(a.y, b.y);
-    const std::int64_t right = smaller(std::int64_t{a.x} + a.width, std::int64_t{b.x} + b.width);
-    const std::int64_t bottom = smaller(std::int64_t{a.y} + a.height, std::int64_t{b.y} + b.height);
+    const std::int64_t left = std::max(a.x, b.x);
+    const std::int64_t top = std::max(a.y, b.y);
+    const std::int64_t right = std::min(std::int64_t{a.x} + a.width, std::int64_t{b.x} + b.width);
+    const std::int64_t bottom = std::min(std::int64_t{a.y} + a.height, std::int64_t{b.y} + b.height);
     if (right <= left || bottom <= top)
         return {};
-    return {static_cast<std::int32_t>(left), static_cast<std::int32_t>(top),
-            static_cast<std::int32_t>(right - left), static_cast<std::int32_t>(bottom - top)};
+    return {saturated(left), saturated(top), saturated(right - left), saturated(bottom - top)};
+}
+
+// The smallest rectangle around both.
+constexpr Rect united(const Rect& a, const Rect& b) noexcept
+{
+    const std::int64_t left = std::min(a.x, b.x);
+    const std::int64_t top = std::min(a.y, b.y);
+    const std::int64_t right = std::max(std::int64_t{a.x} + a.width, std::int64_t{b.x} + b.width);
+    const std::int64_t bottom = std::max(std::int64_t{a.y} + a.height, std::int64_t{b.y} + b.height);
+    return {saturated(left), saturated(top), saturated(right - left), saturated(bottom - top)};
 }
 
 constexpr Rect movedBy(const Rect& rect, Point offset) noexcept
 {
-    return {rect.x + offset.x, rect.y + offset.y, rect.width, rect.height};
+    return {saturated(std::int64_t{rect.x} + offset.x), saturated(std::int64_t{rect.y} + offset.y),
+            rect.width, rect.height};
+}
+
+// Larger by that much on every side.
+constexpr Rect grownBy(const Rect& rect, std::int32_t reach) noexcept
+{
+    return {saturated(std::int64_t{rect.x} - reach), saturated(std::int64_t{rect.y} - reach),
+            saturated(std::int64_t{rect.width} + 2 * std::int64_t{reach}),
+            saturated(std::int64_t{rect.height} + 2 * std::int64_t{reach})};
 }
 
 } // namespace vela

@@ -3,6 +3,7 @@
 #include "tests/controls/fake_window.h"
 #include "vela/controls/command_handlers.h"
 #include "vela/controls/pointer_clock.h"
+#include "vela/controls/text_input.h"
 #include "vela/controls/themed_button.h"
 #include "vela/controls/window_diagnostics.h"
 
@@ -66,6 +67,19 @@ TEST_F(InputRouterTest, TabGoesRoundAndShowsWhereItIs)
     router.mouseButton(click);
     EXPECT_EQ(router.focused(), &first);
     EXPECT_FALSE(router.showsFocus());
+}
+
+TEST_F(InputRouterTest, TabSelectsAllOfAFieldAndAClickDoesNot)
+{
+    auto& field =
+        window.root.addControl(std::make_unique<TextInput>(L"f", Rect{0, 200, 200, 32}, L"C:\\Tamber"));
+    router.focus(&field);
+    EXPECT_FALSE(field.model().hasSelection());
+    router.focus(nullptr);
+    for (int i = 0; i < 5 && router.focused() != &field; ++i)
+        router.keyPressed({kKeyTab, {}, false});
+    ASSERT_EQ(router.focused(), &field);
+    EXPECT_EQ(field.model().selectedText(), L"C:\\Tamber");
 }
 
 TEST_F(InputRouterTest, AControlThatCannotBeReachedHasNoKeyboard)

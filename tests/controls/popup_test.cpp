@@ -2,6 +2,7 @@
 
 #include "tests/controls/fake_window.h"
 #include "tests/support/recording_painter.h"
+#include "vela/controls/accessible_tree.h"
 #include "vela/controls/chrome_title_bar.h"
 #include "vela/theme/style_sheet.h"
 
@@ -145,6 +146,42 @@ TEST_F(ChromeTest, APopupIsDraggedAndClosed)
     EXPECT_EQ(popup.dialogControl(DialogRole::Cancel), nullptr);
 }
 
+TEST_F(ChromeTest, ADialogIsToldAsATreeOfWhatIsShown)
+{
+    window.root.addControl(
+        std::make_unique<ChromeTitleBar>(L"chrome", Rect{0, 0, 690, 40}, L"Tamber Setup", Theme()));
+    auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 40, 690, 380}));
+    popup.setTitle(L"Nainstalovano");
+    popup.setMessage(L"Tamber je pripraven.");
+    popup.setActions({{L"Zavrit", L"", true}});
+    window.root.addControl(std::make_unique<ThemedButton>(L"hidden", Rect{0, 0, 9, 9}, L"X"))
+        .setVisible(false);
+    auto& group = window.root.addControl(std::make_unique<Panel>(L"group", Rect{0, 0, 50, 50}));
+    group.addControl(std::make_unique<ThemedButton>(L"inner", Rect{0, 0, 9, 9}, L"Uvnitr"));
+
+    struct Told {
+        AccessibleRole role;
+        std::wstring name;
+        std::size_t children;
+        bool operator==(const Told&) const = default;
+    };
+    std::vector<Told> told;
+    const auto tell = [&told](const auto& self, const AccessibleNode& node) -> void {
+        told.push_back({node.info.role, node.info.name, node.children.size()});
+        for (const AccessibleNode& child : node.children)
+            self(self, child);
+    };
+    tell(tell, accessibleTree(window.root));
+    const std::vector<Told> expected{{AccessibleRole::Pane, L"", 3},
+                                     {AccessibleRole::TitleBar, L"Tamber Setup", 1},
+                                     {AccessibleRole::PushButton, L"Zavrit", 0},
+                                     {AccessibleRole::Dialog, L"Nainstalovano", 2},
+                                     {AccessibleRole::PushButton, L"Zavrit", 0},
+                                     {AccessibleRole::PushButton, L"Zavrit", 0},
+                                     {AccessibleRole::PushButton, L"Uvnitr", 0}};
+    EXPECT_EQ(told, expected);
+}
+
 TEST_F(ChromeTest, ArrowKeysGoAlongThePopupsButtons)
 {
     auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 0, 690, 380}));
@@ -185,6 +222,33 @@ TEST_F(ChromeTest, APopupPaintsItsPartsInsideItself)
         2); // the icon's mark and the close button's
     for (const auto& call : calls)
         EXPECT_EQ(intersection(call.rect, popup.bounds()), call.rect);
+}
+
+TEST_F(ChromeTest, APopupCastsItsShadowOnlyOnGroundThatIsSeen)
+{
+    PopupStyle& style = styles.table<PopupStyle>().defaultRecord();
+    style.shadowOffsetX = 3;
+    style.shadowOffsetY = 5;
+    auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 40, 690, 380}));
+    const auto shadows = [&] {
+        popup.applyStyle(styles);
+        testing::takePaintCalls();
+        popup.paint(nullptr, {});
+        auto calls = testing::takePaintCalls();
+        std::erase_if(calls, [](const auto& call) { return !call.surface.showShadow; });
+        return calls;
+    };
+    EXPECT_TRUE(shadows().empty()); // it fills what lies below the title bar
+    popup.setBounds({20, 60, 400, 200});
+    ASSERT_EQ(shadows().size(), 1u);
+    EXPECT_EQ(shadows()[0].rect, popup.bounds());
+    EXPECT_EQ(shadows()[0].surface.shadowOffsetX, 3);
+    EXPECT_EQ(shadows()[0].surface.shadowOffsetY, 5);
+    window.invalidated.clear();
+    popup.setMessage(L"Jina");
+    EXPECT_EQ(window.invalidated.back(), (Rect{20, 60, 403, 205}));
+    style.showShadow = false;
+    EXPECT_TRUE(shadows().empty());
 }
 #endif
 

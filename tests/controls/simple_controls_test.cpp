@@ -1,8 +1,10 @@
 #include "tests/controls/fake_window.h"
+#include "tests/support/recording_painter.h"
 #include "vela/controls/check_box.h"
 #include "vela/controls/label.h"
 #include "vela/controls/progress_bar.h"
 #include "vela/controls/themed_button.h"
+#include "vela/theme/style_sheet.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +24,7 @@ KeyEvent key(std::uint32_t code, KeyModifiers modifiers = {}, bool repeated = fa
     return {code, modifiers, repeated};
 }
 
-class SimpleControlsTest : public testing::Test {
+class SimpleControlsTest : public ::testing::Test {
 protected:
     void press(Point at) { window.root.mouseButton(mouse(MouseAction::Press, at)); }
     void release(Point at) { window.root.mouseButton(mouse(MouseAction::Release, at)); }
@@ -87,6 +89,23 @@ TEST_F(SimpleControlsTest, AHandlerMayDestroyItsButton)
     press({10, 10});
     release({10, 10});
     EXPECT_TRUE(window.root.children().empty());
+}
+
+TEST_F(SimpleControlsTest, AHandlerAtTheWindowMayDestroyWhatItHearsOf)
+{
+    struct ClosingWindow : public FakeWindow {
+        using FakeWindow::FakeWindow;
+        void dispatchCommand(CommandEvent& event) override { root.remove(*event.control); }
+    } closing{{400, 300}};
+    int after = 0;
+    auto& box = closing.root.addControl(std::make_unique<CheckBox>(L"c", Rect{0, 0, 100, 28}, L"Volba"));
+    box.setChangeHandler([&after](const CommandEvent&) { ++after; });
+    box.activate();
+    auto& button = closing.root.addControl(std::make_unique<ThemedButton>(L"b", Rect{0, 0, 100, 28}, L"OK"));
+    button.setClickHandler([&after](CommandEvent&) { ++after; });
+    button.activate();
+    EXPECT_TRUE(closing.root.children().empty());
+    EXPECT_EQ(after, 2);
 }
 
 TEST_F(SimpleControlsTest, TheStrongestStateOfAButtonIsShown)
@@ -167,6 +186,36 @@ TEST_F(SimpleControlsTest, OnlyRealChangesRepaint)
     bar.setValue(5);
     EXPECT_EQ(window.invalidated, (std::vector<Rect>{{0, 0, 100, 20}, {0, 30, 100, 20}}));
 }
+
+#ifndef _WIN32 // there the product's renderer paints
+TEST_F(SimpleControlsTest, TheFocusRingHasTheSurfacesGlowAndIsRepaintedWithTheControl)
+{
+    StyleSheet styles;
+    styles.table<ButtonStyle>().defaultRecord().surface.hot.glow = hexColor(0x123456);
+    auto& button =
+        window.root.addControl(std::make_unique<ThemedButton>(L"ok", Rect{10, 10, 100, 34}, L"OK"));
+    auto& check = window.root.addControl(std::make_unique<CheckBox>(L"c", Rect{10, 60, 300, 28}, L"Volba"));
+    button.applyStyle(styles);
+    const auto ring = [](Control& control) {
+        testing::takePaintCalls();
+        control.paint(nullptr, {});
+        auto calls = testing::takePaintCalls();
+        std::erase_if(calls, [](const auto& call) { return call.what != L"ring"; });
+        return calls;
+    };
+    EXPECT_TRUE(ring(button).empty());
+    window.focused = &button;
+    window.invalidated.clear();
+    button.setHot(true);
+    EXPECT_EQ(window.invalidated.back(), (Rect{7, 7, 106, 40}));
+    ASSERT_EQ(ring(button).size(), 1u);
+    EXPECT_EQ(ring(button)[0].rect, button.bounds());
+    EXPECT_EQ(ring(button)[0].color, hexColor(0x123456));
+    // Around box and caption, not around the empty rest of the row.
+    window.focused = &check;
+    EXPECT_EQ(ring(check)[0].rect, (Rect{10, 60, 28 + 5 * 8 + 2, 28}));
+}
+#endif
 
 TEST_F(SimpleControlsTest, ControlsSayWhatTheyAre)
 {

@@ -287,6 +287,17 @@ TEST_F(WindowTest, PrintScreenIsAnsweredOncePerPress)
     send(WM_KEYUP, VK_SNAPSHOT, 0);
     Desktop::holdControl(false);
     EXPECT_EQ(window.clips, 2);
+    // The modifier may be let go before the key.
+    Desktop::holdControl(true);
+    send(WM_KEYDOWN, VK_SNAPSHOT, 0);
+    Desktop::holdControl(false);
+    send(WM_KEYUP, VK_SNAPSHOT, 0);
+    EXPECT_EQ(window.clips, 2);
+    // A press with Alt says nothing about the next one.
+    send(WM_SYSKEYDOWN, VK_SNAPSHOT, 0);
+    send(WM_SYSKEYUP, VK_SNAPSHOT, 0);
+    send(WM_KEYUP, VK_SNAPSHOT, 0);
+    EXPECT_EQ(window.clips, 3);
 }
 
 TEST_F(WindowTest, F12SwitchesTheOverlayBeforeAnyControlSeesTheKey)

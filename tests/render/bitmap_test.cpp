@@ -240,11 +240,11 @@ TEST(BitmapGeometry, EachModeAnswersHitsAndOutlinesInItsOwnWay)
         style.geometry.ensure().mode = row.mode;
         const Size size{6, 4};
         EXPECT_EQ(bitmapOutline(style, size, row.bitmaps).has_value(), row.shaped);
-        EXPECT_EQ(hitSurface(style, size, notch, row.bitmaps), row.atNotch);
-        EXPECT_EQ(hitSurface(style, size, corner, row.bitmaps), row.atCorner);
-        EXPECT_EQ(hitSurface(style, size, left, row.bitmaps), row.atLeft);
+        EXPECT_EQ(hitSurface(style, style.shape, size, notch, row.bitmaps), row.atNotch);
+        EXPECT_EQ(hitSurface(style, style.shape, size, corner, row.bitmaps), row.atCorner);
+        EXPECT_EQ(hitSurface(style, style.shape, size, left, row.bitmaps), row.atLeft);
         style.geometry.ensure().hitInsets = {1, 0, 0, 0};
-        EXPECT_FALSE(hitSurface(style, size, left, row.bitmaps));
+        EXPECT_FALSE(hitSurface(style, style.shape, size, left, row.bitmaps));
     }
     SurfaceStyle bySwitch;
     bySwitch.useSkinAlphaHitTest = true;

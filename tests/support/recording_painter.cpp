@@ -4,6 +4,7 @@
 #include "vela/render/mark_painter.h"
 #include "vela/render/paint_clip.h"
 #include "vela/render/program_icon.h"
+#include "vela/render/shape.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 
@@ -54,6 +55,11 @@ void drawUnclippedLine(HDC, const Rect& rect, std::wstring_view text, const Font
                        Color color)
 {
     calls().push_back({L"line", rect, std::wstring(text), {}, color});
+}
+
+bool isOnSurface(const SurfaceStyle&, ShapeKind hitShape, Size size, Point point)
+{
+    return pointInShape(hitShape, size.width, size.height, point);
 }
 
 void fillShape(HDC, const Rect& rect, ShapeKind, Color color)

@@ -193,7 +193,7 @@ bool drawGlyphSheet(const std::wstring& path)
         const Rect cell{kMargin + shape * kCell, top, kCell, kCell};
         vela::paintBadge(sheet.dc(), centered(cell, {44, 28}), static_cast<ShapeKind>(shape),
                          hexColor(0x6FA3A8));
-        vela::paintFocusRing(sheet.dc(), centered(cell, {54, 38}), static_cast<ShapeKind>(shape), kDpi,
+        vela::paintFocusRing(sheet.dc(), centered(cell, {44, 28}), static_cast<ShapeKind>(shape), kDpi,
                              hexColor(0xE2AA58));
     }
     return sheet.save(path);

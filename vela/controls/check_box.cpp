@@ -65,14 +65,14 @@ void CheckBox::paint(HDC dc, Point origin)
     drawText(dc, caption, text_, style_.text, dpi(), {tone, TextAlign::Left, TextWrap::SingleLine});
     if (hasFocus() && window()->showsFocus())
         paintFocusRing(dc, movedBy(focusBounds(), {all.x, all.y}), ShapeKind::RoundedRect, dpi(),
-                       style_.text.color);
+                       boxSurface().glow);
 }
 
 // The ring goes around box and caption, not around the empty rest of the row.
 Rect CheckBox::focusBounds() const
 {
-    const std::int32_t end = style_.textLeft + measureTextWidth(text_, style_.text, dpi()) + scaled(4);
-    return {-scaled(4), 0, std::min(end, bounds().width) + scaled(4), bounds().height};
+    const std::int32_t end = style_.textLeft + measureTextWidth(text_, style_.text, dpi()) + scaled(2);
+    return {0, 0, std::clamp(end, 0, std::max(bounds().width, 0)), bounds().height};
 }
 
 void CheckBox::activate()
@@ -89,12 +89,12 @@ void CheckBox::activate()
     event.oldValue = asText(event.oldChecked);
     event.newValue = asText(event.newChecked);
     setChecked(event.newChecked);
+    // A copy: a handler at the window may destroy this check box and its own handler with it.
+    const ChangeHandler handler = changed_;
     if (window())
         window()->dispatchCommand(event);
-    if (!changed_)
-        return;
-    const ChangeHandler handler = changed_;
-    handler(event);
+    if (handler)
+        handler(event);
 }
 
 PropertyList CheckBox::properties() const { return {{L"checked", asText(checked_)}}; }

@@ -181,6 +181,12 @@ void ChromeTitleBar::paint(HDC dc, Point origin)
         child->paint(dc, {box.x, box.y});
 }
 
+bool ChromeTitleBar::containsLocal(Point point) const
+{
+    return Control::containsLocal(point) &&
+           isOnSurface(style_.surface, style_.shape, sizeOf(bounds()), point);
+}
+
 // The wheel and the context menu mean nothing here, but must not reach what lies under the bar.
 bool ChromeTitleBar::mouseSecondary(const MouseEvent& event)
 {

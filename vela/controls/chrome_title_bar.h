@@ -29,6 +29,7 @@ public:
     const BitmapSkin* attachedImage() const override;
     void paint(HDC dc, Point origin) override;
     bool mouseSecondary(const MouseEvent& event) override;
+    bool containsLocal(Point point) const override;
     void onBoundsChanged() override { placeChildren(); }
     // The window may have been maximised or restored.
     void onContentRefresh() override { showMaximisedState(); }

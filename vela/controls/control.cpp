@@ -205,7 +205,7 @@ void Control::invalidate(InvalidationReason reason)
     if (!window_ || !window_->isAlive())
         return;
     const Rect client = window_->clientRect();
-    const Rect visible = intersection(windowRect().value_or(client), client);
+    const Rect visible = intersection(inWindow(damageBounds()).value_or(client), client);
     if (!isEmpty(visible))
         window_->invalidateClient(visible, reason);
 }

@@ -44,7 +44,8 @@ public:
     virtual Size minimumSize() const;
     virtual Rect localBounds() const;
     virtual Rect contentBounds() const { return localBounds(); }
-    virtual Rect damageBounds() const { return localBounds(); }
+    // Everything it may paint on: a focus ring lies around the control.
+    virtual Rect damageBounds() const;
     virtual Rect focusBounds() const { return localBounds(); }
     virtual std::vector<Rect> damageRects(std::int32_t limit) const
     {
@@ -81,6 +82,8 @@ public:
 
     // Beyond the shared order.
     virtual bool acceptsFocus() const { return false; }
+    // Tab has brought the keyboard here, and not a click or the window's coming to the front.
+    virtual void reachedByTab() {}
     // The pointer is an I-beam over it.
     virtual bool showsTextCursor() const { return false; }
     // Where the next character will stand, in local pixels; none when the control takes no text.
@@ -158,6 +161,7 @@ protected:
 private:
     friend class Panel;
 
+    std::optional<Rect> inWindow(Rect local) const;
     void captureDesign(Size parent);
     void rememberSource();
     void adopt(Control& child, Panel* owner);

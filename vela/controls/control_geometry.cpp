@@ -2,6 +2,7 @@
 #include "vela/controls/control.h"
 #include "vela/controls/panel.h"
 #include "vela/mul_div.h"
+#include "vela/render/mark_painter.h"
 
 #include <algorithm>
 
@@ -67,6 +68,12 @@ Size Control::minimumSize() const
 
 Rect Control::localBounds() const { return {0, 0, std::max(bounds_.width, 0), std::max(bounds_.height, 0)}; }
 
+Rect Control::damageBounds() const
+{
+    const Rect local = localBounds();
+    return acceptsFocus() ? united(local, focusRingBounds(focusBounds(), dpi_)) : local;
+}
+
 void Control::setAnchors(Anchors anchors)
 {
     request_.anchors = anchors;
@@ -102,20 +109,18 @@ void Control::clearMinimumSize()
     minimumSizeMayHaveChanged();
 }
 
-std::optional<Rect> Control::windowRect() const
+std::optional<Rect> Control::windowRect() const { return inWindow(localBounds()); }
+
+std::optional<Rect> Control::inWindow(Rect local) const
 {
-    Rect rect = localBounds();
     const Control* top = this;
     for (;; top = top->container_) {
-        rect.x += top->bounds_.x;
-        rect.y += top->bounds_.y;
+        local = movedBy(local, {top->bounds_.x, top->bounds_.y});
         if (!top->container_)
             break;
-        const Point origin = top->container_->contentOrigin();
-        rect.x += origin.x;
-        rect.y += origin.y;
+        local = movedBy(local, top->container_->contentOrigin());
     }
-    return top->window_ ? std::optional(rect) : std::nullopt;
+    return top->window_ ? std::optional(local) : std::nullopt;
 }
 
 Size Control::settledMinimumSize() const

@@ -67,6 +67,9 @@ bool DesignedPopup::applyStyle(const StyleSheet& styles)
 {
     designStyle_ = styles.find<PopupStyle>(styleKey());
     style_ = scaledToDpi(designStyle_, dpi());
+    shadow_ = style_.showShadow ? CastShadow(style_.surface, style_.surface.shadow,
+                                             {style_.shadowOffsetX, style_.shadowOffsetY})
+                                : CastShadow();
     placeChildren();
     invalidate(InvalidationReason::State);
     return true;
@@ -251,6 +254,8 @@ void DesignedPopup::paint(HDC dc, Point origin)
 {
     const Rect box = movedBy(bounds(), origin);
     const Point at{box.x, box.y};
+    if (framed_)
+        shadow_.paint(dc, *this, box);
     paintGround(dc, box);
     if (!glyph_.empty())
         paintIcon(dc, at);

@@ -3,6 +3,7 @@
 // the actions' own ids.
 #pragma once
 
+#include "vela/controls/cast_shadow.h"
 #include "vela/controls/drag_area.h"
 #include "vela/controls/themed_button.h"
 
@@ -30,6 +31,7 @@ public:
     std::wstring text() const override { return title_; }
     const BitmapSkin* attachedImage() const override;
     void paint(HDC dc, Point origin) override;
+    Rect damageBounds() const override { return shadow_.reach(localBounds()); }
     void setHot(bool) override {} // its buttons are hot, never itself
     // Arrow keys go along the actions; Ctrl+C copies title, message and actions as text.
     bool keyPressed(const KeyEvent& event) override;
@@ -92,6 +94,7 @@ private:
     bool open_ = true;
     PopupStyle designStyle_; // at 96 DPI, as the buttons take it
     PopupStyle style_;
+    CastShadow shadow_;
     DragArea header_;
     std::unique_ptr<ThemedButton> close_;
     std::vector<std::unique_ptr<ThemedButton>> buttons_;

@@ -138,6 +138,7 @@ bool InputRouter::moveFocus(bool backwards)
         return false;
     showsFocus_ = true;
     focus(next);
+    next->reachedByTab();
     // Also when it stays where it was: the ring appears.
     next->invalidate(InvalidationReason::State);
     return true;

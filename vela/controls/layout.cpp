@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace vela {
 
@@ -112,12 +111,6 @@ Placement place(const Axis& axis, bool constrained, std::int64_t parent, std::in
     Placement placement = constrained ? placeByConstraints(axis, parent) : placeByAnchors(axis, parent);
     growToMinimum(placement, minimum);
     return placement;
-}
-
-std::int32_t saturated(std::int64_t value) noexcept
-{
-    using Limits = std::numeric_limits<std::int32_t>;
-    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
 }
 
 std::int32_t hintAlong(std::int64_t position, std::int64_t farMargin, bool near, bool far,

@@ -1,7 +1,7 @@
 #include "vela/controls/progress_bar.h"
 
 #include "vela/render/mark_painter.h"
-#include "vela/render/shape.h"
+#include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 #include "vela/text.h"
 #include "vela/theme/record_scale.h"
@@ -56,7 +56,7 @@ void ProgressBar::paint(HDC dc, Point origin)
 bool ProgressBar::containsLocal(Point point) const
 {
     return Control::containsLocal(point) &&
-           pointInShape(style_.frameShape, bounds().width, bounds().height, point);
+           isOnSurface(style_.frame, style_.frameShape, sizeOf(bounds()), point);
 }
 
 PropertyList ProgressBar::properties() const { return {{L"value", decimalText(value_)}}; }

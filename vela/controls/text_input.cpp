@@ -1,7 +1,7 @@
 #include "vela/controls/text_input.h"
 
 #include "vela/controls/command_event.h"
-#include "vela/render/shape.h"
+#include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 #include "vela/text.h"
 #include "vela/text_clusters.h"
@@ -154,7 +154,7 @@ void TextInput::setAttachments(std::vector<TextAttachment> attachments)
 bool TextInput::containsLocal(Point point) const
 {
     return Control::containsLocal(point) &&
-           pointInShape(style_.shape, bounds().width, bounds().height, point);
+           isOnSurface(style_.surface, style_.shape, sizeOf(bounds()), point);
 }
 
 PropertyList TextInput::properties() const

@@ -33,6 +33,8 @@ public:
     void mouseCaptureLost() override;
     bool characterTyped(std::wstring_view text) override;
     void focusChanged(bool focused) override;
+    // All of it is selected, so that typing replaces it.
+    void reachedByTab() override { perform(TextCommand::SelectAll); }
     bool keyPressed(const KeyEvent& event) override;
     bool animationTick(std::uint32_t elapsed) override;
     bool wantsAnimation() const override;

@@ -1,7 +1,7 @@
 #include "vela/controls/themed_button.h"
 
 #include "vela/render/mark_painter.h"
-#include "vela/render/shape.h"
+#include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 #include "vela/theme/record_scale.h"
 #include "vela/theme/style_sheet.h"
@@ -86,7 +86,7 @@ void ThemedButton::paint(HDC dc, Point origin)
         drawText(dc, caption, text_, font, dpi(), {tone, TextAlign::Center, TextWrap::SingleLine});
     }
     if (hasFocus() && window()->showsFocus())
-        paintFocusRing(dc, box, style_.shape, dpi(), font.color);
+        paintFocusRing(dc, box, style_.surface[state].shape, dpi(), style_.surface[state].glow);
 }
 
 void ThemedButton::activate()
@@ -98,21 +98,21 @@ void ThemedButton::activate()
     event.controlId = id();
     event.action = action_.empty() ? id() : action_;
     event.text = text_;
+    // A copy: any handler may destroy this button and its own handler with it.
+    const ClickHandler handler = clicked_;
     if (window())
         window()->dispatchCommand(event);
-    if (event.handled || !clicked_)
-        return;
-    // A copy: the handler may destroy this button and the handler with it.
-    const ClickHandler handler = clicked_;
-    handler(event);
+    if (!event.handled && handler)
+        handler(event);
 }
 
 bool ThemedButton::containsLocal(Point point) const
 {
     if (!Control::containsLocal(point))
         return false;
+    // By the surface at rest, whatever the state: or a button could flicker between two of them.
     return !style_.useSurfaceHitTesting ||
-           pointInShape(style_.hitShape, bounds().width, bounds().height, point);
+           isOnSurface(style_.surface.normal, style_.hitShape, sizeOf(bounds()), point);
 }
 
 AccessibleInfo ThemedButton::accessibleInfo() const
@@ -120,6 +120,9 @@ AccessibleInfo ThemedButton::accessibleInfo() const
     AccessibleInfo info = Control::accessibleInfo();
     info.role = AccessibleRole::PushButton;
     info.action = AccessibleAction::Press;
+    // One that shows a glyph has its name in its hint.
+    if (info.name.empty())
+        std::swap(info.name, info.description);
     return info;
 }
 

@@ -20,6 +20,9 @@ constexpr std::int32_t kRailWidth = 3;
 bool TooltipView::applyStyle(const StyleSheet& styles)
 {
     style_ = scaledToDpi(styles.find<TooltipStyle>(styleKey()), dpi());
+    shadow_ = style_.showShadow
+                  ? CastShadow(style_.surface, style_.shadow, {style_.shadowOffsetX, style_.shadowOffsetY})
+                  : CastShadow();
     return true;
 }
 
@@ -46,6 +49,7 @@ Size TooltipView::preferredSize() const
 void TooltipView::paint(HDC dc, Point origin)
 {
     const Rect box = movedBy(bounds(), origin);
+    shadow_.paint(dc, *this, box);
     paintSurface(dc, box, style_.surface);
     std::int32_t x = box.x + style_.paddingX;
     const std::int32_t inner = std::max(box.height - 2 * style_.paddingY, 0);

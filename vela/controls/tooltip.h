@@ -1,6 +1,7 @@
 // The text of a tooltip on its surface, and the size it needs.
 #pragma once
 
+#include "vela/controls/cast_shadow.h"
 #include "vela/controls/control.h"
 #include "vela/theme/control_styles.h"
 
@@ -14,6 +15,8 @@ public:
     std::wstring text() const override { return text_; }
     void paint(HDC dc, Point origin) override;
 
+    Rect damageBounds() const override { return shadow_.reach(localBounds()); }
+
     void setText(std::wstring text) { text_ = std::move(text); }
     // As wide as the text needs, but no wider than the style allows; then it wraps.
     Size preferredSize() const;
@@ -23,6 +26,7 @@ private:
 
     std::wstring text_;
     TooltipStyle style_;
+    CastShadow shadow_;
 };
 
 } // namespace vela

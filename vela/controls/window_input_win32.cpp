@@ -202,10 +202,11 @@ LRESULT Window::Native::onKeyDown(UINT message, WPARAM wParam, LPARAM lParam)
         pressDebugKey(event);
         return 0;
     }
+    // With Ctrl or Alt it means something else, also when these are let go first.
+    snapshotDown_ |= event.key == kKeySnapshot;
     if (message == WM_SYSKEYDOWN)
         return passOn(message, wParam, lParam);
     if (event.key == kKeySnapshot && !event.modifiers.control && !event.modifiers.alt) {
-        snapshotDown_ = true;
         if (!event.repeated)
             window_.openScreenClip();
         return 0;
@@ -217,8 +218,8 @@ LRESULT Window::Native::onKeyDown(UINT message, WPARAM wParam, LPARAM lParam)
 LRESULT Window::Native::onKeyUp(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const KeyModifiers modifiers = modifiersNow();
-    if (wParam == kKeySnapshot && !std::exchange(snapshotDown_, false) && !modifiers.control &&
-        !modifiers.alt)
+    const bool answered = wParam == kKeySnapshot && std::exchange(snapshotDown_, false);
+    if (wParam == kKeySnapshot && !answered && !modifiers.control && !modifiers.alt)
         window_.openScreenClip();
     return passOn(message, wParam, lParam);
 }

@@ -103,7 +103,8 @@ LRESULT Window::Native::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_TIMER: return onTimer(wParam, lParam);
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN: return onKeyDown(message, wParam, lParam);
-    case WM_KEYUP: return onKeyUp(message, wParam, lParam);
+    case WM_KEYUP:
+    case WM_SYSKEYUP: return onKeyUp(message, wParam, lParam);
     case WM_CHAR: return onCharacter(wParam);
     case WM_IME_STARTCOMPOSITION:
     case WM_IME_COMPOSITION: return onImeComposition(message, wParam, lParam);

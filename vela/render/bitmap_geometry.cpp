@@ -52,13 +52,14 @@ std::optional<RunMask> bitmapOutline(const SurfaceStyle& style, Size surface, co
                      style.alphaThreshold);
 }
 
-bool hitSurface(const SurfaceStyle& style, Size surface, Point point, const SurfaceBitmaps& bitmaps)
+bool hitSurface(const SurfaceStyle& style, ShapeKind shape, Size surface, Point point,
+                const SurfaceBitmaps& bitmaps)
 {
     if (!isWithin(surface, style.geometry ? limitedInsets(style.geometry->hitInsets) : Insets{}, point))
         return false;
     const AlphaHitMode mode = alphaHitMode(style, bitmaps);
     if (mode == AlphaHitMode::ShapeFallback)
-        return pointInShape(style.shape, surface.width, surface.height, point);
+        return pointInShape(shape, surface.width, surface.height, point);
     const BitmapPlacement placement = bitmapPlacement(style, surface);
     // A threshold of 0 takes in every pixel of the bitmap, but none beside it.
     const bool onBitmap = !isEmpty(intersection(placement.rect, {point.x, point.y, 1, 1}));

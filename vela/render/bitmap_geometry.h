@@ -20,8 +20,10 @@ AlphaHitMode alphaHitMode(const SurfaceStyle& style, const SurfaceBitmaps& bitma
 // The outline that a bitmap gives the surface's layers and its window; none when its shape does.
 std::optional<RunMask> bitmapOutline(const SurfaceStyle& style, Size surface, const SurfaceBitmaps& bitmaps);
 
-// Whether the pixel of the surface reacts to the pointer.
-bool hitSurface(const SurfaceStyle& style, Size surface, Point point, const SurfaceBitmaps& bitmaps);
+// Whether the pixel of the surface reacts to the pointer: by its bitmap where the style says so, else by the
+// shape.
+bool hitSurface(const SurfaceStyle& style, ShapeKind shape, Size surface, Point point,
+                const SurfaceBitmaps& bitmaps);
 
 // The columns free for content at a height: common to all rows of its band (a band is as high as the geometry
 // says, or the whole outline when it says nothing), within the layout insets.

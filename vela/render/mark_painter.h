@@ -3,6 +3,7 @@
 #pragma once
 
 #include "vela/geometry.h"
+#include "vela/mul_div.h"
 #include "vela/platform_handles.h"
 #include "vela/render/smooth.h"
 #include "vela/theme/surface_style.h"
@@ -20,8 +21,19 @@ constexpr Rect markBox(ShapeKind shape, const Rect& plate) noexcept
     return {plate.x + inset, plate.y + inset, plate.width - 2 * inset, plate.height - 2 * inset};
 }
 
-// A band along the inside of the shape's outline, as wide as the DPI asks for.
+// A band of the shape around the rectangle, with a hair of ground between the two: it lies on what the
+// control lies on, and is seen whatever the control's own colours are.
 void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi, Color color);
+
+// 96-DPI pixels: two are the least that is seen on every monitor.
+inline constexpr std::int32_t kFocusRingWidth = 2;
+inline constexpr std::int32_t kFocusRingGap = 1;
+
+// The rectangle that the ring around another one fills.
+constexpr Rect focusRingBounds(const Rect& rect, std::int32_t dpi) noexcept
+{
+    return grownBy(rect, mulDiv(kFocusRingWidth, dpi, kDesignDpi) + mulDiv(kFocusRingGap, dpi, kDesignDpi));
+}
 
 // A dot or a small plate behind a symbol.
 void paintBadge(HDC dc, const Rect& rect, ShapeKind shape, Color color);

@@ -12,8 +12,6 @@ namespace vela {
 
 namespace {
 
-constexpr float kFocusRingWidth = 2.0F; // pixels at 96 DPI: the least that is seen on every monitor
-
 // GDI leaves the alpha of what it draws undefined.
 void makeOpaque(const PixelView& pixels)
 {
@@ -92,8 +90,8 @@ void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color co
 
 void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi, Color color)
 {
-    const float width = std::round(kFocusRingWidth * static_cast<float>(dpi) / kDesignDpi);
-    drawSmooth(dc, rect, [&](const LayerTarget& target, const Rect& local) {
+    const auto width = static_cast<float>(mulDiv(kFocusRingWidth, dpi, kDesignDpi));
+    drawSmooth(dc, focusRingBounds(rect, dpi), [&](const LayerTarget& target, const Rect& local) {
         strokeSmoothShape(target, shape, local, width, color);
     });
 }

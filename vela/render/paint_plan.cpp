@@ -15,11 +15,6 @@
 namespace vela {
 namespace {
 
-Rect grownBy(const Rect& rect, std::int32_t growth) noexcept
-{
-    return {rect.x - growth, rect.y - growth, rect.width + 2 * growth, rect.height + 2 * growth};
-}
-
 // Collects the layers of one surface, leaving out those that the clip hides.
 class Planner {
 public:

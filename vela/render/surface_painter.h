@@ -29,6 +29,10 @@ void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceS
 void fillShape(HDC dc, const Rect& rect, ShapeKind kind, Color color);
 void strokeShapeOutline(HDC dc, const Rect& rect, ShapeKind kind, Color color, std::int32_t penWidth);
 
+// Whether the pointer is on what is painted: by the surface's bitmap where the style says so, else by the
+// shape that a control names for its hits.
+bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point);
+
 // The region that gives a window of that size the style's shape, from (0, 0); null for a plain rectangle. The
 // caller owns it.
 HRGN createShapeRegion(const SurfaceStyle& style, Size size);

@@ -1,5 +1,6 @@
 #include "vela/render/surface_painter.h"
 
+#include "vela/render/bitmap_geometry.h"
 #include "vela/render/clip_gdi.h"
 #include "vela/render/kept_pictures_gdi.h"
 #include "vela/render/layer_parts.h"
@@ -145,6 +146,12 @@ void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
             paintStep(surface, *material);
         step = material == plan.end() ? material : material + 1;
     }
+}
+
+bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point)
+{
+    const LoadedBitmaps bitmaps = surfaceBitmaps(style);
+    return hitSurface(style, hitShape, size, point, bitmaps.view());
 }
 
 void drawGradientShape(HDC dc, const Rect& rect, const SurfaceStyle& style)

@@ -189,7 +189,10 @@ std::vector<ContrastCheck> Judge::judged()
             add("text of a severity", Need::Text, contrastRatio(style.rowText.color, fill));
     });
     judgeKind<RichTextStyle>(ControlKind::RichText);
-    judgeKind<TextInputStyle>(ControlKind::TextInput);
+    forEachVariant<TextInputStyle>(ControlKind::TextInput, [&](const TextInputStyle& style) {
+        judgeRules<TextInputStyle>(style, grounds_);
+        judgeFocus(style.disabledSurface, "locked ", grounds_);
+    });
     judgeKind<SelectableTextStyle>(ControlKind::SelectableText);
     forEachVariant<PopupStyle>(ControlKind::Popup, [&](const PopupStyle& style) {
         judgeRules<PopupStyle>(style, grounds_);

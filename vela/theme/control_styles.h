@@ -29,7 +29,8 @@ struct PerState {
 };
 
 // The glow colour of a surface is also that of the focus ring, which is drawn around it on what it lies on,
-// whether the surface glows or not.
+// whether the surface glows or not. A text field shows its focus by a surface of its own instead, and has the
+// ring only while it is locked.
 //
 // A surface carries its own shape; the shape fields of a record name the shape of the part they stand for and
 // are written into that part's surfaces when the style sheet is finished.

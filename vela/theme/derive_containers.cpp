@@ -87,7 +87,8 @@ void derivePopup(const DeriveContext& context, Color frame, Hue badge, PopupStyl
     const Bed actions = bedOn(style.footer, bed);
     deriveButton(context, {Hue::Accent, Emphasis::Solid, kLabel}, actions, button, style.primaryAction);
     deriveButton(context, {}, actions, button, style.secondaryAction);
-    style.showShadow = context.look.form(Form::Raised).shadow > 0;
+    style.surface.shadowOpacity = context.look.form(Form::Raised).shadow;
+    style.showShadow = style.surface.shadowOpacity > 0;
     // With the title bar of the mode, messages begin at one height in all windows.
     style.headerHeight = context.look.flushCaptionButtons ? 80 : 72;
     style.iconSize = 32;
@@ -106,7 +107,8 @@ void deriveTooltip(const DeriveContext& context, TooltipStyle& style)
     style.railShape = ShapeKind::Pill;
     style.surface = groundOf(context, fill, mixed(fill, context.edge, 0.6F), style.shape);
     style.surface.useNoise = false;
-    style.showShadow = context.look.form(Form::Raised).shadow > 0;
+    style.surface.shadowOpacity = context.look.form(Form::Raised).shadow;
+    style.showShadow = style.surface.shadowOpacity > 0;
     const Bed bed = bedOn(style.surface, context.ground);
     style.textStyle = textOn(context, bed.tones, {context.text});
     style.icon = badgeOf(context, Hue::Accent, bed, style.iconShape);
