@@ -6,6 +6,7 @@
 #include "tools/dialog_stage/dialog_stage_win32.h"
 
 #include "vela/mul_div.h"
+#include "vela/render/mark_painter.h"
 #include "vela/theme/json.h"
 #include "vela/theme/style_sections.h"
 #include "vela/theme/utf8.h"
@@ -156,7 +157,8 @@ void Check::lookAtFocus(DialogStage& stage)
         ++pictures_;
         ++focuses_;
         const vela::Rect at = focused->windowRect().value_or(vela::Rect{});
-        const vela::Rect ring = vela::movedBy(focused->focusBounds(), {at.x, at.y});
+        const vela::Rect ring =
+            vela::focusRingBounds(vela::movedBy(focused->focusBounds(), {at.x, at.y}), vela::kDesignDpi);
         const std::size_t seen = dialog_check::strikingChanges(ring, rest->pixels(), picture->pixels());
         if (seen < dialog_check::leastFocusChange(ring))
             report(L"the focus on " + focused->id() + L" is hardly seen: " + std::to_wstring(seen) +
