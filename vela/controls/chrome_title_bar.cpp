@@ -33,26 +33,25 @@ constexpr struct {
     {L"chrome-close", L"close", L"Zavrit", Glyph::Close},
 };
 
-// A button that fills the window's corner warns under the pointer, as the system's does.
-ButtonStyle closeButtonStyle(const ChromeTitleBarStyle& bar, const StyleSheet& styles)
+constexpr const wchar_t* kRestoreAction = L"restore";
+constexpr const wchar_t* kRestoreName = L"Obnovit";
+
+// The close button is one of the others until the pointer comes.
+ButtonStyle closeButtonStyle(const ChromeTitleBarStyle& style)
 {
-    ButtonStyle close = bar.titleButton;
-    const auto& warning = styles.find<ButtonStyle>(L"danger-action");
-    const bool fillsCorner = bar.buttonTop == 0 && bar.rightMargin == 0;
-    for (const VisualState state : {VisualState::Hot, VisualState::Pressed}) {
-        if (!fillsCorner)
-            break;
-        SurfaceStyle& surface = close.surface[state];
-        surface = warning.surface[state];
-        surface.shape = close.shape;
-        surface.drawBorder = surface.showOutline = surface.showShadow = surface.showGlow = false;
-        close.text[state].color = warning.text[state].color;
+    ButtonStyle close = style.titleButton;
+    const struct {
+        VisualState state;
+        const SurfaceStyle& surface;
+    } looks[] = {{VisualState::Hot, style.closeHotSurface},
+                 {VisualState::Pressed, style.closePressedSurface}};
+    for (const auto& [state, surface] : looks) {
+        close.surface[state] = surface;
+        close.surface[state].shape = style.titleButton.surface[state].shape;
+        close.text[state].color = style.closeHotColor;
     }
     return close;
 }
-
-constexpr const wchar_t* kRestoreAction = L"restore";
-constexpr const wchar_t* kRestoreName = L"Obnovit";
 
 } // namespace
 
@@ -82,7 +81,6 @@ bool ChromeTitleBar::applyStyle(const StyleSheet& styles)
 {
     designStyle_ = styles.find<ChromeTitleBarStyle>(styleKey());
     style_ = scaledToDpi(designStyle_, dpi());
-    closeStyle_ = closeButtonStyle(designStyle_, styles);
     placeChildren();
     invalidate(InvalidationReason::State);
     return true;
@@ -92,7 +90,7 @@ void ChromeTitleBar::onStyleApplied()
 {
     for (const auto& caption : captions_)
         caption->setStyle(designStyle_.titleButton);
-    button(CaptionButton::Close).setStyle(closeStyle_);
+    button(CaptionButton::Close).setStyle(closeButtonStyle(designStyle_));
     for (const auto& action : headerActions_)
         action->setStyle(designStyle_.titleButton);
 }

@@ -37,6 +37,9 @@ public:
     const SurfaceStyle* paintedSurface() const override { return &style_.surface; }
     Control* dialogControl(DialogRole role) const override;
 
+    // As high as its buttons and the room above them, taken once more below, ask for.
+    std::int32_t preferredHeight() const noexcept { return 2 * style_.buttonTop + style_.buttonHeight; }
+
     void setTitle(std::wstring title);
     // Only closing is offered at first.
     void showButton(CaptionButton which, bool shown);
@@ -52,7 +55,6 @@ private:
     std::wstring title_;
     ChromeTitleBarStyle designStyle_; // at 96 DPI, as the buttons take it
     ChromeTitleBarStyle style_;
-    ButtonStyle closeStyle_; // at 96 DPI as well
     DragArea dragArea_;
     std::array<std::unique_ptr<ThemedButton>, kCaptionButtonCount> captions_;
     std::vector<std::unique_ptr<ThemedButton>> headerActions_;

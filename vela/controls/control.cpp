@@ -223,4 +223,12 @@ const std::vector<Control*>& Control::visibleChildren() const
     return visibleChildren_;
 }
 
+void styleTree(Control& control, const StyleSheet& styles)
+{
+    control.applyStyle(styles);
+    for (Control* child : control.children())
+        styleTree(*child, styles);
+    control.onStyleApplied();
+}
+
 } // namespace vela

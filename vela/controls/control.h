@@ -198,4 +198,8 @@ private:
     WindowHost* window_ = nullptr;
 };
 
+// Gives every control of a tree its record. One that is made of others gives them their looks after they have
+// taken their own.
+void styleTree(Control& control, const StyleSheet& styles);
+
 } // namespace vela

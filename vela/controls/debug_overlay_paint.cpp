@@ -27,13 +27,15 @@ const FontSpec& overlayFont()
     return font;
 }
 
-void paintTag(HDC dc, Point at, std::wstring_view text, std::int32_t dpi, Color ink)
+// A text on a plate, cut where its room ends; a negative room is as much as the text needs.
+void paintTag(HDC dc, Point at, std::wstring_view text, std::int32_t dpi, Color ink, std::int32_t room = -1)
 {
     FontSpec font = overlayFont();
     font.color = ink;
-    const Rect tag{at.x, at.y, measureTextWidth(text, font, dpi) + 4, lineHeight(font, dpi)};
+    const std::int32_t whole = measureTextWidth(text, font, dpi) + 4;
+    const Rect tag{at.x, at.y, room < 0 ? whole : std::min(whole, room), lineHeight(font, dpi)};
     fillShape(dc, tag, ShapeKind::Rect, kGround);
-    drawText(dc, {tag.x + 2, tag.y, tag.width, tag.height}, text, font, dpi);
+    drawText(dc, {tag.x + 2, tag.y, std::max(tag.width - 2, 0), tag.height}, text, font, dpi);
 }
 
 std::wstring stateText(const Control& control)
@@ -98,15 +100,23 @@ struct OverlayPainter {
         if (overlay.showContent)
             strokeShapeOutline(dc, movedBy(control.contentBounds(), {rect.x, rect.y}), ShapeKind::Rect,
                                kContent, 1);
+        // Neighbours keep to themselves; the one under the pointer has its say on top of all.
+        if (&control != hot)
+            paintTagOf(control, rect.width);
+        for (const Control* child : control.children())
+            paint(*child);
+    }
+
+    void paintTagOf(const Control& control, std::int32_t room) const
+    {
+        const Rect rect = control.windowRect().value_or(Rect{});
         std::wstring tag = overlay.showIds ? control.id() : std::wstring();
         const std::wstring description = describe(control, overlay.mode);
         if (!tag.empty() && !description.empty())
             tag += L' ';
         tag += description;
         if (!tag.empty())
-            paintTag(dc, {rect.x, rect.y}, tag, dpi, &control == hot ? kHot : kInk);
-        for (const Control* child : control.children())
-            paint(*child);
+            paintTag(dc, {rect.x, rect.y}, tag, dpi, &control == hot ? kHot : kInk, room);
     }
 };
 
@@ -115,7 +125,10 @@ struct OverlayPainter {
 void paintDebugOverlay(HDC dc, const Control& root, const DebugOverlay& overlay, Point cursor,
                        const Control* hot, std::int32_t dpi)
 {
-    OverlayPainter{dc, overlay, hot, dpi}.paint(root);
+    const OverlayPainter painter{dc, overlay, hot, dpi};
+    painter.paint(root);
+    if (hot)
+        painter.paintTagOf(*hot, -1);
     const std::int32_t line = lineHeight(overlayFont(), dpi);
     paintTag(dc, {0, 0},
              debugHeader(overlay, cursor, hot ? std::wstring_view(hot->id()) : std::wstring_view()), dpi,

@@ -204,6 +204,15 @@ std::int32_t DesignedPopup::titleLeft() const noexcept
     return behindIcon ? style_.paddingX + style_.iconSize + scaled(kTitleGap) : contentLeft();
 }
 
+// Inside the popup's border, which it would cover.
+Rect DesignedPopup::headerRect() const noexcept
+{
+    const SurfaceStyle& around = style_.surface;
+    const std::int32_t line = around.showOutline ? around.outlineWidth : around.drawBorder ? 1 : 0;
+    const std::int32_t edge = framed_ ? line : 0;
+    return {edge, edge, std::max(bounds().width - 2 * edge, 0), std::max(style_.headerHeight - edge, 0)};
+}
+
 Rect DesignedPopup::messageRect() const noexcept
 {
     // A header that is seen as a band ends where it ends; one without a ground of its own already keeps away.
@@ -226,7 +235,7 @@ void DesignedPopup::paintGround(HDC dc, const Rect& box) const
         ground.drawBorder = ground.showOutline = ground.showShadow = ground.showGlow = false;
     }
     paintSurface(dc, box, ground);
-    paintSurface(dc, {box.x, box.y, box.width, style_.headerHeight}, style_.header);
+    paintSurface(dc, movedBy(headerRect(), {box.x, box.y}), style_.header);
     const std::int32_t footer = footerHeight();
     // The strip would fill the round or cut corners of a frame.
     if (footer == 0 || framed_)

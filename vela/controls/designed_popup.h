@@ -83,6 +83,7 @@ private:
     bool moveAlongActions(const KeyEvent& event);
     std::int32_t titleLeft() const noexcept;
     Rect iconRect() const noexcept;
+    Rect headerRect() const noexcept;
     Rect messageRect() const noexcept;
 
     std::wstring title_;

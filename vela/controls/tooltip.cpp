@@ -65,8 +65,10 @@ void TooltipView::paint(HDC dc, Point origin)
                    {icon.x + (icon.width - side) / 2, icon.y + (icon.height - side) / 2, side, side}, dpi(),
                    style_.iconText.color);
     }
-    const Rect text{box.x + textLeft(), box.y + style_.paddingY,
-                    std::max(box.width - textLeft() - style_.paddingX, 0), inner};
+    // Beside a larger icon the text stands in the middle.
+    const std::int32_t width = std::max(box.width - textLeft() - style_.paddingX, 0);
+    const std::int32_t height = std::min(measureText(text_, style_.textStyle, dpi(), width), inner);
+    const Rect text{box.x + textLeft(), box.y + style_.paddingY + (inner - height) / 2, width, height};
     drawText(dc, text, text_, style_.textStyle, dpi(), {.wrap = TextWrap::Words});
 }
 

@@ -32,6 +32,9 @@ inline constexpr bool kDiagnosticsByDefault = false;
 inline constexpr bool kDiagnosticsByDefault = true;
 #endif
 
+// The panel that a window's ground is, for skins whose panels have a shape that no window could have.
+inline constexpr std::wstring_view kWindowVariant = L"window";
+
 class Window : public WindowHost {
 public:
     // Sees every message first; true when it handled the message, with the answer in the last argument.
@@ -127,7 +130,6 @@ private:
     friend class Native;
 
     void invalidateAll();
-    void styleTree(Control& control);
 
     HWND handle_ = nullptr;
     std::wstring title_;

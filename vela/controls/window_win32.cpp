@@ -17,6 +17,7 @@ Window::Window() : root_(L"root", {}), input_(root_), native_(std::make_unique<N
     openTextEngine();
     // The root is placed by no parent: with its own size as its minimum it could grow but never shrink.
     root_.setMinimumSize({0, 0});
+    root_.setStyleKey(std::wstring(kWindowVariant));
     root_.attach(this);
 }
 
@@ -112,17 +113,8 @@ void Window::applyStyles(std::shared_ptr<const StyleSheet> styles)
     invalidateAll();
     const PanelStyle& ground = styles_->find<PanelStyle>(root_.styleKey());
     root_.setSurface(scaledToDpi(ground.surface, dpi_));
-    styleTree(root_);
+    styleTree(root_, *styles_);
     native_->applyShape();
-}
-
-// A control that is made of others gives them their looks after they have taken their own.
-void Window::styleTree(Control& control)
-{
-    control.applyStyle(*styles_);
-    for (Control* child : control.children())
-        styleTree(*child);
-    control.onStyleApplied();
 }
 
 void Window::setStyleSource(StyleSource source)

@@ -6,6 +6,7 @@
 #include "vela/render/kept_pictures_gdi.h"
 #include "vela/render/text_dwrite.h"
 
+#include <numeric>
 #include <optional>
 
 namespace vela {
@@ -98,15 +99,34 @@ constexpr RECT toWin32(const Rect& rect) noexcept
     return {rect.x, rect.y, rect.x + rect.width, rect.y + rect.height};
 }
 
+// A context that draws text in that font and colour over what is there, for as long as this lives.
+class GdiPen {
+public:
+    GdiPen(HDC dc, HFONT font, Color color)
+        : dc_(dc), selected_(dc, font), oldMode_(::SetBkMode(dc, TRANSPARENT)),
+          oldColor_(::SetTextColor(dc, color))
+    {
+    }
+    GdiPen(const GdiPen&) = delete;
+    GdiPen& operator=(const GdiPen&) = delete;
+    ~GdiPen()
+    {
+        ::SetTextColor(dc_, oldColor_);
+        ::SetBkMode(dc_, oldMode_);
+    }
+
+private:
+    HDC dc_;
+    SelectedObject selected_;
+    int oldMode_;
+    COLORREF oldColor_;
+};
+
 void drawGdi(HDC dc, const Rect& rect, std::wstring_view text, HFONT font, UINT flags, Color color)
 {
-    const SelectedObject selected(dc, font);
-    const int oldMode = ::SetBkMode(dc, TRANSPARENT);
-    const COLORREF oldColor = ::SetTextColor(dc, color);
+    const GdiPen pen(dc, font, color);
     RECT room = toWin32(rect);
     ::DrawTextW(dc, text.data(), static_cast<int>(text.size()), &room, flags);
-    ::SetTextColor(dc, oldColor);
-    ::SetBkMode(dc, oldMode);
 }
 
 Color colorFor(const FontSpec& font, TextTone tone) noexcept
@@ -187,9 +207,17 @@ void drawCenteredText(HDC dc, const Rect& rect, std::wstring_view text, const Fo
 void drawUnclippedLine(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font,
                        std::int32_t dpi, Color color)
 {
-    if (!text.empty())
-        drawGdi(dc, rect, text, ensureFont(font, dpi).handle, kCommonFlags | DT_SINGLELINE | DT_NOCLIP,
-                color);
+    if (text.empty())
+        return;
+    const Font& made = ensureFont(font, dpi);
+    std::vector<std::int32_t> advances;
+    GdiRuler(made).measure(text, advances);
+    std::adjacent_difference(advances.begin(), advances.end(), advances.begin());
+    // Every letter where it was measured to be, for carets and selections stand between them: GDI alone draws
+    // a letter that it does not smooth as much as a pixel wider or narrower.
+    const GdiPen pen(dc, made.handle, color);
+    ::ExtTextOutW(dc, rect.x, rect.y, 0, nullptr, text.data(), static_cast<UINT>(text.size()),
+                  reinterpret_cast<const INT*>(advances.data()));
 }
 
 std::int32_t measureText(std::wstring_view text, const FontSpec& font, std::int32_t dpi, std::int32_t width)

@@ -32,6 +32,11 @@ constexpr Rule<Card> kCardRules[] = {
 
 constexpr Rule<Title> kTitleRules[] = {
     {"title", Need::Text, &Title::titleText, {&Title::surface}},
+    {"hot close glyph",
+     Need::Mark,
+     &Title::closeHotColor,
+     {&Title::closeHotSurface, &Title::closePressedSurface},
+     &Title::surface},
 };
 
 constexpr Rule<Chip> kChipRules[] = {

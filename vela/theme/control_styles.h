@@ -86,6 +86,9 @@ struct ChromeTitleBarStyle {
     ShapeKind shape = ShapeKind::Rect;
     FontSpec titleText;
     ButtonStyle titleButton;
+    SurfaceStyle closeHotSurface; // in the shape of the title buttons
+    SurfaceStyle closePressedSurface;
+    Color closeHotColor = hexColor(0xFFFFFF); // pressed too
     std::int32_t buttonWidth = 46;
     std::int32_t buttonHeight = 32;
     std::int32_t buttonTop = 0;

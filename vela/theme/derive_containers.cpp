@@ -168,6 +168,12 @@ void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
     style.titleText = textOn(context, bed.tones, {context.text, context.strongText}, flush ? kSmall : kLabel);
     deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, bed,
                  flush ? ShapeKind::Rect : context.look.controlShape, style.titleButton);
+    const Color closing = solidFill(context, context.solid(Hue::Danger), Form::Plate);
+    style.closeHotColor = context.inkOn(context.shades(closing, Form::Plate));
+    const Color closingNow = context.fillUnder(style.closeHotColor, closing, mixed(closing, bed.fill, 0.2F),
+                                               Form::Plate, {closing});
+    style.closeHotSurface = plateOf(context, closing, style.titleButton.shape);
+    style.closePressedSurface = plateOf(context, closingNow, style.titleButton.shape);
     style.buttonWidth = flush ? 46 : 34;
     style.buttonHeight = flush ? 32 : 26;
     style.buttonTop = flush ? 0 : 7;

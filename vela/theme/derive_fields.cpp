@@ -57,7 +57,9 @@ void addAttachments(const DeriveContext& context, Color ink, Color field, TextIn
         context.fillUnder(ink, field, context.veil({field, field}, 0.07F), Form::Plate, {field});
     style.attachmentSurface =
         surfaceOf(context, {.fill = chip, .border = context.hairline}, style.attachmentShape);
-    style.attachmentImageSurface = plateOf(context, chip, style.attachmentImageShape);
+    style.attachmentImageSurface = plateOf(
+        context, context.markFill(context.theme.accent, context.shades(chip, Form::Plate), Form::Plate),
+        style.attachmentImageShape);
     style.attachmentRemoveSurface =
         plateOf(context, context.fillUnder(ink, chip, context.veil({chip, chip}, 0.08F), Form::Plate, {chip}),
                 style.attachmentRemoveShape);
