@@ -3,8 +3,8 @@
 #pragma once
 
 #include "tools/gallery/sheet_gdi.h"
+#include "tools/showcase/showcase_pages_win32.h"
 #include "tools/showcase/showcase_window_win32.h"
-#include "tools/showcase_content/content.h"
 
 #include "vela/theme/skin_document.h"
 

@@ -1,6 +1,6 @@
 #include "tools/showcase/live_showcase_win32.h"
 
-#include "tools/showcase_content/content.h"
+#include "tools/showcase/showcase_pages_win32.h"
 #include "tools/skin_lint/accepted.h"
 
 #include "vela/render/surface_bitmaps.h"

@@ -1,6 +1,6 @@
 #include "tools/showcase_content/content.h"
 
-#include "tools/showcase_content/pages.h"
+#include "tools/showcase_content/exhibits.h"
 
 namespace showcase {
 
@@ -12,20 +12,16 @@ namespace {
 
 constexpr std::wstring_view kPageId = L"page";
 
-constexpr Page kPages[] = {{L"controls", buildControlsPage}};
-
 } // namespace
-
-std::span<const Page> pages() noexcept { return kPages; }
 
 vela::ChromeTitleBar& addShowcase(Panel& root)
 {
-    auto& bar = root.addControl(std::make_unique<vela::ChromeTitleBar>(
+    auto& bar = root.addControl(std::make_unique<FittedTitleBar>(
         L"chrome", Rect{0, 0, kClientSize.width, kTitleBarHeight}, L"Showcase", vela::Theme()));
     bar.setAnchors(Anchors::Left | Anchors::Top | Anchors::Right);
     for (const auto shown : {vela::CaptionButton::Minimize, vela::CaptionButton::Maximize})
         bar.showButton(shown, true);
-    showPage(root, kPages[0]);
+    showPage(root, kControlsPage);
     return bar;
 }
 

@@ -6,7 +6,6 @@
 #include "vela/controls/chrome_title_bar.h"
 #include "vela/controls/panel.h"
 
-#include <span>
 #include <string_view>
 
 namespace showcase {
@@ -19,9 +18,12 @@ struct Page {
     std::wstring_view name;
     void (*build)(vela::Panel& page);
 };
-std::span<const Page> pages() noexcept;
 
-// Fills the root of a window whose client area has kClientSize: the title bar and the first page.
+// The toolkit's controls; pages that need more than the toolkit are the window's (showcase_pages_win32.h).
+void buildControlsPage(vela::Panel& page);
+inline constexpr Page kControlsPage{L"controls", buildControlsPage};
+
+// Fills the root of a window whose client area has kClientSize: the title bar and the controls' page.
 vela::ChromeTitleBar& addShowcase(vela::Panel& root);
 
 // Puts another page into the place of the one that is shown. The window must apply its styles afterwards.

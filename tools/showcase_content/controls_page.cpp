@@ -1,6 +1,6 @@
 // Every simple control in every state, and above them one of each kind to try.
+#include "tools/showcase_content/content.h"
 #include "tools/showcase_content/exhibits.h"
-#include "tools/showcase_content/pages.h"
 
 #include "vela/controls/check_box.h"
 #include "vela/controls/chrome_title_bar.h"
@@ -260,7 +260,7 @@ void addTitleBars(Panel& panel, std::int32_t top)
                   {CaptionButton::Maximize, State::Pressed},
                   {CaptionButton::Close, State::Hot}};
     for (const bool mixed : {false, true}) {
-        auto bar = std::make_unique<ChromeTitleBar>(mixed ? L"chrome.mixed" : L"chrome.normal",
+        auto bar = std::make_unique<FittedTitleBar>(mixed ? L"chrome.mixed" : L"chrome.normal",
                                                     Rect{kLeft + (mixed ? kBar + 16 : 0), top, kBar, 40},
                                                     L"Tamber", Theme());
         ThemedButton& first = bar->addHeaderAction(1, L"?");

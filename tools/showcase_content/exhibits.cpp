@@ -79,4 +79,10 @@ void FocusStage::attachToWindow()
         child->attach(host_.get());
 }
 
+void FittedTitleBar::onStyleApplied()
+{
+    ChromeTitleBar::onStyleApplied();
+    setBounds({bounds().x, bounds().y, bounds().width, preferredHeight()});
+}
+
 } // namespace showcase

@@ -3,6 +3,7 @@
 // that nothing reaches them any more that could change the state.
 #pragma once
 
+#include "vela/controls/chrome_title_bar.h"
 #include "vela/controls/panel.h"
 
 #include <memory>
@@ -37,5 +38,12 @@ private:
 
 // 96-DPI pixels.
 inline constexpr std::int32_t kStageRoom = 10;
+
+// A title bar that is as high as its skin wants it.
+class FittedTitleBar final : public vela::ChromeTitleBar {
+public:
+    using ChromeTitleBar::ChromeTitleBar;
+    void onStyleApplied() override;
+};
 
 } // namespace showcase
