@@ -16,15 +16,6 @@ __declspec(dllexport) unsigned long NvOptimusEnablement = 1;
 __declspec(dllexport) unsigned long AmdPowerXpressRequestHighPerformance = 1;
 }
 
-// What the C++ library would do with an exception that nobody catches: name its type, with a demangler and
-// the C library's formatting, 70 KB in all. hardenProcess sets the handler that counts.
-namespace __gnu_cxx {              // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
-void __verbose_terminate_handler() // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
-{
-    ::TerminateProcess(::GetCurrentProcess(), setup::kExitInstallFailed);
-}
-} // namespace __gnu_cxx
-
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int)
 {
     using namespace setup;

@@ -34,6 +34,12 @@ if(WIN32)
     UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX WINVER=0x0A00 _WIN32_WINNT=0x0A00)
   target_compile_options(tamber_settings INTERFACE -ffunction-sections -fdata-sections)
   target_link_options(tamber_settings INTERFACE -static -Wl,--gc-sections -Wl,--no-insert-timestamp)
+  # The product is optimised as a whole, which makes it a sixth smaller. Everything else links the ordinary code
+  # in the same object files: it would take long, and only the product's size counts.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(tamber_settings INTERFACE $<$<AND:$<COMPILE_LANGUAGE:CXX>,$<CONFIG:MinSizeRel>>:-flto -ffat-lto-objects>)
+    target_link_options(tamber_settings INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:TAMBER_WHOLE_PROGRAM>>>:-fno-lto>)
+  endif()
   # Warnings of the cross compiler's own headers are not ours to fix.
   set(CMAKE_CXX_USE_RESPONSE_FILE_FOR_INCLUDES OFF)
 endif()

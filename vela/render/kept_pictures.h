@@ -6,7 +6,6 @@
 #include "vela/render/pixel_buffer.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -99,7 +98,7 @@ private:
     }
 
     std::size_t most_;
-    std::array<std::uint64_t, 1024> lately_{};
+    std::vector<std::uint64_t> lately_ = std::vector<std::uint64_t>(1024); // an array would lie in the file
     std::size_t next_ = 0;
     BoundedCache<Key, Picture, PixelCount> pictures_;
 };
