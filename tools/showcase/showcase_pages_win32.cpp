@@ -36,7 +36,7 @@ public:
     bool applyStyle(const vela::StyleSheet& styles) override
     {
         // A copy: the dialog keeps its styles.
-        const auto own = std::make_shared<const vela::StyleSheet>(styles);
+        auto own = std::make_shared<const vela::StyleSheet>(styles);
         dialog_ = make_({nullptr, [own] { return own; }, nullptr});
         vela::Panel& root = dialog_->root();
         const vela::Size size = dialog_->designSize();
