@@ -149,7 +149,7 @@ void addCheckBoxes(Panel& panel, std::int32_t top)
         addCaption(panel, {x, top, kStep, kCaption}, state.name);
         for (const bool checked : {false, true}) {
             const std::wstring_view mark = checked ? L"checked" : L"unchecked";
-            const std::int32_t y = top + kCaption + 4 + (checked ? 30 : 0);
+            const std::int32_t y = top + kCaption + 4 + (checked ? 34 : 0);
             auto box = std::make_unique<CheckBox>(idOf(L"check", mark, state.name), Rect{x, y, kStep - 8, 26},
                                                   L"Volba");
             box->setChecked(checked);
@@ -295,7 +295,7 @@ void addPopups(Panel& panel, std::int32_t top)
     std::int32_t x = kLeft;
     for (const auto& shown : kPopups) {
         auto popup = std::make_unique<DesignedPopup>(idOf(L"popup", shown.variant, shown.glyph),
-                                                     Rect{x, top, kPopup, 162});
+                                                     Rect{x, top, kPopup, 194});
         popup->setStyleKey(std::wstring(shown.variant));
         popup->setGlyph(std::wstring(shown.glyph));
         popup->setTitle(std::wstring(shown.title));
