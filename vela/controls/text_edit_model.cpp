@@ -112,7 +112,9 @@ void TextEditModel::place(std::size_t caret, std::size_t anchor) noexcept
 
 bool TextEditModel::type(std::wstring_view text)
 {
-    return replace(selectionStart(), selectionEnd(), joinedToOneLine(text), EditKind::Typing);
+    // A key that gives no character leaves the selection alone; and a run of typing never begins empty.
+    const std::wstring typed = joinedToOneLine(text);
+    return !typed.empty() && replace(selectionStart(), selectionEnd(), typed, EditKind::Typing);
 }
 
 bool TextEditModel::paste(std::wstring_view text)
