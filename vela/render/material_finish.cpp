@@ -4,6 +4,7 @@
 #include "vela/render/material_terms.h"
 
 #include <cmath>
+#include <utility>
 
 namespace vela {
 namespace {
@@ -19,23 +20,37 @@ Clouds finishClouds(const MaterialScene& scene)
     return Clouds::onPixels(scene, std::max(2.0F, look.scale * 0.42F), look.seed * 0.067F);
 }
 
-class Brushed {
+// Parallel lines all over the material: scratches that catch the light, or grooves in the shade.
+class Lines {
 public:
-    explicit Brushed(const MaterialScene& scene)
-        : look_(scene.look()), lines_(scene, std::cos(look_.angle) * 0.74F, std::sin(look_.angle) * 0.74F, 0)
-    {
-    }
-
-    void beginRow(const MaterialRow& row) { lines_.beginRow(row); }
+    void beginRow(const MaterialRow& row) { waves_.beginRow(row); }
     void addTo(FourSums& sums, std::size_t column) const
     {
-        sums.add(look_.light,
-                 fallingOff(magnitude(lines_.at(column)), 1.64F, 2.4F) * (look_.texture * 0.12F));
+        sums.add(color_, fallingOff(magnitude(waves_.at(column)), steepness_, exponent_) * opacity_);
+    }
+
+protected:
+    Lines(Wave waves, const Rgb& color, float steepness, float exponent, float opacity)
+        : waves_(std::move(waves)), color_(color), steepness_(steepness), exponent_(exponent),
+          opacity_(opacity)
+    {
     }
 
 private:
-    const MaterialLook& look_;
-    Wave lines_;
+    Wave waves_;
+    Rgb color_;
+    float steepness_;
+    float exponent_;
+    float opacity_;
+};
+
+class Brushed : public Lines {
+public:
+    explicit Brushed(const MaterialScene& scene)
+        : Lines(Wave(scene, std::cos(scene.look().angle) * 0.74F, std::sin(scene.look().angle) * 0.74F, 0),
+                scene.look().light, 1.64F, 2.4F, scene.look().texture * 0.12F)
+    {
+    }
 };
 
 class Cracked {
@@ -81,22 +96,13 @@ private:
     Clouds clouds_;
 };
 
-class Etched {
+class Etched : public Lines {
 public:
-    explicit Etched(const MaterialScene& scene) : look_(scene.look()), lines_(scene, 0.42F, 0.32F * 0.42F, 0)
+    explicit Etched(const MaterialScene& scene)
+        : Lines(Wave(scene, 0.42F, 0.32F * 0.42F, 0), scene.look().shade, 1.62F, 4.0F,
+                scene.look().texture * 0.18F)
     {
     }
-
-    void beginRow(const MaterialRow& row) { lines_.beginRow(row); }
-    void addTo(FourSums& sums, std::size_t column) const
-    {
-        sums.add(look_.shade,
-                 fallingOff(magnitude(lines_.at(column)), 1.62F, 4.0F) * (look_.texture * 0.18F));
-    }
-
-private:
-    const MaterialLook& look_;
-    Wave lines_;
 };
 
 class Frosted {
