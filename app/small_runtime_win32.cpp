@@ -113,4 +113,7 @@ __cxa_eh_globals* __cxa_get_globals_fast() noexcept { return __cxa_get_globals()
 } // extern "C"
 } // namespace __cxxabiv1
 
+// For programs that use another file's variables without saying so; the linker refuses to make this one such.
+extern "C" void _pei386_runtime_relocator() {}
+
 // NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,cert-dcl58-cpp)
