@@ -164,7 +164,7 @@ TEST(DerivedForms, OfTheCleanModeLookLikeTheSystems)
     const StyleSheet sheet = deriveStyleSheet(themeIn(SurfaceMode::WindowsClean));
     const auto& button = sheet.find<ButtonStyle>(kDefaultVariant);
     EXPECT_EQ(button.shape, ShapeKind::RoundedRect);
-    EXPECT_TRUE(button.surface.normal.drawBorder);
+    EXPECT_TRUE(button.surface.normal.showOutline);
     // The slightly darker bottom edge.
     EXPECT_TRUE(button.surface.normal.showShadow);
     EXPECT_EQ(button.surface.normal.shadowOffsetY, 1);

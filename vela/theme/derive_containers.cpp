@@ -76,7 +76,7 @@ void derivePopup(const DeriveContext& context, Color frame, Hue badge, PopupStyl
     style.surface = groundOf(context, context.grounds.panel, frame, style.shape);
     style.header = bareSurface(context, style.headerShape);
     style.footer = groundOf(context, context.grounds.glass, context.hairline, ShapeKind::Rect);
-    style.footer.drawBorder = false;
+    style.footer.showOutline = false;
     style.icon = badgeOf(context, badge, context.ground, style.iconShape);
     const Bed bed = bedOn(style.surface, context.ground);
     const Color ink = context.inkOn(bedOn(style.icon, bed).tones);
@@ -163,7 +163,7 @@ void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
     ChromeTitleBarStyle& style = sheet.table<ChromeTitleBarStyle>().defaultRecord();
     style.shape = ShapeKind::Rect;
     style.surface = groundOf(context, context.header.fill, context.hairline, style.shape);
-    style.surface.drawBorder = false;
+    style.surface.showOutline = false;
     const Bed bed = bedOn(style.surface, context.ground);
     style.titleText = textOn(context, bed.tones, {context.text, context.strongText}, flush ? kSmall : kLabel);
     deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, bed,

@@ -28,8 +28,8 @@ void deriveCalendar(const DeriveContext& context, DateInputStyle& style)
     style.dayPressedSurface = plateOf(context, pressed, cell);
     style.daySelectedSurface = surfaceOf(context, {.fill = selected, .border = ring}, cell);
     style.todaySurface = bareSurface(context, cell);
-    style.todaySurface.border = ring;
-    style.todaySurface.drawBorder = true;
+    style.todaySurface.border = style.todaySurface.outline = ring;
+    style.todaySurface.showOutline = true;
 
     Tones cells = bed.tones;
     for (const Color fill : {hot, pressed, selected})

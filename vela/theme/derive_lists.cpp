@@ -90,7 +90,7 @@ void buildTableList(const DeriveContext& context, StyleSheet& sheet)
     const Color strip = context.fillUnder(ink, fills.list, towards(fills.list, context.header.fill, 0.05F),
                                           Form::Ground, {fills.list});
     style.header = groundOf(context, strip, context.hairline, style.headerShape);
-    style.header.drawBorder = false;
+    style.header.showOutline = false;
     const Tones head = context.shades(strip, Form::Ground);
     style.headerText = textOn(context, head, {context.theme.mutedText, ink}, kLabel);
     style.row = bareSurface(context, style.rowShape);
@@ -153,7 +153,7 @@ void buildMenuBar(const DeriveContext& context, StyleSheet& sheet)
                                            {bar, hot, pressed});
     MenuBarStyle& style = sheet.table<MenuBarStyle>().defaultRecord();
     style.surface = groundOf(context, bar, context.hairline, style.shape);
-    style.surface.drawBorder = false;
+    style.surface.showOutline = false;
     style.popupSurface = groundOf(context, bar, mixed(bar, context.edge, 0.6F), style.popupShape);
     style.popupSurface.useNoise = false;
     style.itemSurface = bareSurface(context, style.itemShape);

@@ -94,11 +94,10 @@ SurfaceStyle surfaceOf(const DeriveContext& context, const Face& face, ShapeKind
     surface.noise = context.dark ? hexColor(0xFFFFFF) : hexColor(0x000000);
     surface.noiseSeed = 0x2F1B;
     surface.drawFill = face.drawn;
-    // The light falls on the border too and would wash it out where it tells the control from its ground; the
-    // outline lies above the light.
-    const bool lit = context.look.form(face.form).light > 0 && face.form != Form::Ground;
-    surface.drawBorder = face.drawn && face.bordered && !lit;
-    surface.showOutline = face.drawn && face.bordered && lit;
+    // Not the border: light and noise fall on it too and would wash it out where it tells the control from
+    // its ground, and it is one pixel wide at every DPI.
+    surface.drawBorder = false;
+    surface.showOutline = face.drawn && face.bordered;
     return surface;
 }
 

@@ -72,8 +72,8 @@ private:
         level.border = line;
         level.outline = line;
         level.outlineWidth = width;
-        level.drawBorder = width == 1;
-        level.showOutline = width > 1;
+        level.drawBorder = false;
+        level.showOutline = width > 0;
         level.glow = line_; // of the focus ring
         surface = level;
     }
