@@ -144,7 +144,7 @@ void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, floa
     const float reach = std::clamp(end, 0.0F, static_cast<float>(std::max(track.width, 0)));
     const Rect filled{track.x, track.y, static_cast<std::int32_t>(std::ceil(reach)), track.height};
     paintCut(
-        dc, filled, [&](HDC copy) { paintSurface(copy, track, fill); },
+        dc, filled, [&](HDC copy) { paintControlSurface(copy, track, fill); },
         [&](const LayerTarget& target) {
             cutToProgress(target, fill.shape, {0, 0, track.width, track.height}, reach);
         });

@@ -62,14 +62,15 @@ void buildProgressBar(const DeriveContext& context, StyleSheet& sheet)
         makeFramed(context, style);
     const Bed track = bedOn(style.track, context.ground);
     const Color fill = context.markFill(context.theme.accent, track.tones, Form::Raised);
-    style.fill = surfaceOf(
-        context, {.fill = fill, .border = fill, .form = Form::Raised, .substance = Substance::Accent},
-        style.fillShape);
+    // Without a border: it would be open at the end that moves.
+    style.fill = surfaceOf(context,
+                           {.fill = fill,
+                            .border = fill,
+                            .form = Form::Raised,
+                            .substance = Substance::Accent,
+                            .bordered = false},
+                           style.fillShape);
     style.fill.showShadow = false;
-    style.fill.showGlow = context.look.glowOpacity > 0;
-    style.fill.glowOpacity = context.look.glowOpacity;
-    style.fill.glow = fill;
-    style.fill.glowRadius = 4;
     Tones label = bedOn(style.frame, context.ground).tones;
     label.include(context.ground.tones);
     style.labelText = textOn(context, label, {context.text}, kLabel);
