@@ -43,7 +43,12 @@ void ProgressBar::paint(HDC dc, Point origin)
     const Rect track = insetBy(bar, style_.insetX, style_.insetY);
     paintControlSurface(dc, bar, style_.frame);
     paintControlSurface(dc, track, style_.track);
-    paintProgressFill(dc, track, style_.fill, progressEnd(track.width, value_));
+    SurfaceStyle fill = style_.fill;
+    if (!isEnabled()) {
+        fill.fill = style_.labelText.disabledColor;
+        fill.useGradient = fill.materialEnabled = false;
+    }
+    paintProgressFill(dc, track, fill, progressEnd(track.width, value_));
     if (showsLabel_) {
         const Rect label{bar.x + bar.width + style_.labelPadding, all.y,
                          std::max(labelRoom - style_.labelPadding, 0), all.height};
