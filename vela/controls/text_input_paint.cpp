@@ -17,6 +17,8 @@ namespace {
 // 96-DPI pixels between the parts of a chip.
 constexpr std::int32_t kChipPadding = 8;
 
+constexpr std::int32_t kLongLine = 16'384; // pixels: more than ten screens of text
+
 Rect centredIn(const Rect& row, std::int32_t x, std::int32_t width, std::int32_t height) noexcept
 {
     return {x, row.y + (row.height - height) / 2, width, height};
@@ -117,12 +119,12 @@ void TextInput::paintText(HDC dc, Point at)
     const auto drawLine = [&](Color color) {
         FontSpec inked = font;
         inked.color = color;
-        // Only a text that is longer than the field needs to be drawn by what knows no ellipsis.
-        if (scroll_ == 0 && textWidth() <= area.width)
-            drawText(dc, {area.x, caret.y, area.width, caret.height}, model_.text(), inked, dpi());
+        const Rect line{area.x - scroll_, caret.y, textWidth() + 1, caret.height};
+        // A layout of something very long is not worth its time.
+        if (line.width < kLongLine)
+            drawText(dc, line, model_.text(), inked, dpi());
         else
-            drawUnclippedLine(dc, {area.x - scroll_, caret.y, textWidth() + 1, caret.height}, model_.text(),
-                              inked, dpi(), color);
+            drawUnclippedLine(dc, line, model_.text(), inked, dpi(), color);
     };
     const Color color = isEnabled() ? font.color : font.disabledColor;
     if (model_.hasSelection()) {
