@@ -112,6 +112,10 @@ TEST(FieldReader, TakesTheBitmapFromAnyOfItsKeys)
     EXPECT_FALSE(surfaceFrom("{'image': {}}").image);
     SurfaceStyle plated = surfaceFrom("{'image': 'a.png', 'drawFill': true}");
     EXPECT_TRUE(readOver(plated, "{'image': {'path': 'b.png'}}").drawFill) << "the skin has set it before";
+    SurfaceStyle filled = surfaceFrom("{'drawFill': true}");
+    EXPECT_TRUE(readOver(filled, "{'image': {'path': 'a.png'}}").drawFill) << "in a section read earlier";
+    SurfaceStyle unsaid = surfaceFrom("{'drawFill': 'perhaps'}");
+    EXPECT_FALSE(readOver(unsaid, "{'image': {'path': 'a.png'}}").drawFill);
 }
 
 TEST(FieldReader, ReadsTheTintBlockInAndBesideItsPrefix)

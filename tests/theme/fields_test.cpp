@@ -135,7 +135,7 @@ std::size_t memberSize(const Field& field)
 {
     switch (field.kind) {
     case FieldKind::Boolean:
-    case FieldKind::ColorGiven:
+    case FieldKind::Given:
     case FieldKind::Word: return 1;
     default: return sampleFor(field.kind).size;
     }
@@ -185,7 +185,7 @@ void expectKeysReachTheirMembers()
     const auto* const originalBytes = reinterpret_cast<const std::byte*>(&original);
     std::size_t tested = 0;
     for (const Leaf& leaf : leavesOf(table)) {
-        if (memberSize(*leaf.field) == 0 || leaf.field->kind == FieldKind::ColorGiven)
+        if (memberSize(*leaf.field) == 0 || leaf.field->kind == FieldKind::Given)
             continue;
         Record record;
         auto* const bytes = reinterpret_cast<std::byte*>(&record);

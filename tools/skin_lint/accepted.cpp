@@ -64,7 +64,8 @@ std::string acceptedBy(const Field& field)
 {
     switch (field.kind) {
     case FieldKind::ColorValue:
-    case FieldKind::ColorGiven: return "a colour: #RRGGBB or three decimals \"red, green, blue\"";
+    case FieldKind::Given: // beside the switch or the colour itself
+        return "a colour: #RRGGBB or three decimals \"red, green, blue\"";
     case FieldKind::Byte: return "a whole number from 0 to 255";
     case FieldKind::Length:
     case FieldKind::Integer: return "a whole number";

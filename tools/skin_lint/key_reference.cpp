@@ -121,7 +121,7 @@ private:
             // A record that is read from the same object: its keys are keys of this one.
             if (field.keys == std::string_view(".") && field.kind == FieldKind::Record)
                 fields(tableOf(field));
-            else if (field.kind != FieldKind::ColorGiven)
+            else if (field.kind != FieldKind::Given)
                 out_ += "| " + keysOf(field) + " | " + valueOf(field) + " |\n";
         }
     }

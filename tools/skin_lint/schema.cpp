@@ -140,20 +140,24 @@ private:
         });
     }
 
+    Json boolean()
+    {
+        return define("boolean", [this] {
+            return anyOf({{{"type", "boolean"}}, vocabulary(kBooleanWords)});
+        });
+    }
+
     Json leaf(const Field& field)
     {
         Json text = {{"type", "string"}};
         switch (field.kind) {
-        case FieldKind::ColorValue:
-        case FieldKind::ColorGiven: return color();
+        case FieldKind::ColorValue: return color();
+        case FieldKind::Given: return field.detail ? boolean() : color();
         case FieldKind::Byte: return number("byte", {{"minimum", 0}, {"maximum", 255}});
         case FieldKind::Length:
         case FieldKind::Integer: return number("integer", Json::object());
         case FieldKind::Unsigned: return number("unsigned", {{"minimum", 0}, {"maximum", 4294967295U}});
-        case FieldKind::Boolean:
-            return define("boolean", [this] {
-                return anyOf({{{"type", "boolean"}}, vocabulary(kBooleanWords)});
-            });
+        case FieldKind::Boolean: return boolean();
         case FieldKind::Weight:
             return anyOf(
                 {number("weight-number", {{"minimum", 100}, {"maximum", 900}}), vocabulary(kWeightWords)});

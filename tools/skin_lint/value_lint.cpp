@@ -48,7 +48,7 @@ std::string acceptedByAny(const std::vector<const Field*>& fields)
     std::vector<std::string> ways;
     for (const Field* field : fields) {
         std::string way = acceptedBy(*field);
-        if (field->kind != FieldKind::ColorGiven && std::find(ways.begin(), ways.end(), way) == ways.end())
+        if (field->kind != FieldKind::Given && std::find(ways.begin(), ways.end(), way) == ways.end())
             ways.push_back(std::move(way));
     }
     std::string all;

@@ -88,11 +88,11 @@ bool readAlphaShape(std::wstring_view text, SurfaceStyle& surface)
     return mode.has_value();
 }
 
-// A bitmap that was not there before replaces the fill; a switch that is read later may bring it back.
+// A bitmap that was not there before replaces the fill, unless the skin itself has said what is to be filled.
 void setImage(SurfaceStyle& surface, BitmapSkin image)
 {
     const bool isNew = !image.path.empty() && (!surface.image || surface.image->path.empty());
-    if (isNew)
+    if (isNew && !surface.fillGiven)
         surface.drawFill = false;
     surface.image = std::move(image);
 }
@@ -102,8 +102,11 @@ bool readText(const Field& field, std::wstring_view text, void* record, void* pl
 {
     switch (field.kind) {
     case FieldKind::ColorValue: return assign<Color>(place, parseColor(text));
-    case FieldKind::ColorGiven:
-        return assign<bool>(place, parseColor(text) ? std::optional(true) : std::nullopt);
+    case FieldKind::Given: {
+        const bool given = field.detail ? parseBoolean(text).has_value() : parseColor(text).has_value();
+        *static_cast<bool*>(place) |= given;
+        return given;
+    }
     case FieldKind::Byte: return assign<std::uint8_t>(place, parseByte(text));
     case FieldKind::Length:
     case FieldKind::Integer: return assign<std::int32_t>(place, leadingInteger(text));

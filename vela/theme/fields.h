@@ -14,7 +14,7 @@ namespace vela {
 
 enum class FieldKind : std::uint8_t {
     ColorValue, // Color
-    ColorGiven, // bool, set by the mere presence of a colour
+    Given,      // bool, set by the mere presence of a switch, whose words are the detail, or else of a colour
     Byte,       // std::uint8_t, clamped
     Length,     // std::int32_t, pixels at 96 DPI: it grows with the DPI
     Integer,    // std::int32_t that does not: degrees, counts, points

@@ -11,7 +11,7 @@ std::size_t plainSize(FieldKind kind) noexcept
 {
     switch (kind) {
     case FieldKind::Boolean:
-    case FieldKind::ColorGiven:
+    case FieldKind::Given:
     case FieldKind::Byte:
     case FieldKind::Word: return 1;
     case FieldKind::ColorValue:

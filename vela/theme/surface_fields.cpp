@@ -128,7 +128,7 @@ struct SurfaceRows {
         VELA_FIELD(noise, "noise"),
         VELA_FIELD(gradientStart, "gradientStart"),
         VELA_FIELD(gradientMid, "gradientMid"),
-        VELA_FIELD(useGradientMid, "gradientMid", FieldKind::ColorGiven, nullptr),
+        VELA_FIELD(useGradientMid, "gradientMid", FieldKind::Given, nullptr),
         VELA_FIELD(gradientEnd, "gradientEnd"),
         VELA_FIELD(innerShadowColor, "innerShadowColor insetShadowColor"),
 
@@ -146,6 +146,7 @@ struct SurfaceRows {
         VELA_FIELD(noiseSeed, "noiseSeed", FieldKind::Unsigned, nullptr),
 
         VELA_FIELD(drawFill, "drawFill"),
+        VELA_FIELD(fillGiven, "drawFill", FieldKind::Given),
         VELA_FIELD(drawBorder, "drawBorder"),
         VELA_FIELD(showShadow, "showShadow"),
         VELA_FIELD(showInnerShadow, "showInnerShadow"),

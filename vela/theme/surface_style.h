@@ -154,6 +154,7 @@ struct SurfaceStyle : MaterialShading, SurfaceMapping {
     Insets nineSlice;
 
     bool drawFill = true;
+    bool fillGiven = false; // internal: drawFill is the skin's own word, which outlasts an image
     bool drawBorder = true;
     bool showShadow = false;
     bool showInnerShadow = false;
