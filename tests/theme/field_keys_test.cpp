@@ -22,8 +22,9 @@ constexpr KindKeys kKindKeys[] = {
     {ControlKind::Card,
      "header surface shape headerShape titleText subtitleText headerHeight contentPadding"},
     {ControlKind::ChromeTitleBar,
-     "surface shape titleText titleButton closeHotSurface closePressedSurface closeHotColor buttonWidth "
-     "buttonHeight buttonTop buttonGap "
+     "surface shape titleText titleButton closeHotSurface closePressedSurface closeHotColor "
+     "closePressedColor "
+     "buttonWidth buttonHeight buttonTop buttonGap "
      "headerActionGap headerActionGroupGap rightMargin iconSize iconLeft titleLeft"},
     {ControlKind::StatusChip, "text surface shape badgeShape badge badgeSize badgeLeft textLeft"},
     {ControlKind::ProgressBar,

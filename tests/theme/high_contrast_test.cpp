@@ -127,6 +127,11 @@ TEST(HighContrast, TellsTheStatesOfAButtonApart)
                     << narrowed(variant.name) << static_cast<int>(state);
             EXPECT_NE(style.surface.hot, style.surface.pressed) << narrowed(variant.name);
         }
+        const auto& bar = sheet.find<ChromeTitleBarStyle>(kDefaultVariant);
+        EXPECT_EQ(bar.closeHotSurface.fill, stock.colors.highlight);
+        EXPECT_EQ(bar.closeHotColor, stock.colors.highlightText);
+        EXPECT_EQ(bar.closePressedSurface.fill, stock.colors.highlightText);
+        EXPECT_EQ(bar.closePressedColor, stock.colors.highlight);
     }
 }
 

@@ -43,12 +43,13 @@ ButtonStyle closeButtonStyle(const ChromeTitleBarStyle& style)
     const struct {
         VisualState state;
         const SurfaceStyle& surface;
-    } looks[] = {{VisualState::Hot, style.closeHotSurface},
-                 {VisualState::Pressed, style.closePressedSurface}};
-    for (const auto& [state, surface] : looks) {
+        Color glyph;
+    } looks[] = {{VisualState::Hot, style.closeHotSurface, style.closeHotColor},
+                 {VisualState::Pressed, style.closePressedSurface, style.closePressedColor}};
+    for (const auto& [state, surface, glyph] : looks) {
         close.surface[state] = surface;
         close.surface[state].shape = style.titleButton.surface[state].shape;
-        close.text[state].color = style.closeHotColor;
+        close.text[state].color = glyph;
     }
     return close;
 }

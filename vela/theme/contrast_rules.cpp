@@ -32,10 +32,11 @@ constexpr Rule<Card> kCardRules[] = {
 
 constexpr Rule<Title> kTitleRules[] = {
     {"title", Need::Text, &Title::titleText, {&Title::surface}},
-    {"hot close glyph",
+    {"hot close glyph", Need::Mark, &Title::closeHotColor, {&Title::closeHotSurface}, &Title::surface},
+    {"pressed close glyph",
      Need::Mark,
-     &Title::closeHotColor,
-     {&Title::closeHotSurface, &Title::closePressedSurface},
+     &Title::closePressedColor,
+     {&Title::closePressedSurface},
      &Title::surface},
 };
 

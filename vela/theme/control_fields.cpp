@@ -68,6 +68,7 @@ struct ChromeTitleBarRows {
         VELA_FIELD(closeHotSurface, "closeHotSurface"),
         VELA_FIELD(closePressedSurface, "closePressedSurface"),
         VELA_FIELD(closeHotColor, "closeHotColor"),
+        VELA_FIELD(closePressedColor, "closeHotColor closePressedColor"),
         VELA_FIELD(buttonWidth, "buttonWidth"),
         VELA_FIELD(buttonHeight, "buttonHeight"),
         VELA_FIELD(buttonTop, "buttonTop"),

@@ -88,7 +88,8 @@ struct ChromeTitleBarStyle {
     ButtonStyle titleButton;
     SurfaceStyle closeHotSurface; // in the shape of the title buttons
     SurfaceStyle closePressedSurface;
-    Color closeHotColor = hexColor(0xFFFFFF); // pressed too
+    Color closeHotColor = hexColor(0xFFFFFF);
+    Color closePressedColor = hexColor(0xFFFFFF);
     std::int32_t buttonWidth = 46;
     std::int32_t buttonHeight = 32;
     std::int32_t buttonTop = 0;

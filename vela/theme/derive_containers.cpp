@@ -170,6 +170,7 @@ void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
                  flush ? ShapeKind::Rect : context.look.controlShape, style.titleButton);
     const Color closing = solidFill(context, context.solid(Hue::Danger), Form::Plate);
     style.closeHotColor = context.inkOn(context.shades(closing, Form::Plate));
+    style.closePressedColor = style.closeHotColor;
     const Color closingNow = context.fillUnder(style.closeHotColor, closing, mixed(closing, bed.fill, 0.2F),
                                                Form::Plate, {closing});
     style.closeHotSurface = plateOf(context, closing, style.titleButton.shape);

@@ -161,10 +161,11 @@ void Painter::paint(ChromeTitleBarStyle& style, std::wstring_view) const
     face(style.surface, c_.window, c_.window, 0);
     ink(style.titleText, c_.windowText);
     quietButton(style.titleButton);
-    // One colour serves both states of the close button, so the line tells the press.
-    face(style.closeHotSurface, c_.highlight, line_);
-    face(style.closePressedSurface, c_.highlight, c_.windowText, kStrongLine);
-    style.closeHotColor = c_.highlightText;
+    // As the buttons beside it.
+    style.closeHotSurface = style.titleButton.surface.hot;
+    style.closePressedSurface = style.titleButton.surface.pressed;
+    style.closeHotColor = style.titleButton.text.hot.color;
+    style.closePressedColor = style.titleButton.text.pressed.color;
 }
 
 void Painter::paint(StatusChipStyle& style, std::wstring_view) const
