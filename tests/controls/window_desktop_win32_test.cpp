@@ -1,9 +1,12 @@
 // What a window tells the desktop, and how it shrinks to fit one.
 #include "vela/controls/taskbar_list_win32.h"
+#include "vela/controls/tooltip_window_win32.h"
 #include "vela/controls/window.h"
 
 #include "tests/support/test_window_win32.h"
 #include "vela/controls/themed_button.h"
+#include "vela/theme/skin_catalog.h"
+#include "vela/theme/style_sections.h"
 
 #include <gtest/gtest.h>
 
@@ -96,6 +99,10 @@ TEST_F(WindowDesktopTest, AWindowThatShrinksKeepsItsLayoutAtASmallerScale)
     EXPECT_EQ(window.dpi(), 48);
     EXPECT_EQ(screenRect().width, work.width);
     EXPECT_EQ(screenRect().height, 50);
+    TooltipWindow tip;
+    tip.show(window, {0, 0}, L"Zavrit", std::make_shared<StyleSheet>(buildStyleSheet(builtInSkin())));
+    ASSERT_TRUE(tip.window());
+    EXPECT_EQ(tip.window()->dpi(), 48);
 }
 
 TEST_F(WindowDesktopTest, TheScaleFollowsTheMonitorAsFarAsItFits)

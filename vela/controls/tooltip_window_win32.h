@@ -8,8 +8,10 @@ namespace vela {
 
 class TooltipWindow {
 public:
-    // `pointer` is in screen pixels; the tooltip keeps inside its monitor. The owner's styles are used.
-    void show(HWND owner, Point pointer, const std::wstring& text, std::shared_ptr<const StyleSheet> styles);
+    // `pointer` is in screen pixels; the tooltip keeps inside its monitor. The owner's styles and its scale
+    // are used.
+    void show(const Window& owner, Point pointer, const std::wstring& text,
+              std::shared_ptr<const StyleSheet> styles);
     void hide() { window_.reset(); }
     const Window* window() const noexcept { return window_.get(); }
 

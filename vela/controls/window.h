@@ -64,6 +64,8 @@ public:
     // Before `create`. Where the client area does not fit the work area at the monitor's DPI, everything is
     // drawn at a smaller scale until it does; `dpi` is that scale.
     void setShrinkToFit(bool shrinks) noexcept { shrinkToFit_ = shrinks; }
+    // Before `create`. Everything is drawn at this DPI, whatever the monitor's is.
+    void setFixedScale(std::int32_t dpi) noexcept { fixedScale_ = dpi; }
     void setQuitOnDestroy(bool quits) noexcept { quitOnDestroy_ = quits; }
     void setCloseOnDeactivate(bool closes) noexcept { closeOnDeactivate_ = closes; }
     void setTooltipDelay(std::uint32_t milliseconds) noexcept { tooltipDelay_ = milliseconds; }
@@ -147,6 +149,7 @@ private:
     bool allDamaged_ = true; // until the next paint: nothing more can be damaged
     Size designClient_;      // 96-DPI pixels, as given to `create`
     bool shrinkToFit_ = false;
+    std::int32_t fixedScale_ = 0;  // 0 for none
     std::int32_t dpi_ = 96;        // the scale of all that is drawn
     std::int32_t monitorDpi_ = 96; // the system's; of the standard frame and the icons
     std::wstring shutdownBlockReason_;

@@ -184,7 +184,7 @@ void Window::Native::updateTooltip(std::uint64_t now)
         tooltip_ = std::make_unique<TooltipWindow>();
     POINT cursor{};
     ::GetCursorPos(&cursor);
-    tooltip_->show(window_.handle_, {cursor.x, cursor.y}, due->hint(), window_.styles_);
+    tooltip_->show(window_, {cursor.x, cursor.y}, due->hint(), window_.styles_);
 }
 
 void Window::Native::dismissTooltip()

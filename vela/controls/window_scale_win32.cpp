@@ -14,6 +14,8 @@ Rect Window::Native::workArea() const noexcept
 std::int32_t Window::Native::scaleFor(const Rect& workArea, std::int32_t monitorDpi,
                                       Size frame) const noexcept
 {
+    if (window_.fixedScale_ > 0)
+        return window_.fixedScale_;
     if (!window_.shrinkToFit_)
         return monitorDpi;
     const Size room{workArea.width - frame.width, workArea.height - frame.height};
