@@ -5,8 +5,6 @@
 #include "app/installer_command.h"
 #include "app/paths.h"
 
-#include "vela/library_win32.h"
-
 #include <shellapi.h>
 
 namespace setup {
@@ -53,12 +51,17 @@ InstallerExit runAndWait(const std::wstring& program, const std::wstring& parame
 
 } // namespace
 
+const vela::SystemLibrary& installerLibrary() noexcept
+{
+    static const vela::SystemLibrary library(L"msi.dll");
+    return library;
+}
+
 RelatedProduct WindowsEffects::relatedProduct(std::uint32_t index)
 {
     using EnumRelatedProducts =
         UINT WINAPI(LPCWSTR upgradeCode, DWORD reserved, DWORD index, LPWSTR productCode);
-    static const vela::SystemLibrary library(L"msi.dll");
-    static const auto enumerate = library.function<EnumRelatedProducts>("MsiEnumRelatedProductsW");
+    static const auto enumerate = installerLibrary().function<EnumRelatedProducts>("MsiEnumRelatedProductsW");
     // A product code is 38 characters.
     std::array<wchar_t, 39> code{};
     const UINT error =

@@ -3,6 +3,7 @@
 #include "app/dialogs/choice_dialog.h"
 #include "app/dialogs/progress_run.h"
 #include "app/dialogs/setup_styles.h"
+#include "app/setup_effects_win32.h"
 #include "app/worker_thread_win32.h"
 
 #include "vela/render/text.h"
@@ -28,22 +29,13 @@ private:
     DialogHost host_;
 };
 
-// The first question to the installer loads its library, with a dozen more behind it.
-void askAhead(SetupEffects& effects) noexcept
-{
-    try {
-        effects.relatedProduct(0);
-    } catch (...) { // out of memory: the question is asked again where its answer counts
-    }
-}
-
 } // namespace
 
 int runInteractiveSetup(HINSTANCE module, SetupEffects& effects)
 {
     vela::openTextEngine();
-    // Answered while the skins are read. Until then this thread asks the effects for files and folders only.
-    const WorkerThread ahead([&effects] { askAhead(effects); });
+    // The installer's library, with a dozen more behind it, is loaded while the skins are read.
+    const WorkerThread ahead(installerLibrary);
     const DialogHost host{module, setupStyles(effects)};
     host.styles();
     WindowScreens screens(host);

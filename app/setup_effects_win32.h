@@ -4,9 +4,12 @@
 
 #include "app/setup_effects.h"
 
-#include "vela/owned_win32.h"
+#include "vela/library_win32.h"
 
 namespace setup {
+
+// Loaded when first asked for, by any thread.
+const vela::SystemLibrary& installerLibrary() noexcept;
 
 class WindowsEffects final : public SetupEffects {
 public:
