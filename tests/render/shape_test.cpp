@@ -71,13 +71,6 @@ TEST(Shape, PolygonsRunClockwiseFromTheTopLeftMostCorner)
         EXPECT_EQ(shapePolygon(kindAt(row.kind), rect), row.corners) << row.kind;
 }
 
-TEST(Shape, StrokesStayInsideTheSurface)
-{
-    EXPECT_EQ(strokeBounds({10, 20, 100, 40}, 1), (Rect{10, 20, 99, 39}));
-    EXPECT_EQ(strokeBounds({10, 20, 100, 40}, 4), (Rect{12, 22, 96, 36}));
-    EXPECT_EQ(strokeBounds({0, 0, 2, 2}, 7), (Rect{3, 3, 1, 1}));
-}
-
 // Worked out by hand from the definition of each kind.
 TEST(Shape, SmallMasksAreWhatTheDefinitionSays)
 {

@@ -3,12 +3,12 @@
 
 #include "vela/render/bitmap_geometry.h"
 #include "vela/render/bitmap_skin.h"
+#include "vela/render/bounded_cache.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace vela {
 
@@ -26,7 +26,7 @@ public:
     // Reads a picture file; an empty image when it is missing, damaged or too large.
     using Decode = BitmapImage (*)(const std::wstring& file);
 
-    explicit BitmapCache(Decode decode) : decode_(decode) {}
+    explicit BitmapCache(Decode decode);
 
     // Where the paths of styles lead: the folder of the current skin's document. Forgets all bitmaps.
     void setFolder(std::wstring folder);
@@ -38,23 +38,22 @@ public:
 
 private:
     enum class Use : std::uint8_t { Skin, Mask };
-    struct Entry {
-        std::wstring path;
+    struct Key {
         Use use;
-        BitmapTint tint;
-        std::shared_ptr<const SkinBitmap> bitmap; // null: no such picture
-        std::uint64_t lastUse;
-        std::int64_t pixels;
+        BitmapSkin skin;
+        friend bool operator==(const Key&, const Key&) = default;
+    };
+    using Picture = std::shared_ptr<const SkinBitmap>; // null: there is none, or it cannot be read
+    struct Weight {
+        std::size_t operator()(const Picture& picture) const noexcept;
     };
 
-    std::shared_ptr<const SkinBitmap> find(const std::wstring& path, Use use, const BitmapTint& tint);
-    std::shared_ptr<const SkinBitmap> load(const std::wstring& path, Use use, const BitmapTint& tint);
-    void makeRoom(std::int64_t pixels);
+    Picture find(const Key& key);
+    Picture load(const Key& key);
 
     Decode decode_;
     std::wstring folder_;
-    std::vector<Entry> entries_;
-    std::uint64_t clock_ = 0;
+    BoundedCache<Key, Picture, Weight> pictures_;
     std::size_t decoded_ = 0;
 };
 

@@ -182,13 +182,6 @@ std::vector<Point> shapePolygon(ShapeKind kind, const Rect& rect)
     return points;
 }
 
-Rect strokeBounds(const Rect& rect, std::int32_t penWidth) noexcept
-{
-    const std::int32_t pen = std::max(penWidth, 1);
-    return {rect.x + penWidth / 2, rect.y + penWidth / 2, std::max(rect.width - pen, 1),
-            std::max(rect.height - pen, 1)};
-}
-
 bool pointInShape(ShapeKind kind, std::int32_t width, std::int32_t height, Point point) noexcept
 {
     if (point.x < 0 || point.x >= width || point.y < 0 || point.y >= height)

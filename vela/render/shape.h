@@ -32,9 +32,6 @@ std::int32_t shapeInset(std::int32_t width, std::int32_t height) noexcept;
 // The corners of Diamond to SlantLeft, clockwise from the top-left-most; empty for every other kind.
 std::vector<Point> shapePolygon(ShapeKind kind, const Rect& rect);
 
-// The rectangle to stroke with a pen that wide so that the pen stays inside the surface.
-Rect strokeBounds(const Rect& rect, std::int32_t penWidth) noexcept;
-
 // Whether the pixel at the point (relative to the shape's top-left corner) belongs to the shape. This is the
 // definition of the mask; layers that walk whole rows use shapeRow (shape_rows.h), which gives the same
 // pixels.
