@@ -207,13 +207,13 @@ TEST_F(SimpleControlsTest, TheFocusRingHasTheSurfacesGlowAndIsRepaintedWithTheCo
     window.focused = &button;
     window.invalidated.clear();
     button.setHot(true);
-    EXPECT_EQ(window.invalidated.back(), (Rect{7, 7, 106, 40}));
+    EXPECT_EQ(window.invalidated.back(), (Rect{4, 7, 112, 40}));
     ASSERT_EQ(ring(button).size(), 1u);
     EXPECT_EQ(ring(button)[0].rect, button.bounds());
     EXPECT_EQ(ring(button)[0].color, hexColor(0x123456));
-    // Around box and caption, not around the empty rest of the row.
+    // Around box and caption with air on both sides, not around the empty rest of the row.
     window.focused = &check;
-    EXPECT_EQ(ring(check)[0].rect, (Rect{10, 60, 28 + 5 * 8 + 2, 28}));
+    EXPECT_EQ(ring(check)[0].rect, (Rect{8, 60, 2 + 28 + 5 * 8 + 2, 28}));
 }
 #endif
 

@@ -103,6 +103,26 @@ TEST(SmoothShapes, CoverTheAreaTheyEnclose)
     EXPECT_EQ(ring.at(22, 22), 0U);
 }
 
+TEST(SmoothShapes, ARingIsEverywhereAsFarFromItsShape)
+{
+    constexpr Rect kShape{10, 10, 100, 40}; // the slanted sides of the hexagon rise at 45 degrees
+    const Picture ring = drawLayer({0, 0, 120, 60}, [&](const LayerTarget& target) {
+        strokeSmoothShape(target, ShapeKind::Hexagon, kShape, 3, kWhite, -5);
+    });
+    const auto thickness = [&](std::int32_t x, std::int32_t from, std::int32_t to) {
+        double sum = 0;
+        for (std::int32_t y = from; y < to; ++y)
+            sum += (ring.at(x, y) >> 24) / 255.0;
+        return sum;
+    };
+    EXPECT_EQ(thickness(60, 5, 8), 3); // above the flat side, two pixels away from it
+    EXPECT_EQ(thickness(60, 0, 30), 3);
+    const double diagonal = std::sqrt(2.0);
+    EXPECT_NEAR(thickness(17, 0, 30), 3 * diagonal, 0.1);
+    // The slanted side lies at y = 22.5 there.
+    EXPECT_NEAR(thickness(17, 18, 30), 22.5 - 2 * diagonal - 18, 0.1);
+}
+
 TEST(SmoothShapes, TakeTheirColourAtTheStrengthAsked)
 {
     const Picture badge = drawLayer({0, 0, 20, 20}, [](const LayerTarget& target) {

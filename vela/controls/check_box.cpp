@@ -18,6 +18,16 @@ constexpr struct {
 } kCheckedWords[] = {{L"true", true},   {L"1", true},  {L"yes", true},
                      {L"false", false}, {L"0", false}, {L"no", false}};
 
+// 96-DPI pixels between the ring and what it goes around.
+constexpr std::int32_t kRingAir = 2;
+
+// A ring of a shape that narrows towards its sides would cut into box and caption.
+constexpr ShapeKind ringShape(ShapeKind box) noexcept
+{
+    const bool fits = box == ShapeKind::Rect || box == ShapeKind::Bevel || box == ShapeKind::Octagon;
+    return fits ? box : ShapeKind::RoundedRect;
+}
+
 constexpr const wchar_t* asText(bool checked) noexcept { return checked ? L"true" : L"false"; }
 
 } // namespace
@@ -64,15 +74,16 @@ void CheckBox::paint(HDC dc, Point origin)
     const Rect caption{all.x + style_.textLeft, all.y, std::max(all.width - style_.textLeft, 0), all.height};
     drawText(dc, caption, text_, style_.text, dpi(), {tone, TextAlign::Left, TextWrap::SingleLine});
     if (hasFocus() && window()->showsFocus())
-        paintFocusRing(dc, movedBy(focusBounds(), {all.x, all.y}), ShapeKind::RoundedRect, dpi(),
+        paintFocusRing(dc, movedBy(focusBounds(), {all.x, all.y}), ringShape(boxSurface().shape), dpi(),
                        boxSurface().glow);
 }
 
 // The ring goes around box and caption, not around the empty rest of the row.
 Rect CheckBox::focusBounds() const
 {
-    const std::int32_t end = style_.textLeft + measureTextWidth(text_, style_.text, dpi()) + scaled(2);
-    return {0, 0, std::clamp(end, 0, std::max(bounds().width, 0)), bounds().height};
+    const std::int32_t air = scaled(kRingAir);
+    const std::int32_t end = style_.textLeft + measureTextWidth(text_, style_.text, dpi()) + air;
+    return {-air, 0, air + std::clamp(end, 0, std::max(bounds().width, 0)), bounds().height};
 }
 
 void CheckBox::activate()

@@ -29,10 +29,17 @@ void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi,
 inline constexpr std::int32_t kFocusRingWidth = 2;
 inline constexpr std::int32_t kFocusRingGap = 1;
 
-// The rectangle that the ring around another one fills.
+constexpr std::int32_t focusRingReach(std::int32_t dpi) noexcept
+{
+    return mulDiv(kFocusRingWidth, dpi, kDesignDpi) + mulDiv(kFocusRingGap, dpi, kDesignDpi);
+}
+
+// The rectangle that the ring around another one stays in: the points of a hexagon and the corners of a
+// slanted shape make it reach further to the sides.
 constexpr Rect focusRingBounds(const Rect& rect, std::int32_t dpi) noexcept
 {
-    return grownBy(rect, mulDiv(kFocusRingWidth, dpi, kDesignDpi) + mulDiv(kFocusRingGap, dpi, kDesignDpi));
+    const std::int32_t reach = focusRingReach(dpi);
+    return {rect.x - 2 * reach, rect.y - reach, rect.width + 4 * reach, rect.height + 2 * reach};
 }
 
 // A dot or a small plate behind a symbol.

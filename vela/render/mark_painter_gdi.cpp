@@ -90,9 +90,14 @@ void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color co
 
 void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi, Color color)
 {
+    const std::int32_t reach = focusRingReach(dpi);
+    const Rect bounds = focusRingBounds(rect, dpi);
+    // Everywhere as far from the shape, but square corners stay square.
+    const std::int32_t growth = shape == ShapeKind::Rect ? reach : 0;
+    const Rect from = grownBy(movedBy(rect, {-bounds.x, -bounds.y}), growth);
     const auto width = static_cast<float>(mulDiv(kFocusRingWidth, dpi, kDesignDpi));
-    drawSmooth(dc, focusRingBounds(rect, dpi), [&](const LayerTarget& target, const Rect& local) {
-        strokeSmoothShape(target, shape, local, width, color);
+    drawSmooth(dc, bounds, [&](const LayerTarget& target, const Rect&) {
+        strokeSmoothShape(target, shape, from, width, color, static_cast<float>(growth - reach));
     });
 }
 

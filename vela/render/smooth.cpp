@@ -19,11 +19,11 @@ void fillSmoothShape(const LayerTarget& target, ShapeKind kind, const Rect& rect
 }
 
 void strokeSmoothShape(const LayerTarget& target, ShapeKind kind, const Rect& rect, float width, Color color,
-                       std::uint8_t alpha)
+                       float depth)
 {
     withShapeEdge(kind, rect, [&](const auto& edge) {
-        smooth::paintSmooth(target, color, alpha, [&](Float4 x, float y) {
-            const Float4 distance = edge.at(x, y).distance;
+        smooth::paintSmooth(target, color, 255, [&](Float4 x, float y) {
+            const Float4 distance = edge.at(x, y).distance - simd::splat(depth);
             return smooth::coverageAt(distance) - smooth::coverageAt(distance - simd::splat(width));
         });
     });

@@ -39,9 +39,10 @@ std::int32_t captionGlyphSize(std::int32_t dpi) noexcept;
 void fillSmoothShape(const LayerTarget& target, ShapeKind kind, const Rect& rect, Color color,
                      std::uint8_t alpha = 255);
 
-// A band along the inside of the shape's outline, width pixels wide: focus rings, smooth borders.
+// A band along the shape's outline, width pixels wide, that begins so deep inside it: smooth borders, and
+// where the depth is negative, rings around the shape.
 void strokeSmoothShape(const LayerTarget& target, ShapeKind kind, const Rect& rect, float width, Color color,
-                       std::uint8_t alpha = 255);
+                       float depth = 0);
 
 // Keeps of the target's pixels what lies in the shape when it ends at a fraction of a pixel on the right.
 // Round ends stay round however short the shape gets; slanted ones keep their slant.
