@@ -215,6 +215,23 @@ TEST_F(SimpleControlsTest, TheFocusRingHasTheSurfacesGlowAndIsRepaintedWithTheCo
     window.focused = &check;
     EXPECT_EQ(ring(check)[0].rect, (Rect{8, 60, 2 + 28 + 5 * 8 + 2, 28}));
 }
+
+TEST_F(SimpleControlsTest, ABarTooLowForItsInsetsStillShowsATrack)
+{
+    StyleSheet styles;
+    styles.table<ProgressBarStyle>().defaultRecord().insetY = 11;
+    const auto trackHeight = [&](std::int32_t height) {
+        ProgressBar bar(L"p", {0, 0, 200, height});
+        bar.applyStyle(styles);
+        testing::takePaintCalls();
+        bar.paint(nullptr, {});
+        return testing::takePaintCalls()[2].rect.height; // after frame and track
+    };
+    EXPECT_EQ(trackHeight(32), 10);
+    EXPECT_EQ(trackHeight(28), 6);
+    EXPECT_EQ(trackHeight(18), 6);
+    EXPECT_EQ(trackHeight(4), 4);
+}
 #endif
 
 TEST_F(SimpleControlsTest, ControlsSayWhatTheyAre)

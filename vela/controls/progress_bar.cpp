@@ -14,6 +14,9 @@ namespace vela {
 
 namespace {
 
+// 96-DPI pixels of its height that a track keeps in a bar too low for the skin's insets.
+constexpr std::int32_t kLeastTrack = 6;
+
 Rect insetBy(const Rect& rect, std::int32_t x, std::int32_t y) noexcept
 {
     return {rect.x + x, rect.y + y, std::max(rect.width - 2 * x, 0), std::max(rect.height - 2 * y, 0)};
@@ -40,7 +43,8 @@ void ProgressBar::paint(HDC dc, Point origin)
     const Rect all = movedBy(bounds(), origin);
     const std::int32_t labelRoom = showsLabel_ ? std::min(style_.labelWidth, all.width) : 0;
     const Rect bar{all.x, all.y, all.width - labelRoom, all.height};
-    const Rect track = insetBy(bar, style_.insetX, style_.insetY);
+    const std::int32_t mostInset = std::max((bar.height - scaled(kLeastTrack) + 1) / 2, 0);
+    const Rect track = insetBy(bar, style_.insetX, std::min(style_.insetY, mostInset));
     paintControlSurface(dc, bar, style_.frame);
     paintControlSurface(dc, track, style_.track);
     SurfaceStyle fill = style_.fill;
