@@ -234,7 +234,7 @@ void DesignedPopup::paintGround(HDC dc, const Rect& box) const
         ground.shape = ShapeKind::Rect;
         ground.drawBorder = ground.showOutline = ground.showShadow = ground.showGlow = false;
     }
-    paintSurface(dc, box, ground);
+    paintControlSurface(dc, box, ground);
     paintSurface(dc, movedBy(headerRect(), {box.x, box.y}), style_.header);
     const std::int32_t footer = footerHeight();
     // The strip would fill the round or cut corners of a frame.

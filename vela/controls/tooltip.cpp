@@ -50,16 +50,16 @@ void TooltipView::paint(HDC dc, Point origin)
 {
     const Rect box = movedBy(bounds(), origin);
     shadow_.paint(dc, *this, box);
-    paintSurface(dc, box, style_.surface);
+    paintControlSurface(dc, box, style_.surface);
     std::int32_t x = box.x + style_.paddingX;
     const std::int32_t inner = std::max(box.height - 2 * style_.paddingY, 0);
     if (style_.showAccentRail) {
-        paintSurface(dc, {x, box.y + style_.paddingY, scaled(kRailWidth), inner}, style_.accentRail);
+        paintControlSurface(dc, {x, box.y + style_.paddingY, scaled(kRailWidth), inner}, style_.accentRail);
         x += scaled(kRailWidth) + style_.gap;
     }
     if (style_.showIcon) {
         const Rect icon{x, box.y + style_.paddingY, style_.iconSize, style_.iconSize};
-        paintSurface(dc, icon, style_.icon);
+        paintBadge(dc, icon, style_.icon);
         const std::int32_t side = style_.iconSize / 2;
         paintGlyph(dc, Glyph::Info,
                    {icon.x + (icon.width - side) / 2, icon.y + (icon.height - side) / 2, side, side}, dpi(),
