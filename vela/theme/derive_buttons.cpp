@@ -41,6 +41,8 @@ Faces outlineFaces(const DeriveContext& context, const Bed& bed)
 
 Faces quietFaces(const DeriveContext& context, const Bed& bed)
 {
+    // The faintest face must stand out from the light that a material throws on a dark ground.
+    const float light = context.materials && context.dark ? 0.03F : 0.0F;
     const auto veil = [&](float amount) {
         return Face{.fill = context.stateFill(context.veil(bed, amount), Form::Plate, {bed.fill}),
                     .border = context.hairline,
@@ -48,7 +50,7 @@ Faces quietFaces(const DeriveContext& context, const Bed& bed)
     };
     const Face bare = {.fill = bed.fill, .border = context.hairline, .drawn = false};
     Faces faces = {.normal = bare,
-                   .hot = veil(0.055F),
+                   .hot = veil(0.055F + light),
                    .pressed = veil(0.10F),
                    .disabled = bare,
                    .active = veil(0.075F)};
