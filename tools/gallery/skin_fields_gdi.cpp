@@ -22,7 +22,7 @@ void drawScrollBar(const SkinPage& page, const vela::ScrollBarStyle& style, cons
                    VisualState state)
 {
     const Rect track = centered(bar, {style.trackThickness, bar.height});
-    page.surface(track, style.track);
+    page.badge(track, style.track);
     std::int32_t top = track.y + style.trackPadding;
     if (style.showButtons) {
         const Rect up{track.x, track.y, track.width, style.buttonExtent};
@@ -35,7 +35,7 @@ void drawScrollBar(const SkinPage& page, const vela::ScrollBarStyle& style, cons
         top += style.buttonExtent;
     }
     const Rect thumb{bar.x, top, bar.width, bar.height / 3};
-    page.surface(centered(thumb, {style.thumbThickness, thumb.height}), style.thumb[state]);
+    page.badge(centered(thumb, {style.thumbThickness, thumb.height}), style.thumb[state]);
 }
 
 } // namespace
