@@ -11,7 +11,7 @@
 namespace showcase {
 
 inline constexpr std::int32_t kTitleBarHeight = 40;
-inline constexpr vela::Size kPageSize{1216, 932};
+inline constexpr vela::Size kPageSize{1216, 948};
 inline constexpr vela::Size kClientSize{kPageSize.width, kTitleBarHeight + kPageSize.height};
 
 struct Page {

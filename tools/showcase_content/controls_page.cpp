@@ -105,7 +105,7 @@ void addLiveRow(Panel& page)
 
 void addButtons(Panel& panel, std::int32_t top)
 {
-    constexpr std::int32_t kName = 112;
+    constexpr std::int32_t kName = 122;
     constexpr Size kButton{80, 28};
     constexpr std::int32_t kStep = kButton.width + 8;
     std::int32_t x = kLeft + kName;
@@ -125,7 +125,7 @@ void addButtons(Panel& panel, std::int32_t top)
             addStill(panel, std::move(button), state.state);
             x += kStep;
         }
-        y += kButton.height + 9;
+        y += kButton.height + 8;
     }
 }
 
@@ -133,9 +133,9 @@ void addLabels(Panel& panel, std::int32_t top)
 {
     constexpr std::int32_t kRow = 26;
     for (const std::wstring_view variant : derivedVariants(ControlKind::Text)) {
-        addCaption(panel, {kRight, top, 64, kRow}, variant);
-        addText(panel, {kRight + 68, top, 300, kRow}, L"Příliš žluťoučký kůň 0123", variant);
-        addText(panel, {kRight + 376, top, kRightWidth - 376, kRow}, L"nedostupné", variant)
+        addCaption(panel, {kRight, top, 64, kCaption}, variant);
+        addText(panel, {kRight + 68, top, 300, kCaption}, L"Příliš žluťoučký kůň 0123", variant);
+        addText(panel, {kRight + 376, top, kRightWidth - 376, kCaption}, L"nedostupné", variant)
             .setEnabled(false);
         top += kRow;
     }
@@ -149,7 +149,7 @@ void addCheckBoxes(Panel& panel, std::int32_t top)
         addCaption(panel, {x, top, kStep, kCaption}, state.name);
         for (const bool checked : {false, true}) {
             const std::wstring_view mark = checked ? L"checked" : L"unchecked";
-            const std::int32_t y = top + kCaption + 4 + (checked ? 34 : 0);
+            const std::int32_t y = top + kCaption + 8 + (checked ? 36 : 0);
             auto box = std::make_unique<CheckBox>(idOf(L"check", mark, state.name), Rect{x, y, kStep - 8, 26},
                                                   L"Volba");
             box->setChecked(checked);
@@ -171,7 +171,7 @@ void addProgressBars(Panel& panel, std::int32_t top)
     for (int i = 0; i < static_cast<int>(std::size(kBars)); ++i) {
         auto bar =
             std::make_unique<ProgressBar>(L"progress." + std::to_wstring(i),
-                                          Rect{kRight + i % 2 * (kBar + 24), top + i / 2 * 32, kBar, 22});
+                                          Rect{kRight + i % 2 * (kBar + 24), top + i / 2 * 30, kBar, 22});
         bar->setValue(kBars[i].value);
         bar->setShowsLabel(kBars[i].label);
         addStill(panel, std::move(bar), kBars[i].state);
@@ -195,7 +195,7 @@ void addTooltips(Panel& panel, std::int32_t top)
         auto tip =
             std::make_unique<FittedTooltip>(idOf(L"tooltip", variant, L"normal"), Rect{kRight, top, 10, 10});
         tip->setStyleKey(std::wstring(variant));
-        tip->setText(L"Složka, do které se aplikace nainstaluje.");
+        tip->setText(L"Sem se aplikace nainstaluje.");
         panel.add(std::move(tip));
         top += 44;
     }
@@ -220,7 +220,7 @@ constexpr struct FieldExhibit {
     {L"locked", L"C:\\Program Files\\Tamber", L"", State::Normal, false, true},
     {L"focused, locked, selection", L"C:\\Program Files\\Tamber", L"", State::Focused, true, true},
     {L"disabled", L"C:\\Program Files\\Tamber", L"", State::Disabled},
-    {L"attachments", L"a dotaz", L"", State::Normal, false, false, true},
+    {L"attachments", L"dotaz", L"", State::Normal, false, false, true},
     {L"focused, longer than the field",
      L"C:\\Users\\Public\\Documents\\Aplikace a data všech uživatelů\\Tamber", L"", State::Focused},
 };
@@ -230,13 +230,13 @@ void addFields(Panel& panel, std::int32_t top)
     constexpr std::int32_t kColumns = 4;
     constexpr std::int32_t kGap = 16;
     constexpr std::int32_t kField = (kWidth - (kColumns - 1) * kGap) / kColumns;
-    constexpr std::int32_t kRow = kCaption + 2 + 32 + 10;
+    constexpr std::int32_t kRow = kCaption + 4 + 32 + 8;
     for (int i = 0; i < static_cast<int>(std::size(kFields)); ++i) {
         const FieldExhibit& shown = kFields[i];
         const Rect cell{kLeft + i % kColumns * (kField + kGap), top + i / kColumns * kRow, kField, kRow};
         addCaption(panel, {cell.x, cell.y, cell.width, kCaption}, shown.name);
         auto field = std::make_unique<TextInput>(idOf(L"input", L"default", shown.name),
-                                                 Rect{cell.x, cell.y + kCaption + 2, kField, 32}, shown.text);
+                                                 Rect{cell.x, cell.y + kCaption + 4, kField, 32}, shown.text);
         field->setPlaceholder(std::wstring(shown.placeholder));
         field->setEditLock(shown.locked);
         if (shown.attachments)
@@ -284,10 +284,9 @@ void addPopups(Panel& panel, std::int32_t top)
         std::wstring_view message;
         bool focused;
     } kPopups[] = {
-        {L"default", L"i", L"Nainstalovano", L"Tamber je připraven. Po zavření okna se otevře.", false},
-        {L"default", L"!", L"Bez restartu", L"Změny se projeví při příštím spuštění Windows.", true},
-        {L"danger", L"X", L"Instalace se nezdařila", L"Soubor Tamber.msi se nepodařilo zapsat na disk.",
-         false},
+        {L"default", L"i", L"Nainstalovano", L"Tamber se otevře po zavření.", false},
+        {L"default", L"!", L"Bez restartu", L"Změny se projeví po restartu.", true},
+        {L"danger", L"X", L"Chyba instalace", L"Soubor se nepodařilo zapsat.", false},
     };
     constexpr std::int32_t kCount = std::size(kPopups);
     constexpr std::int32_t kGap = 17;
@@ -295,7 +294,7 @@ void addPopups(Panel& panel, std::int32_t top)
     std::int32_t x = kLeft;
     for (const auto& shown : kPopups) {
         auto popup = std::make_unique<DesignedPopup>(idOf(L"popup", shown.variant, shown.glyph),
-                                                     Rect{x, top, kPopup, 194});
+                                                     Rect{x, top, kPopup, 206});
         popup->setStyleKey(std::wstring(shown.variant));
         popup->setGlyph(std::wstring(shown.glyph));
         popup->setTitle(std::wstring(shown.title));
@@ -323,12 +322,12 @@ void buildControlsPage(Panel& page)
         L"stills", Rect{0, kTop, page.bounds().width, page.bounds().height - kTop}));
     addButtons(stills, 0);
     addLabels(stills, 0);
-    addCheckBoxes(stills, 142);
-    addProgressBars(stills, 232);
-    addTooltips(stills, 336);
+    addCheckBoxes(stills, 136);
+    addProgressBars(stills, 238);
+    addTooltips(stills, 334);
     addFields(stills, 426);
     addTitleBars(stills, 616);
-    addPopups(stills, 664);
+    addPopups(stills, 666);
 }
 
 } // namespace showcase
