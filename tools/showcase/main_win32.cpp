@@ -2,7 +2,6 @@
 //   showcase [SKIN-ID] [SKIN-FILE.json] [DPI]
 #include "tools/showcase/live_showcase_win32.h"
 
-#include "vela/com_apartment_win32.h"
 #include "vela/render/fonts.h"
 #include "vela/theme/skin_host_win32.h"
 
@@ -39,7 +38,6 @@ int wmain(int count, wchar_t** words)
         std::fputs("showcase [SKIN-ID] [SKIN-FILE.json] [DPI]\n", stderr);
         return 2;
     }
-    const vela::ComApartment apartment; // for the pictures that skins name
     const std::wstring folder = programFolder();
     const std::wstring skins = folder + L"\\skins";
     vela::setSkinFolders({skins});

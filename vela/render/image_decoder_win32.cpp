@@ -1,5 +1,6 @@
 #include "vela/render/image_decoder_win32.h"
 
+#include "vela/com_apartment_win32.h"
 #include "vela/com_pointer_win32.h"
 
 #include <cstring>
@@ -76,9 +77,11 @@ ComPointer<IWICFormatConverter> openFrame(IWICImagingFactory& factory, const std
 
 BitmapImage decodeImage(const std::wstring& file)
 {
+    if (!isPlainFile(file))
+        return {};
+    const ComApartment apartment; // first: it outlives what COM hands out
     ComPointer<IWICImagingFactory> factory;
-    if (!isPlainFile(file) ||
-        FAILED(::CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+    if (FAILED(::CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
                                   __uuidof(IWICImagingFactory), factory.putVoid())))
         return {};
     const ComPointer<IWICFormatConverter> frame = openFrame(*factory.get(), file);

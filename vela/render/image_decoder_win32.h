@@ -1,5 +1,5 @@
 // Picture files, decoded by the Windows Imaging Component, which COM loads from the system folder when first
-// asked for. COM must be initialised on the calling thread.
+// asked for. COM is opened for the call where the calling thread has not done so.
 #pragma once
 
 #include "vela/render/bitmap_image.h"
