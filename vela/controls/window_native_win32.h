@@ -56,6 +56,7 @@ public:
     void showTaskbarStatus(const TaskbarStatus& status);
     void refreshTaskbar();
     void captureMouse(bool capture);
+    void noteDamage(const Rect& rect) noexcept;
     void readClientSize();
     Size frameExtra() const noexcept;
     Rect workArea() const noexcept; // of the monitor that shows the window
@@ -120,12 +121,15 @@ private:
     void pressDebugKey(const KeyEvent& event);
 
     // Painting (window_paint_gdi.cpp).
+    LRESULT onShowWindow(WPARAM wParam, LPARAM lParam);
     LRESULT onPaint();
     LRESULT onPrintClient(HDC dc);
     void paintTree(HDC dc);
+    bool fitBackBuffer();
 
     Window& window_;
     std::optional<DibSurface> backBuffer_;
+    std::optional<Rect> damagedSinceAhead_; // while the back buffer holds a picture painted ahead
     OwnedIcon smallIcon_;
     OwnedIcon largeIcon_;
     ClickCounter clicks_;

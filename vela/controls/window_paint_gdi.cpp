@@ -6,8 +6,40 @@
 #include "vela/render/owned_gdi.h"
 
 #include <chrono>
+#include <utility>
 
 namespace vela {
+
+// A buffer of the client area's size; true when it is a new one, with nothing in it.
+bool Window::Native::fitBackBuffer()
+{
+    const Size size = window_.lastClientSize_;
+    const bool fits = backBuffer_ && *backBuffer_ && backBuffer_->size() == size;
+    if (fits || isEmpty(size))
+        return false;
+    backBuffer_.emplace(size);
+    damagedSinceAhead_.reset();
+    return true;
+}
+
+void Window::Native::noteDamage(const Rect& rect) noexcept
+{
+    if (damagedSinceAhead_)
+        damagedSinceAhead_ = isEmpty(*damagedSinceAhead_) ? rect : united(*damagedSinceAhead_, rect);
+}
+
+// A window appears with its picture, which is painted before anything of it can be seen.
+LRESULT Window::Native::onShowWindow(WPARAM wParam, LPARAM lParam)
+{
+    fitBackBuffer();
+    if (wParam && window_.styles_ && backBuffer_ && *backBuffer_) {
+        window_.allDamaged_ = false;
+        ::SelectClipRgn(backBuffer_->dc(), nullptr);
+        paintTree(backBuffer_->dc());
+        damagedSinceAhead_ = Rect{};
+    }
+    return passOn(WM_SHOWWINDOW, wParam, lParam);
+}
 
 LRESULT Window::Native::onPaint()
 {
@@ -19,11 +51,12 @@ LRESULT Window::Native::onPaint()
     const auto start = std::chrono::steady_clock::now();
     PAINTSTRUCT paint{};
     const HDC screen = ::BeginPaint(handle, &paint);
-    const Size size = window_.lastClientSize_;
-    const bool fresh = !backBuffer_ || backBuffer_->size() != size;
-    if (fresh && !isEmpty(size))
-        backBuffer_.emplace(size);
-    if (screen && backBuffer_ && *backBuffer_ && !isEmpty(size)) {
+    const bool fresh = fitBackBuffer();
+    if (const std::optional<Rect> ahead = std::exchange(damagedSinceAhead_, std::nullopt)) {
+        const RECT part = toRECT(*ahead);
+        ::SetRectRgn(damage.get(), part.left, part.top, part.right, part.bottom);
+    }
+    if (screen && backBuffer_ && *backBuffer_ && !isEmpty(window_.lastClientSize_)) {
         ::SelectClipRgn(backBuffer_->dc(), fresh ? nullptr : damage.get());
         paintTree(backBuffer_->dc());
         const Rect part = toRect(paint.rcPaint);

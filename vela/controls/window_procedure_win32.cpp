@@ -88,6 +88,7 @@ LRESULT Window::Native::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_THEMECHANGED: return onSystemLook(message, wParam, lParam);
     case WM_DPICHANGED: return onDpiChanged(wParam, *reinterpret_cast<const RECT*>(lParam));
     case WM_QUERYENDSESSION: return onQueryEndSession(wParam, lParam);
+    case WM_SHOWWINDOW: return onShowWindow(wParam, lParam);
     case WM_PAINT: return onPaint();
     case WM_PRINTCLIENT: return onPrintClient(reinterpret_cast<HDC>(wParam));
     case WM_ERASEBKGND: return 1;

@@ -70,6 +70,7 @@ void Window::invalidateClient(const Rect& rect, InvalidationReason)
 {
     if (allDamaged_ || !isAlive())
         return;
+    native_->noteDamage(rect);
     const RECT damaged = toRECT(rect);
     ::InvalidateRect(handle_, &damaged, FALSE);
 }
@@ -79,6 +80,7 @@ void Window::invalidateAll()
     if (!isAlive())
         return;
     allDamaged_ = true;
+    native_->noteDamage(clientRect());
     ::InvalidateRect(handle_, nullptr, FALSE);
 }
 
