@@ -13,11 +13,13 @@ template <typename Interface>
 class ComPointer {
 public:
     ComPointer() noexcept = default;
-    ComPointer(const ComPointer& other) noexcept : object_(other.object_)
+    // A reference of its own to an object that somebody else holds too.
+    explicit ComPointer(Interface* object) noexcept : object_(object)
     {
         if (object_)
             object_->AddRef();
     }
+    ComPointer(const ComPointer& other) noexcept : ComPointer(other.object_) {}
     ComPointer(ComPointer&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
     ComPointer& operator=(const ComPointer& other) noexcept { return *this = ComPointer(other); }
     ComPointer& operator=(ComPointer&& other) noexcept

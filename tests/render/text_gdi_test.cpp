@@ -60,20 +60,50 @@ TEST(TextTest, BothEnginesAndMeasuringAgreeOnWidths)
             for (const std::int32_t weight : {300, 400, 600, 700, -400}) {
                 FontSpec font{family, 10, std::abs(weight)};
                 font.italic = weight < 0;
-                const DirectWriteLayout made =
+                const ComPointer<IDWriteTextLayout> layout =
                     makeDirectWriteLayout({kSentence, 1}, ensureFont(font, dpi), 4000, TextAlign::Left);
                 const bool isMadeUpBold = family[0] == L'V' && weight > 500; // left to GDI, which widens it
-                ASSERT_EQ(static_cast<bool>(made.layout), hasDirectWrite() && !isMadeUpBold) << weight;
-                if (!made.layout)
+                ASSERT_EQ(static_cast<bool>(layout), hasDirectWrite() && !isMadeUpBold) << weight;
+                if (!layout)
                     continue;
                 DWRITE_TEXT_METRICS metrics{};
-                ASSERT_EQ(made.layout->GetMetrics(&metrics), S_OK);
+                ASSERT_EQ(layout->GetMetrics(&metrics), S_OK);
                 EXPECT_NEAR(metrics.width, measureTextWidth(kSentence, font, dpi), 1.0)
                     << dpi << ' ' << weight;
                 EXPECT_EQ(metrics.height, static_cast<float>(lineHeight(font, dpi)));
             }
         }
     }
+}
+
+// Letters put next to each other as GDI measures them stand where a layout of DirectWrite puts them.
+TEST(TextTest, PlainTextIsPlacedAsALayoutPlacesIt)
+{
+    if (!hasDirectWrite())
+        GTEST_SKIP() << "no DirectWrite";
+    const TextLines lines{L"Příliš žluťoučký\nkůň úpěl: 42 % — „ódy“", 2};
+    const auto isSame = [](const PlacedGlyph& one, const PlacedGlyph& other) {
+        return one.pen == other.pen && one.picture->box == other.picture->box &&
+               one.picture->coverage == other.picture->coverage;
+    };
+    for (const TextAlign align : {TextAlign::Left, TextAlign::Center, TextAlign::Right}) {
+        for (const std::int32_t dpi : {96, 144}) {
+            for (const bool italic : {false, true}) {
+                FontSpec spec = uiFont();
+                spec.italic = italic;
+                const Font& font = ensureFont(spec, dpi);
+                const auto plain = placePlainText(lines, font, 401, align, GdiRuler(font));
+                const auto layout = placeLayout(lines, font, 401, align);
+                ASSERT_TRUE(plain && layout);
+                EXPECT_EQ(plain->ink, layout->ink);
+                EXPECT_TRUE(std::equal(plain->glyphs.begin(), plain->glyphs.end(), layout->glyphs.begin(),
+                                       layout->glyphs.end(), isSame))
+                    << dpi << ' ' << italic;
+            }
+        }
+    }
+    const Font& font = ensureFont(uiFont(), 96);
+    EXPECT_FALSE(placePlainText({L"\u0531", 1}, font, 400, TextAlign::Left, GdiRuler(font)));
 }
 
 // drawCenteredText is GDI's, drawText DirectWrite's where there is one.
@@ -244,12 +274,12 @@ TEST(TextTest, AFaceThatIsNotThereIsTheDefaultFaceAndAPrivateOneIsItself)
         return std::wstring(name);
     };
     EXPECT_EQ(faceOf({L"VelaVu Sans", 10}), L"VelaVu Sans");
-    const DirectWriteLayout layout =
+    const ComPointer<IDWriteTextLayout> layout =
         makeDirectWriteLayout({L"abc", 1}, ensureFont({L"VelaVu Sans", 10}, 96), 100, TextAlign::Left);
-    ASSERT_EQ(static_cast<bool>(layout.layout), hasDirectWrite());
-    if (layout.layout) {
+    ASSERT_EQ(static_cast<bool>(layout), hasDirectWrite());
+    if (layout) {
         wchar_t name[64] = {};
-        layout.layout->GetFontFamilyName(0, name, 64, nullptr);
+        layout->GetFontFamilyName(0, name, 64, nullptr);
         EXPECT_STREQ(name, L"VelaVu Sans");
     }
 }

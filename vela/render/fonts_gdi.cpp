@@ -105,6 +105,20 @@ std::deque<Font>& fonts()
 
 } // namespace
 
+GdiRuler::GdiRuler(const Font& font) : dc_(::CreateCompatibleDC(nullptr)), selected_(dc_.get(), font.handle)
+{
+}
+
+void GdiRuler::measure(std::wstring_view text, std::vector<std::int32_t>& ends) const
+{
+    static_assert(sizeof(INT) == sizeof(std::int32_t));
+    ends.assign(text.size(), 0);
+    SIZE size;
+    if (!text.empty())
+        ::GetTextExtentExPointW(dc_.get(), text.data(), static_cast<int>(text.size()), 0, nullptr,
+                                reinterpret_cast<INT*>(ends.data()), &size);
+}
+
 const Font& ensureFont(const FontSpec& spec, std::int32_t dpi)
 {
     loadPrivateFonts();

@@ -3,6 +3,7 @@
 
 #include "vela/render/font_choice.h"
 #include "vela/render/owned_gdi.h"
+#include "vela/render/text_lines.h"
 
 #include <cstddef>
 #include <string>
@@ -18,6 +19,17 @@ struct Font {
     HFONT handle = nullptr;
     std::int32_t lineHeight = 0; // pixels, as GDI steps from line to line
     std::int32_t ascent = 0;     // pixels from the top of a line to its base line
+};
+
+// The widths of a font. It outlives the ruler.
+class GdiRuler final : public TextRuler {
+public:
+    explicit GdiRuler(const Font& font);
+    void measure(std::wstring_view text, std::vector<std::int32_t>& ends) const override;
+
+private:
+    OwnedMemoryDc dc_;
+    SelectedObject selected_;
 };
 
 // Never fails: a font that cannot be made is the stock GUI font. Valid until the process ends.

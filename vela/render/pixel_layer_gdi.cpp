@@ -77,13 +77,18 @@ PixelView readPixels(HDC dc, const Rect& rect)
     return pixels;
 }
 
+void writeScratch(HDC dc, const Rect& rect)
+{
+    ::BitBlt(dc, rect.x, rect.y, rect.width, rect.height, scratch()->dc(), 0, 0, SRCCOPY);
+}
+
 void writePixels(HDC dc, const Rect& rect, const PixelView& pixels)
 {
     const PixelView copy = scratchPixels(sizeOf(rect));
     if (!copy.pixels)
         return;
     copyPixels(pixels, copy);
-    ::BitBlt(dc, rect.x, rect.y, rect.width, rect.height, scratch()->dc(), 0, 0, SRCCOPY);
+    writeScratch(dc, rect);
 }
 
 void compositePixelBuffer(HDC dc, const Rect& rect, const PixelView& pixels)

@@ -16,7 +16,10 @@ void compositeScratch(HDC dc, const Rect& rect);
 // What the context shows there, in the scratch pixels; empty when it cannot tell.
 PixelView readPixels(HDC dc, const Rect& rect);
 
-// Replaces what the context shows there by pixels of the rectangle's size.
+// Replaces what the context shows there by the scratch pixels of that size.
+void writeScratch(HDC dc, const Rect& rect);
+
+// The same with other pixels of the rectangle's size.
 void writePixels(HDC dc, const Rect& rect, const PixelView& pixels);
 
 // Lets `fill` write the visible pixels of a part of a layer, as a LayerTarget, and composites them. The layer

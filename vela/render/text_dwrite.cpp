@@ -2,9 +2,12 @@
 
 #include "vela/library_win32.h"
 #include "vela/owned_win32.h"
+#include "vela/render/glyph_store_dwrite.h"
+#include "vela/text_clusters.h"
 
 #include <algorithm>
 #include <cmath>
+#include <deque>
 #include <utility>
 
 #include <dwrite_3.h>
@@ -13,21 +16,21 @@
 namespace vela {
 namespace {
 
-// Font sizes and rectangles are pixels already, so to DirectWrite a pixel is its unit.
-constexpr float kPixelsPerUnit = 1.0F;
-
 // Measured with this locale, drawn with it: it decides nothing but the shapes of a few letters.
 constexpr wchar_t kLocale[] = L"cs-cz";
 
-struct Format {
+// What DirectWrite has for a font of ours.
+struct Typeface {
     const Font* font;
-    ComPointer<IDWriteTextFormat> format; // empty: this font is GDI's alone
+    GlyphFace* face;                      // null: this font is GDI's alone
+    ComPointer<IDWriteTextFormat> format; // for layouts, once one was wanted
+    bool isFormatTried = false;
 };
 
 class Engine {
 public:
-    // Null when the system has no DirectWrite. Never destroyed: layouts that other static objects still hold
-    // when the process ends need the library. Any thread may be the first to ask; the others wait.
+    // Null when the system has no DirectWrite. Never destroyed: glyph pictures that other static objects
+    // still name when the process ends are its own. Any thread may be the first to ask; the others wait.
     static Engine* instance()
     {
         static Engine& engine = *new Engine;
@@ -35,16 +38,19 @@ public:
     }
 
     IDWriteFactory* factory() const noexcept { return factory_.get(); }
-    IDWriteRenderingParams* params() const noexcept { return params_.get(); }
     IDWriteTypography* plainTypography() const noexcept { return plainTypography_.get(); }
+    GlyphStore& glyphs() noexcept { return *glyphs_; }
+    // Null for a font that is GDI's alone.
+    Typeface* ensureTypeface(const Font& font);
+    // Null when there is none, or no layout can be made with it.
     IDWriteTextFormat* ensureFormat(const Font& font);
-    IDWriteBitmapRenderTarget* ensureTarget(HDC dc, Size size);
 
 private:
     Engine();
-    ComPointer<IDWriteTextFormat> makeFormat(const Font& font);
+    GlyphFace* findFace(const Font& font);
+    ComPointer<IDWriteTextFormat> makeFormat(const Typeface& typeface);
     bool makePlainTypography();
-    IDWriteFontCollection* ensurePrivateFonts();
+    IDWriteFontCollection* collectionOf(const std::wstring& family);
     void openPrivateFonts();
 
     SystemLibrary library_{L"dwrite.dll"};
@@ -52,24 +58,22 @@ private:
     ComPointer<IDWriteGdiInterop> interop_;
     ComPointer<IDWriteFontCollection> systemFonts_;
     ComPointer<IDWriteFontCollection> privateFonts_;
-    bool privateFontsOpened_ = false;
-    ComPointer<IDWriteRenderingParams> params_;
     ComPointer<IDWriteTypography> plainTypography_;
-    ComPointer<IDWriteBitmapRenderTarget> target_;
-    Size targetSize_;
-    std::vector<Format> formats_;
+    std::optional<GlyphStore> glyphs_;
+    std::deque<Typeface> typefaces_; // fonts are never let go, and neither are these
 };
 
 Engine::Engine()
 {
     const auto create = library_.function<decltype(DWriteCreateFactory)>("DWriteCreateFactory");
-    if (!create || FAILED(create(DWRITE_FACTORY_TYPE_SHARED, __uuidof(IDWriteFactory),
-                                 reinterpret_cast<IUnknown**>(factory_.put()))))
+    ComPointer<IDWriteRenderingParams> params;
+    if (!create ||
+        FAILED(create(DWRITE_FACTORY_TYPE_SHARED, __uuidof(IDWriteFactory),
+                      reinterpret_cast<IUnknown**>(factory_.put()))) ||
+        FAILED(factory_->CreateRenderingParams(params.put())) || !makePlainTypography() ||
+        FAILED(factory_->GetGdiInterop(interop_.put())))
         return;
-    if (FAILED(factory_->GetSystemFontCollection(systemFonts_.put(), FALSE)) ||
-        FAILED(factory_->CreateRenderingParams(params_.put())) ||
-        FAILED(factory_->GetGdiInterop(interop_.put())) || !makePlainTypography())
-        interop_.reset();
+    glyphs_.emplace(factory_, std::move(params));
 }
 
 // GDI neither kerns nor joins letters; if DirectWrite did, the text would be narrower than it was measured.
@@ -83,14 +87,6 @@ bool Engine::makePlainTypography()
     return std::all_of(std::begin(kOff), std::end(kOff), [this](DWRITE_FONT_FEATURE_TAG tag) {
         return SUCCEEDED(plainTypography_->AddFontFeature({tag, 0}));
     });
-}
-
-// Not part of opening the engine: the list of these fonts belongs to the UI thread.
-IDWriteFontCollection* Engine::ensurePrivateFonts()
-{
-    if (!std::exchange(privateFontsOpened_, true))
-        openPrivateFonts();
-    return privateFonts_.get();
 }
 
 // DirectWrite does not see what GDI registered for this process alone: it gets a collection of its own. An
@@ -114,13 +110,27 @@ void Engine::openPrivateFonts()
         collection.queryTo(privateFonts_);
 }
 
-// The very face that GDI measures with, under the names that DirectWrite knows it by.
-struct ChosenFace {
-    std::wstring family; // empty: it has none
-    DWRITE_FONT_WEIGHT weight = DWRITE_FONT_WEIGHT_NORMAL;
-    DWRITE_FONT_STRETCH stretch = DWRITE_FONT_STRETCH_NORMAL;
-    DWRITE_FONT_STYLE style = DWRITE_FONT_STYLE_NORMAL;
-};
+// The very face that GDI measures with. A face without a bold that GDI thickens itself gets wider with GDI,
+// but not with DirectWrite: it stays GDI's. Slanting changes no width.
+GlyphFace* Engine::findFace(const Font& font)
+{
+    const OwnedMemoryDc dc(::CreateCompatibleDC(nullptr));
+    const SelectedObject selected(dc.get(), font.handle);
+    ComPointer<IDWriteFontFace> face;
+    if (!font.owned || FAILED(interop_->CreateFontFaceFromHdc(dc.get(), face.put())) ||
+        face->GetSimulations() & DWRITE_FONT_SIMULATIONS_BOLD)
+        return nullptr;
+    return &glyphs_->ensureFace(face, static_cast<float>(font.em));
+}
+
+Typeface* Engine::ensureTypeface(const Font& font)
+{
+    const auto known = std::find_if(typefaces_.begin(), typefaces_.end(),
+                                    [&font](const Typeface& typeface) { return typeface.font == &font; });
+    Typeface& typeface =
+        known != typefaces_.end() ? *known : typefaces_.emplace_back(Typeface{&font, findFace(font), {}});
+    return typeface.face ? &typeface : nullptr;
+}
 
 std::wstring firstOf(IDWriteLocalizedStrings& names)
 {
@@ -131,33 +141,26 @@ std::wstring firstOf(IDWriteLocalizedStrings& names)
     return SUCCEEDED(names.GetString(0, name.data(), length + 1)) ? name : std::wstring();
 }
 
-ChosenFace chosenFace(IDWriteGdiInterop& interop, const Font& font)
-{
-    const OwnedMemoryDc dc(::CreateCompatibleDC(nullptr));
-    const SelectedObject selected(dc.get(), font.handle);
-    ComPointer<IDWriteFontFace> face;
-    ComPointer<IDWriteFontFace3> described;
-    ComPointer<IDWriteLocalizedStrings> names;
-    if (FAILED(interop.CreateFontFaceFromHdc(dc.get(), face.put())) || FAILED(face.queryTo(described)) ||
-        FAILED(described->GetFamilyNames(names.put())))
-        return {};
-    ChosenFace chosen{firstOf(*names.get()), described->GetWeight(), described->GetStretch(),
-                      described->GetStyle()};
-    // A face without a bold that GDI thickens itself gets wider with GDI, but not with DirectWrite: it stays
-    // GDI's. Slanting changes no width.
-    const DWRITE_FONT_SIMULATIONS simulated = face->GetSimulations();
-    if (simulated & DWRITE_FONT_SIMULATIONS_BOLD)
-        return {};
-    if (simulated & DWRITE_FONT_SIMULATIONS_OBLIQUE)
-        chosen.style = DWRITE_FONT_STYLE_ITALIC;
-    return chosen;
-}
-
 bool hasFamily(IDWriteFontCollection* fonts, const std::wstring& name)
 {
     UINT32 index = 0;
     BOOL exists = FALSE;
     return fonts && SUCCEEDED(fonts->FindFamilyName(name.c_str(), &index, &exists)) && exists;
+}
+
+// Opened with the first layout: the system's collection is a list of all its fonts, which takes long to make.
+IDWriteFontCollection* Engine::collectionOf(const std::wstring& family)
+{
+    if (!systemFonts_) {
+        openPrivateFonts();
+        if (FAILED(factory_->GetSystemFontCollection(systemFonts_.put(), FALSE)))
+            return nullptr;
+    }
+    for (IDWriteFontCollection* const fonts : {privateFonts_.get(), systemFonts_.get()}) {
+        if (hasFamily(fonts, family))
+            return fonts;
+    }
+    return nullptr;
 }
 
 // Lines come broken, and step as GDI's do.
@@ -169,56 +172,41 @@ bool setLines(IDWriteTextFormat& format, const Font& font)
                                            static_cast<float>(font.ascent)));
 }
 
-ComPointer<IDWriteTextFormat> Engine::makeFormat(const Font& font)
+// The typeface's face under the names that DirectWrite knows it by.
+ComPointer<IDWriteTextFormat> Engine::makeFormat(const Typeface& typeface)
 {
     ComPointer<IDWriteTextFormat> format;
-    const ChosenFace face = font.owned ? chosenFace(*interop_.get(), font) : ChosenFace();
-    IDWriteFontCollection* const own = ensurePrivateFonts();
-    IDWriteFontCollection* const fonts = hasFamily(own, face.family) ? own : systemFonts_.get();
-    if (!hasFamily(fonts, face.family))
+    ComPointer<IDWriteFontFace3> face;
+    ComPointer<IDWriteLocalizedStrings> names;
+    if (FAILED(typeface.face->face.queryTo(face)) || FAILED(face->GetFamilyNames(names.put())))
         return format;
-    if (FAILED(factory_->CreateTextFormat(face.family.c_str(), fonts, face.weight, face.style, face.stretch,
-                                          static_cast<float>(font.em), kLocale, format.put())) ||
-        !setLines(*format.get(), font))
+    const std::wstring family = firstOf(*names.get());
+    IDWriteFontCollection* const fonts = collectionOf(family);
+    const DWRITE_FONT_STYLE style = face->GetSimulations() & DWRITE_FONT_SIMULATIONS_OBLIQUE
+                                        ? DWRITE_FONT_STYLE_ITALIC
+                                        : face->GetStyle();
+    if (!fonts ||
+        FAILED(factory_->CreateTextFormat(family.c_str(), fonts, face->GetWeight(), style, face->GetStretch(),
+                                          typeface.face->em, kLocale, format.put())) ||
+        !setLines(*format.get(), *typeface.font))
         format.reset();
     return format;
 }
 
 IDWriteTextFormat* Engine::ensureFormat(const Font& font)
 {
-    for (const Format& known : formats_) {
-        if (known.font == &font)
-            return known.format.get();
-    }
-    return formats_.emplace_back(Format{&font, makeFormat(font)}).format.get();
-}
-
-// One target for all texts, as large as the largest so far: rarely more than a line of text.
-IDWriteBitmapRenderTarget* Engine::ensureTarget(HDC dc, Size size)
-{
-    const Size wanted{std::max(size.width, targetSize_.width), std::max(size.height, targetSize_.height)};
-    if (target_ && wanted == targetSize_)
-        return target_.get();
-    const auto width = static_cast<UINT32>(wanted.width);
-    const auto height = static_cast<UINT32>(wanted.height);
-    const HRESULT made = target_ ? target_->Resize(width, height)
-                                 : interop_->CreateBitmapRenderTarget(dc, width, height, target_.put());
-    if (FAILED(made) || FAILED(target_->SetPixelsPerDip(kPixelsPerUnit))) {
-        target_.reset();
-        targetSize_ = {};
+    Typeface* const typeface = ensureTypeface(font);
+    if (!typeface)
         return nullptr;
-    }
-    targetSize_ = wanted;
-    return target_.get();
+    if (!std::exchange(typeface->isFormatTried, true))
+        typeface->format = makeFormat(*typeface);
+    return typeface->format.get();
 }
 
-// Draws a layout's glyph runs into a bitmap target. Lives on the stack for one drawing, so it is not counted.
-class GlyphPainter final : public IDWriteTextRenderer {
+// Takes down where a layout's letters stand. Lives on the stack for one layout, so it is not counted.
+class GlyphPlacer final : public IDWriteTextRenderer {
 public:
-    GlyphPainter(IDWriteBitmapRenderTarget& target, IDWriteRenderingParams& params, Color color)
-        : target_(target), params_(params), color_(color)
-    {
-    }
+    GlyphPlacer(GlyphStore& glyphs, PlacedText& text) : glyphs_(glyphs), text_(text) {}
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override
     {
@@ -254,18 +242,35 @@ public:
                                            const DWRITE_GLYPH_RUN* run, const DWRITE_GLYPH_RUN_DESCRIPTION*,
                                            IUnknown*) override
     {
-        return target_.DrawGlyphRun(std::floor(x), y, mode, run, &params_, color_, nullptr);
+        if (run->isSideways)
+            return E_NOTIMPL; // no text here runs from top to bottom
+        GlyphFace& face = glyphs_.ensureFace(ComPointer<IDWriteFontFace>(run->fontFace), run->fontEmSize);
+        const FLOAT direction = run->bidiLevel % 2 == 0 ? 1.0F : -1.0F;
+        FLOAT pen = std::floor(x);
+        for (UINT32 i = 0; i < run->glyphCount; ++i) {
+            const DWRITE_GLYPH_OFFSET offset =
+                run->glyphOffsets ? run->glyphOffsets[i] : DWRITE_GLYPH_OFFSET{};
+            const GlyphPicture* const picture = glyphs_.ensureGlyph(face, run->glyphIndices[i], mode);
+            if (!picture)
+                return E_FAIL;
+            // A letter of a run to the left stands before its pen.
+            const FLOAT left = direction < 0 ? pen - run->glyphAdvances[i] : pen;
+            text_.addGlyph(*picture, {rounded(left + direction * offset.advanceOffset),
+                                      rounded(y - offset.ascenderOffset)});
+            pen += direction * run->glyphAdvances[i];
+        }
+        return S_OK;
     }
 
     HRESULT STDMETHODCALLTYPE DrawUnderline(void*, FLOAT x, FLOAT y, const DWRITE_UNDERLINE* line,
                                             IUnknown*) override
     {
-        return fillLine(x, y + line->offset, line->width, line->thickness);
+        return addLine(x, y + line->offset, line->width, line->thickness);
     }
     HRESULT STDMETHODCALLTYPE DrawStrikethrough(void*, FLOAT x, FLOAT y, const DWRITE_STRIKETHROUGH* line,
                                                 IUnknown*) override
     {
-        return fillLine(x, y + line->offset, line->width, line->thickness);
+        return addLine(x, y + line->offset, line->width, line->thickness);
     }
     HRESULT STDMETHODCALLTYPE DrawInlineObject(void*, FLOAT, FLOAT, IDWriteInlineObject*, BOOL, BOOL,
                                                IUnknown*) override
@@ -274,35 +279,28 @@ public:
     }
 
 private:
-    HRESULT fillLine(FLOAT x, FLOAT y, FLOAT width, FLOAT thickness)
+    static std::int32_t rounded(FLOAT value) noexcept
     {
-        const HDC dc = target_.GetMemoryDC();
-        const SelectedObject brush(dc, ::GetStockObject(DC_BRUSH));
-        ::SetDCBrushColor(dc, color_);
-        const auto round = [](FLOAT value) { return static_cast<int>(std::lround(value)); };
-        return ::PatBlt(dc, round(x), round(y), round(width), std::max(round(thickness), 1), PATCOPY)
-                   ? S_OK
-                   : E_FAIL;
+        return static_cast<std::int32_t>(std::lround(value));
     }
 
-    IDWriteBitmapRenderTarget& target_;
-    IDWriteRenderingParams& params_;
-    Color color_;
+    HRESULT addLine(FLOAT x, FLOAT y, FLOAT width, FLOAT thickness)
+    {
+        text_.addLine({rounded(x), rounded(y), rounded(width), std::max(rounded(thickness), 1)});
+        return S_OK;
+    }
+
+    GlyphStore& glyphs_;
+    PlacedText& text_;
 };
 
 constexpr DWRITE_TEXT_ALIGNMENT kAlignments[] = {DWRITE_TEXT_ALIGNMENT_LEADING, DWRITE_TEXT_ALIGNMENT_CENTER,
                                                  DWRITE_TEXT_ALIGNMENT_TRAILING};
 
-// A line's height around the text: letters reach beyond their widths and lines by less. How far they do is
-// not asked, for the answer takes as long as drawing them.
-Rect inkOf(IDWriteTextLayout& layout, std::int32_t margin)
+// Where a line begins that leaves so many pixels of its width.
+constexpr std::int32_t alignedLeft(TextAlign align, std::int32_t room) noexcept
 {
-    DWRITE_TEXT_METRICS text{};
-    layout.GetMetrics(&text);
-    const auto floored = [](FLOAT value) { return static_cast<std::int32_t>(std::floor(value)); };
-    const auto raised = [](FLOAT value) { return static_cast<std::int32_t>(std::ceil(value)); };
-    return {floored(text.left) - margin, floored(text.top) - margin, raised(text.width) + 1 + 2 * margin,
-            raised(text.height) + 1 + 2 * margin};
+    return align == TextAlign::Left ? 0 : align == TextAlign::Center ? room / 2 : room;
 }
 
 unsigned __stdcall openEngine(void*)
@@ -315,45 +313,90 @@ unsigned __stdcall openEngine(void*)
 
 void openTextEngine()
 {
+    // Wine sets user32 up with the first look at a window class. A library that is being loaded on another
+    // thread may look first, from within the loader that this thread then waits for: neither would go on.
+    WNDCLASSEXW known{};
+    known.cbSize = sizeof known;
+    ::GetClassInfoExW(nullptr, L"Static", &known);
     static const OwnedKernelObject thread(
         reinterpret_cast<HANDLE>(::_beginthreadex(nullptr, 0, openEngine, nullptr, 0, nullptr)));
 }
 
-DirectWriteLayout makeDirectWriteLayout(const TextLines& lines, const Font& font, std::int32_t width,
-                                        TextAlign align)
+ComPointer<IDWriteTextLayout> makeDirectWriteLayout(const TextLines& lines, const Font& font,
+                                                    std::int32_t width, TextAlign align)
 {
     Engine* const engine = Engine::instance();
     IDWriteTextFormat* const format = engine ? engine->ensureFormat(font) : nullptr;
-    DirectWriteLayout made;
+    ComPointer<IDWriteTextLayout> layout;
     const Size box{width, lines.count * font.lineHeight};
     const auto length = static_cast<UINT32>(lines.text.size());
     if (!format || FAILED(engine->factory()->CreateGdiCompatibleTextLayout(
                        lines.text.data(), length, format, static_cast<float>(box.width),
-                       static_cast<float>(box.height), kPixelsPerUnit, nullptr, FALSE, made.layout.put())))
-        return made;
-    if (FAILED(made.layout->SetTextAlignment(kAlignments[static_cast<std::size_t>(align)])) ||
-        FAILED(made.layout->SetTypography(engine->plainTypography(), {0, length})) ||
-        (font.key.underline && FAILED(made.layout->SetUnderline(TRUE, {0, length})))) {
-        made.layout.reset();
-        return made;
-    }
-    made.ink = inkOf(*made.layout.get(), font.lineHeight);
-    return made;
+                       static_cast<float>(box.height), kPixelsPerUnit, nullptr, FALSE, layout.put())))
+        return layout;
+    if (FAILED(layout->SetTextAlignment(kAlignments[static_cast<std::size_t>(align)])) ||
+        FAILED(layout->SetTypography(engine->plainTypography(), {0, length})) ||
+        (font.key.underline && FAILED(layout->SetUnderline(TRUE, {0, length}))))
+        layout.reset();
+    return layout;
 }
 
-bool tryDrawDirectWrite(HDC dc, const DirectWriteLayout& layout, Point corner, const Rect& area, Color color)
+std::optional<PlacedText> placeLayout(const TextLines& lines, const Font& font, std::int32_t width,
+                                      TextAlign align)
 {
-    Engine& engine = *Engine::instance();
-    IDWriteBitmapRenderTarget* const target = engine.ensureTarget(dc, sizeOf(area));
-    if (!target)
-        return false;
-    const HDC bitmap = target->GetMemoryDC();
-    if (!::BitBlt(bitmap, 0, 0, area.width, area.height, dc, area.x, area.y, SRCCOPY))
-        return false;
-    GlyphPainter painter(*target, *engine.params(), color);
-    return SUCCEEDED(layout.layout->Draw(nullptr, &painter, static_cast<float>(corner.x - area.x),
-                                         static_cast<float>(corner.y - area.y))) &&
-           ::BitBlt(dc, area.x, area.y, area.width, area.height, bitmap, 0, 0, SRCCOPY);
+    const ComPointer<IDWriteTextLayout> layout = makeDirectWriteLayout(lines, font, width, align);
+    std::optional<PlacedText> text;
+    if (!layout)
+        return text;
+    GlyphPlacer placer(Engine::instance()->glyphs(), text.emplace());
+    if (FAILED(layout->Draw(nullptr, &placer, 0, 0)))
+        text.reset();
+    return text;
 }
+
+std::optional<PlacedText> placePlainText(const TextLines& lines, const Font& font, std::int32_t width,
+                                         TextAlign align, const TextRuler& ruler)
+{
+    std::optional<PlacedText> text;
+    Engine* const engine = Engine::instance();
+    const Typeface* const typeface = engine ? engine->ensureTypeface(font) : nullptr;
+    if (!typeface)
+        return text;
+    const std::vector<UINT32> letters(lines.text.begin(), lines.text.end());
+    std::vector<UINT16> indices(letters.size());
+    if (FAILED(typeface->face->face->GetGlyphIndices(letters.data(), static_cast<UINT32>(letters.size()),
+                                                     indices.data())))
+        return text;
+    text.emplace();
+    std::vector<std::int32_t> ends;
+    Point pen{0, font.ascent};
+    for (std::size_t begin = 0; begin < letters.size(); pen.y += font.lineHeight) {
+        const std::size_t end = std::min(lines.text.find(L'\n', begin), letters.size());
+        ruler.measure(std::wstring_view(lines.text).substr(begin, end - begin), ends);
+        const std::int32_t left = alignedLeft(align, width - (ends.empty() ? 0 : ends.back()));
+        for (std::size_t i = begin; i < end; ++i) {
+            const GlyphPicture* const picture =
+                indices[i] == 0 ? nullptr
+                                : engine->glyphs().ensureGlyph(*typeface->face, indices[i],
+                                                               DWRITE_MEASURING_MODE_GDI_CLASSIC);
+            if (!picture)
+                return std::nullopt;
+            text->addGlyph(*picture, {left + (i == begin ? 0 : ends[i - begin - 1]), pen.y});
+        }
+        begin = end + 1;
+    }
+    return text;
+}
+
+std::optional<PlacedText> placeText(const TextLines& lines, const Font& font, std::int32_t width,
+                                    TextAlign align, const TextRuler& ruler)
+{
+    std::optional<PlacedText> text;
+    if (!font.key.underline && isPlainText(lines.text))
+        text = placePlainText(lines, font, width, align, ruler);
+    return text ? text : placeLayout(lines, font, width, align);
+}
+
+const TextInk& textInk() noexcept { return Engine::instance()->glyphs().ink(); }
 
 } // namespace vela

@@ -3,23 +3,33 @@
 
 #include "vela/com_pointer_win32.h"
 #include "vela/render/fonts_gdi.h"
+#include "vela/render/glyph_picture.h"
 #include "vela/render/text.h"
+
+#include <optional>
 
 #include <dwrite.h>
 
 namespace vela {
 
-struct DirectWriteLayout {
-    ComPointer<IDWriteTextLayout> layout; // empty when it could not be made
-    Rect ink;                             // pixels that drawing may touch, relative to the layout's corner
-};
+// Lays finished lines out with the widths and the line height that GDI has for the font; null when it cannot.
+ComPointer<IDWriteTextLayout> makeDirectWriteLayout(const TextLines& lines, const Font& font,
+                                                    std::int32_t width, TextAlign align);
 
-// Lays finished lines out with the widths and the line height that GDI has for the font.
-DirectWriteLayout makeDirectWriteLayout(const TextLines& lines, const Font& font, std::int32_t width,
-                                        TextAlign align);
+// The same, ready to be drawn; none when DirectWrite cannot draw all of it.
+std::optional<PlacedText> placeLayout(const TextLines& lines, const Font& font, std::int32_t width,
+                                      TextAlign align);
 
-// Draws over what the device context shows. Only pixels of the area, which is not empty, are touched; false
-// when nothing was drawn. The layout is one that could be made.
-bool tryDrawDirectWrite(HDC dc, const DirectWriteLayout& layout, Point corner, const Rect& area, Color color);
+// The same by letters alone, where each stands at the width that GDI measures before it: none for text with a
+// letter that the font lacks. The text is plain.
+std::optional<PlacedText> placePlainText(const TextLines& lines, const Font& font, std::int32_t width,
+                                         TextAlign align, const TextRuler& ruler);
+
+// Whichever does it sooner.
+std::optional<PlacedText> placeText(const TextLines& lines, const Font& font, std::int32_t width,
+                                    TextAlign align, const TextRuler& ruler);
+
+// Draws placed texts that have letters. There is one once there is such a text.
+const TextInk& textInk() noexcept;
 
 } // namespace vela

@@ -3,39 +3,18 @@
 #include "vela/render/bounded_cache.h"
 #include "vela/render/clip_gdi.h"
 #include "vela/render/fonts_gdi.h"
-#include "vela/render/kept_pictures_gdi.h"
+#include "vela/render/pixel_layer_gdi.h"
 #include "vela/render/text_dwrite.h"
 
 #include <numeric>
 #include <optional>
+#include <utility>
 
 namespace vela {
 namespace {
 
 // A window shows some dozens of texts; tooltips and progress texts come and go.
 constexpr std::size_t kMaxPreparedTexts = 256;
-
-class GdiRuler final : public TextRuler {
-public:
-    explicit GdiRuler(const Font& font)
-        : dc_(::CreateCompatibleDC(nullptr)), selected_(dc_.get(), font.handle)
-    {
-    }
-
-    void measure(std::wstring_view text, std::vector<std::int32_t>& ends) const override
-    {
-        static_assert(sizeof(INT) == sizeof(std::int32_t));
-        ends.assign(text.size(), 0);
-        SIZE size;
-        if (!text.empty())
-            ::GetTextExtentExPointW(dc_.get(), text.data(), static_cast<int>(text.size()), 0, nullptr,
-                                    reinterpret_cast<INT*>(ends.data()), &size);
-    }
-
-private:
-    OwnedMemoryDc dc_;
-    SelectedObject selected_;
-};
 
 struct TextRequest {
     std::wstring_view text;
@@ -65,7 +44,8 @@ struct TextKey {
 
 struct PreparedText {
     TextLines lines;
-    std::optional<DirectWriteLayout> layout; // once DirectWrite was asked, also when it could not
+    std::optional<PlacedText> placed; // as DirectWrite draws it
+    bool isPlacingTried = false;
 };
 
 BoundedCache<TextKey, PreparedText>& preparedTexts()
@@ -79,7 +59,9 @@ PreparedText& prepare(const TextRequest& request)
     return preparedTexts().ensure(request, [&request] {
         const GdiRuler ruler(*request.font);
         return PreparedText{
-            composeText(request.text, request.wrap, request.room, request.font->lineHeight, ruler), {}};
+            composeText(request.text, request.wrap, request.room, request.font->lineHeight, ruler),
+            {},
+            false};
     });
 }
 
@@ -134,49 +116,23 @@ Color colorFor(const FontSpec& font, TextTone tone) noexcept
     return tone == TextTone::Enabled ? font.color : font.disabledColor;
 }
 
-// What decides the look of a text, beside the pixels beneath it.
-struct TextPictureView {
-    const TextRequest& request;
-    Color color;
-    Point offset; // of the text's corner from that of the picture
-};
-
-struct TextPicture {
-    explicit TextPicture(const TextPictureView& view)
-        : text(view.request), color(view.color), offset(view.offset)
-    {
-    }
-    friend bool operator==(const TextPictureView& view, const TextPicture& kept) noexcept
-    {
-        return view.color == kept.color && view.offset == kept.offset && view.request == kept.text;
-    }
-
-    TextKey text;
-    Color color;
-    Point offset;
-};
-
-KeptPictures<TextPicture>& keptTexts()
-{
-    constexpr std::size_t kMostPixels = 1'000'000; // 4 MB: a large window full of text
-    static KeptPictures<TextPicture> pictures(kMostPixels);
-    return pictures;
-}
-
 bool tryDrawText(HDC dc, const Rect& rect, const TextRequest& request, PreparedText& text, Color color)
 {
-    if (!text.layout)
-        text.layout = makeDirectWriteLayout(text.lines, *request.font, rect.width, request.align);
-    const DirectWriteLayout& layout = *text.layout;
-    if (!layout.layout)
+    if (!std::exchange(text.isPlacingTried, true))
+        text.placed =
+            placeText(text.lines, *request.font, rect.width, request.align, GdiRuler(*request.font));
+    if (!text.placed)
         return false;
     const Point corner{rect.x, textTop(rect, request.wrap, text.lines.count * request.font->lineHeight)};
-    const Rect area = visiblePart(dc, intersection(movedBy(layout.ink, corner), rect));
+    const Rect area = visiblePart(dc, intersection(movedBy(text.placed->ink, corner), rect));
     if (isEmpty(area))
         return true;
-    return paintKept(dc, area, keptTexts(),
-                     TextPictureView{request, color, {corner.x - area.x, corner.y - area.y}},
-                     [&] { return tryDrawDirectWrite(dc, layout, corner, area, color); });
+    const PixelView pixels = readPixels(dc, area);
+    if (!pixels.pixels)
+        return false;
+    textInk().draw(pixels, {corner.x - area.x, corner.y - area.y}, *text.placed, color);
+    writeScratch(dc, area);
+    return true;
 }
 
 } // namespace
