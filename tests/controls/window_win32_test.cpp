@@ -208,15 +208,44 @@ TEST_F(WindowTest, KeysReachTheFocusedControl)
     EXPECT_EQ(clicks, 1);
 }
 
+struct Painted : Control {
+    using Control::Control;
+    void paint(HDC dc, Point) override
+    {
+        clip = Desktop::clipBox(dc);
+        ++times;
+    }
+
+    Rect clip;
+    int times = 0;
+};
+
+// It is painted while it is hidden; what changes from then on is painted once more, and only that.
+TEST_F(WindowTest, AWindowAppearsWithItsPicture)
+{
+    window.setCustomFrame(true);
+    window.setStyleSource([] { return std::make_shared<StyleSheet>(buildStyleSheet(builtInSkin())); });
+    ASSERT_TRUE(window.create(::GetModuleHandleW(nullptr), L"Okno", {400, 300}, kPopup));
+    const auto& painted = window.root().addControl(std::make_unique<Painted>(L"p", Rect{0, 0, 400, 300}));
+    send(WM_SHOWWINDOW, TRUE, 0);
+    EXPECT_EQ(painted.times, 1);
+    EXPECT_EQ(painted.clip, (Rect{0, 0, 400, 300}));
+    ::ShowWindow(window.handle(), SW_SHOWNOACTIVATE);
+    const int before = painted.times;
+    window.invalidateClient({20, 30, 40, 50}, InvalidationReason::State);
+    window.invalidateClient({50, 40, 20, 50}, InvalidationReason::State);
+    ::UpdateWindow(window.handle());
+    EXPECT_EQ(painted.times, before + 1);
+    EXPECT_EQ(painted.clip, (Rect{20, 30, 50, 60}));
+    send(WM_SYSCOLORCHANGE, 0, 0);
+    ::UpdateWindow(window.handle());
+    EXPECT_EQ(painted.clip, (Rect{0, 0, 400, 300}));
+}
+
 TEST_F(WindowTest, OnlyTheDamageIsPainted)
 {
     window.setCustomFrame(true);
     open();
-    struct Painted : Control {
-        using Control::Control;
-        void paint(HDC dc, Point) override { clip = Desktop::clipBox(dc); }
-        Rect clip;
-    };
     const auto& painted = window.root().addControl(std::make_unique<Painted>(L"p", Rect{0, 0, 400, 300}));
     ::InvalidateRect(window.handle(), nullptr, FALSE);
     ::UpdateWindow(window.handle());
