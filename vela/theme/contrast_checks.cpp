@@ -197,7 +197,9 @@ std::vector<ContrastCheck> Judge::judged()
     forEachVariant<PopupStyle>(ControlKind::Popup, [&](const PopupStyle& style) {
         judgeRules<PopupStyle>(style, grounds_);
         const Tones bed = faces_(style.surface, grounds_);
-        judgeButton(style.closeButton, "close button ", faces_(style.header, bed));
+        const Tones header = faces_(style.header, bed);
+        add("badge", Need::Edge, standingOut(style.icon, header));
+        judgeButton(style.closeButton, "close button ", header);
         const Tones footer = facesOf(style.footer, bed);
         judgeButton(style.primaryAction, "primary action ", footer);
         judgeButton(style.secondaryAction, "secondary action ", footer);

@@ -211,7 +211,6 @@ constexpr Rule<Popup> kPopupRules[] = {
     {"title", Need::Text, &Popup::titleText, {&Popup::header}, &Popup::surface},
     {"message", Need::Text, &Popup::messageText, {&Popup::surface}},
     {"glyph", Need::Text, &Popup::iconText, {&Popup::icon}, &Popup::surface},
-    {"badge", Need::Edge, {}, {&Popup::icon}, &Popup::surface},
 };
 
 constexpr Rule<Tip> kTipRules[] = {
