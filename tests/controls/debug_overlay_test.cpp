@@ -4,6 +4,7 @@
 #include "tests/support/recording_painter.h"
 #include "vela/controls/themed_button.h"
 #include "vela/controls/tooltip.h"
+#include "vela/theme/style_sheet.h"
 
 #include <gtest/gtest.h>
 
@@ -95,6 +96,11 @@ TEST(TooltipTest, ItIsNoWiderThanItsStyleAllows)
     EXPECT_EQ(tip.preferredSize(), (Size{6 * 8 + 1 + 20, 16 + 14}));
     tip.setText(std::wstring(100, L'x'));
     EXPECT_EQ(tip.preferredSize(), (Size{320, 3 * 16 + 14}));
+    StyleSheet styles;
+    styles.table<TooltipStyle>().defaultRecord().surface.geometry.ensure().textInsets = {3, 4, 5, 6};
+    tip.applyStyle(styles);
+    tip.setText(L"Zavrit");
+    EXPECT_EQ(tip.preferredSize(), (Size{6 * 8 + 1 + 20 + 8, 16 + 14 + 10}));
 }
 #endif
 

@@ -224,6 +224,49 @@ TEST_F(ChromeTest, APopupPaintsItsPartsInsideItself)
         EXPECT_EQ(intersection(call.rect, popup.bounds()), call.rect);
 }
 
+TEST_F(ChromeTest, BitmapInsetsMoveWhatStandsOnASurface)
+{
+    const auto rectOf = [](const std::vector<testing::PaintCall>& calls, std::wstring_view text) {
+        const auto found =
+            std::ranges::find_if(calls, [text](const auto& call) { return call.text == text; });
+        return found == calls.end() ? Rect{} : found->rect;
+    };
+    SurfaceGeometry& popupInsets = styles.table<PopupStyle>().defaultRecord().surface.geometry.ensure();
+    popupInsets.safeInsets = {10, 20, 30, 40};
+    popupInsets.actionRowInsets = {0, 3, 5, 7};
+    SurfaceGeometry& barInsets =
+        styles.table<ChromeTitleBarStyle>().defaultRecord().surface.geometry.ensure();
+    barInsets.textInsets = {9, 0, 0, 0};
+    barInsets.childLayoutInsets = {0, 4, 6, 0};
+    auto& bar = window.root.addControl(
+        std::make_unique<ChromeTitleBar>(L"chrome", Rect{0, 0, 690, 40}, L"Tamber Setup", Theme()));
+    auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"popup", Rect{0, 40, 400, 300}));
+    popup.setTitle(L"Hotovo");
+    popup.setMessage(L"Zprava");
+    popup.setActions({{L"OK", {}, true}});
+    testing::takePaintCalls();
+    window.root.paint(nullptr, {});
+    const auto plain = testing::takePaintCalls();
+    const Rect action = popup.actionButton(0).bounds();
+    const Rect popupClose = popup.closeButton().bounds();
+    styleTree(window.root, styles);
+    window.root.paint(nullptr, {});
+    const auto moved = testing::takePaintCalls();
+
+    const Rect title = rectOf(plain, L"Hotovo");
+    EXPECT_EQ(rectOf(moved, L"Hotovo"),
+              (Rect{title.x + 10, title.y + 20, title.width - 40, title.height - 60}));
+    const Rect message = rectOf(plain, L"Zprava");
+    EXPECT_EQ(rectOf(moved, L"Zprava"),
+              (Rect{message.x + 10, message.y + 20, message.width - 40, message.height - 60 - 10}));
+    EXPECT_EQ(popup.actionButton(0).bounds(), movedBy(action, {-5, -7}));
+    EXPECT_EQ(popup.closeButton().bounds(), movedBy(popupClose, {-30, 20}));
+    EXPECT_EQ(bar.button(CaptionButton::Close).bounds(), (Rect{638, 4, 46, 32}));
+    const Rect caption = rectOf(plain, L"Tamber Setup");
+    EXPECT_EQ(rectOf(moved, L"Tamber Setup"),
+              (Rect{caption.x + 9, caption.y, caption.width - 9 - 6, caption.height}));
+}
+
 TEST_F(ChromeTest, APopupCastsItsShadowOnlyOnGroundThatIsSeen)
 {
     PopupStyle& style = styles.table<PopupStyle>().defaultRecord();

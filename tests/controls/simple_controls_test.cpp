@@ -188,6 +188,28 @@ TEST_F(SimpleControlsTest, OnlyRealChangesRepaint)
 }
 
 #ifndef _WIN32 // there the product's renderer paints
+TEST_F(SimpleControlsTest, ACaptionStandsInTheContentOfItsSurface)
+{
+    StyleSheet styles;
+    for (SurfaceStyle* surface : {&styles.table<ButtonStyle>().defaultRecord().surface.normal,
+                                  &styles.table<ButtonStyle>().defaultRecord().surface.pressed})
+        surface->geometry.ensure().textInsets = {20, 4, 10, 2};
+    styles.table<ButtonStyle>().defaultRecord().surface.pressed.geometry.ensure().textInsets.top = 6;
+    auto& button =
+        window.root.addControl(std::make_unique<ThemedButton>(L"ok", Rect{10, 10, 100, 34}, L"OK"));
+    const Size plain = button.minimumSize();
+    button.applyStyle(styles);
+    testing::takePaintCalls();
+    button.paint(nullptr, {});
+    EXPECT_EQ(testing::takePaintCalls()[1].rect, (Rect{10 + 20 + 4, 14, 100 - 30 - 8, 28}));
+    button.setPressed(true);
+    button.paint(nullptr, {});
+    EXPECT_EQ(testing::takePaintCalls()[1].rect, (Rect{10 + 20 + 4, 16, 100 - 30 - 8, 26}));
+    button.setMinimumSize({0, 0});
+    EXPECT_EQ(button.minimumSize(), (Size{2 * 8 + 24 + 30, 16 + 6}));
+    EXPECT_EQ(plain, (Size{100, 34}));
+}
+
 TEST_F(SimpleControlsTest, TheFocusRingHasTheSurfacesGlowAndIsRepaintedWithTheControl)
 {
     StyleSheet styles;

@@ -242,6 +242,20 @@ TEST_F(TextInputTest, TheCaretStaysInSight)
     EXPECT_EQ(input.scrollOffset(), 0);
 }
 
+TEST_F(TextInputTest, TheTextKeepsInsideTheInsetsOfItsSurface)
+{
+    const Size plain = input.minimumSize();
+    const Rect before = input.caretRect().value_or(Rect{});
+    StyleSheet styles;
+    styles.table<TextInputStyle>().defaultRecord().surface.geometry.ensure().textInsets = {30, 8, 5, 2};
+    input.applyStyle(styles);
+    EXPECT_EQ(input.contentBounds(), (Rect{30, 8, 165, 22}));
+    EXPECT_EQ(*input.caretRect(), movedBy(before, {30, 3}));
+    input.setMinimumSize({0, 0});
+    EXPECT_GE(input.minimumSize().height, before.height + 10);
+    EXPECT_EQ(plain, (Size{200, 32}));
+}
+
 TEST_F(TextInputTest, ChipsStandBeforeTheTextAndCanBeRemoved)
 {
     const std::int32_t before = input.caretRect()->x;

@@ -268,5 +268,29 @@ TEST(BitmapGeometry, ContentTakesTheColumnsFreeInItsWholeBand)
     EXPECT_EQ(layoutColumns(geometry, outline, 3), (Span{1, 6}));
 }
 
+TEST(BitmapGeometry, LeavesRoomInsideItsInsetsAndItsOutline)
+{
+    SurfaceStyle style;
+    const Rect surface{100, 50, 8, 4};
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, 96, nullptr), surface);
+    SurfaceGeometry& geometry = style.geometry.ensure();
+    geometry.safeInsets = {1, 0, 2, 0};
+    geometry.headerInsets = {0, 1, 0, 1};
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, 96, nullptr), (Rect{101, 50, 5, 4}));
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, 192, nullptr), (Rect{102, 50, 2, 4}));
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::headerInsets, 96, nullptr), (Rect{100, 51, 8, 2}));
+
+    const auto outlineOf = [](const std::vector<std::string>& rows) {
+        return alphaRuns(SkinBitmap(pictureOf(rows), {}), {{0, 0, 8, 4}, {}}, {8, 4}, 16);
+    };
+    const RunMask leaning = outlineOf({"..rrrr..", ".rrrrrr.", "rrrrrrrr", "rrrrrr.."});
+    geometry.textInsets = {0, 0, 3, 0};
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, 96, &leaning), (Rect{102, 50, 3, 4}));
+    const RunMask soft = outlineOf({"........", "rrrrrrrr", "rrrrrrrr", "........"});
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, 96, &soft), (Rect{100, 50, 5, 4}));
+    geometry.textInsets = {2147483647, 0, 2147483647, 0};
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, 480, nullptr).width, 0);
+}
+
 } // namespace
 } // namespace vela

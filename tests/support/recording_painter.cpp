@@ -62,6 +62,11 @@ bool isOnSurface(const SurfaceStyle&, ShapeKind hitShape, Size size, Point point
     return pointInShape(hitShape, size.width, size.height, point);
 }
 
+Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi)
+{
+    return roomOn(style, surface, part, dpi, nullptr);
+}
+
 void fillShape(HDC, const Rect& rect, ShapeKind, Color color)
 {
     calls().push_back({L"fill", rect, {}, {}, color});

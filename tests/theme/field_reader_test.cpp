@@ -166,6 +166,8 @@ TEST(FieldReader, ReadsGeometryAndItsInsetsInEitherForm)
     EXPECT_EQ(surface.geometry->safeInsets, (Insets{1, 2, 3, 4}));
     EXPECT_EQ(surface.geometry->actionRowInsets, (Insets{5, 0, 0, 6}));
     EXPECT_EQ(surface.geometry->hitInsets, Insets{});
+    EXPECT_EQ(surfaceFrom("{'geometry': {'insets': [1, 2, 3, 4]}}").geometry->safeInsets,
+              (Insets{1, 2, 3, 4}));
     EXPECT_EQ(surface.geometry->maskPath, L"m.png");
     EXPECT_EQ(surface.nineSlice, (Insets{0, 0, 8, 0}));
     EXPECT_EQ(surfaceFrom("{'geometry': {'mask': {'path': 'n.png'}}}").geometry->maskPath, L"n.png");

@@ -135,12 +135,13 @@ ThemedButton& ChromeTitleBar::addHeaderAction(std::int32_t number, std::wstring 
 void ChromeTitleBar::placeChildren()
 {
     dragArea_.setBounds(localBounds());
-    const Size size{style_.buttonWidth, std::min(style_.buttonHeight, std::max(bounds().height, 0))};
-    std::int32_t right = bounds().width - style_.rightMargin;
+    const Rect room = surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::childLayoutInsets, dpi());
+    const Size size{style_.buttonWidth, std::min(style_.buttonHeight, room.height)};
+    std::int32_t right = room.x + room.width - style_.rightMargin;
     const auto place = [&](ThemedButton& placed, std::int32_t width, std::int32_t gap) {
         if (!placed.isVisible())
             return;
-        placed.setBounds({right - width, style_.buttonTop, width, size.height});
+        placed.setBounds({right - width, room.y + style_.buttonTop, width, size.height});
         right -= width + gap;
     };
     for (auto caption = captions_.rbegin(); caption != captions_.rend(); ++caption)
@@ -166,7 +167,14 @@ void ChromeTitleBar::showMaximisedState()
 
 Rect ChromeTitleBar::titleRect() const noexcept
 {
-    return {style_.titleLeft, 0, std::max(buttonsLeft_ - style_.titleLeft, 0), bounds().height};
+    const Rect room = contentBounds();
+    const std::int32_t left = room.x + style_.titleLeft;
+    return {left, room.y, std::max(std::min(buttonsLeft_, room.x + room.width) - left, 0), room.height};
+}
+
+Rect ChromeTitleBar::contentBounds() const
+{
+    return surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::textInsets, dpi());
 }
 
 void ChromeTitleBar::paint(HDC dc, Point origin)
@@ -174,8 +182,10 @@ void ChromeTitleBar::paint(HDC dc, Point origin)
     const Rect box = movedBy(bounds(), origin);
     paintSurface(dc, box, style_.surface);
     const std::int32_t side = style_.iconSize;
-    paintProgramIcon(dc, {box.x + style_.iconLeft, box.y + (box.height - side) / 2, side, side});
-    drawText(dc, movedBy(titleRect(), {box.x, box.y}), title_, style_.titleText, dpi());
+    const Rect title = movedBy(titleRect(), {box.x, box.y});
+    paintProgramIcon(
+        dc, {title.x - style_.titleLeft + style_.iconLeft, title.y + (title.height - side) / 2, side, side});
+    drawText(dc, title, title_, style_.titleText, dpi());
     for (Control* child : visibleChildren())
         child->paint(dc, {box.x, box.y});
 }

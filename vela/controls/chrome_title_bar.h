@@ -26,6 +26,7 @@ public:
     bool applyStyle(const StyleSheet& styles) override;
     void onStyleApplied() override;
     std::wstring text() const override { return title_; }
+    Rect contentBounds() const override;
     const BitmapSkin* attachedImage() const override;
     void paint(HDC dc, Point origin) override;
     bool mouseSecondary(const MouseEvent& event) override;

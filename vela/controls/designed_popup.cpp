@@ -170,10 +170,12 @@ void DesignedPopup::placeChildren()
 {
     header_.setBounds({0, 0, std::max(bounds().width, 0), style_.headerHeight});
     const Size close{scaled(kCloseButton.width), scaled(kCloseButton.height)};
-    close_->setBounds({bounds().width - scaled(kCloseMargin) - close.width, scaled(kCloseMargin), close.width,
-                       close.height});
-    std::int32_t right = contentRight();
-    const std::int32_t top = bounds().height - style_.paddingY - style_.actionHeight;
+    const Rect header = headerRoom();
+    close_->setBounds({header.x + header.width - scaled(kCloseMargin) - close.width,
+                       header.y + scaled(kCloseMargin), close.width, close.height});
+    const Insets row = around(&SurfaceGeometry::actionRowInsets);
+    std::int32_t right = contentRight() - row.right;
+    const std::int32_t top = bounds().height - style_.paddingY - style_.actionHeight - row.bottom;
     for (auto button = buttons_.rbegin(); button != buttons_.rend(); ++button) {
         (*button)->setMinimumSize({0, 0});
         const std::int32_t width = std::max(style_.actionWidth, (*button)->minimumSize().width);
@@ -192,10 +194,23 @@ std::int32_t DesignedPopup::contentRight() const noexcept
     return bounds().width - (column_ ? scaled(column_->right) : style_.paddingX);
 }
 
+Insets DesignedPopup::around(Insets SurfaceGeometry::*part) const noexcept
+{
+    return insetsOf(style_.surface, part, dpi());
+}
+
+Rect DesignedPopup::headerRoom() const noexcept
+{
+    return insetBy({0, 0, std::max(bounds().width, 0), style_.headerHeight},
+                   around(&SurfaceGeometry::headerInsets));
+}
+
 Rect DesignedPopup::iconRect() const noexcept
 {
+    const Rect header = headerRoom();
     const std::int32_t left = column_ ? (contentLeft() - style_.iconSize) / 2 : style_.paddingX;
-    return {left, (style_.headerHeight - style_.iconSize) / 2, style_.iconSize, style_.iconSize};
+    return {header.x + left, header.y + (header.height - style_.iconSize) / 2, style_.iconSize,
+            style_.iconSize};
 }
 
 std::int32_t DesignedPopup::titleLeft() const noexcept
@@ -218,13 +233,15 @@ Rect DesignedPopup::messageRect() const noexcept
     // A header that is seen as a band ends where it ends; one without a ground of its own already keeps away.
     const bool band = style_.header.drawFill || style_.header.drawBorder;
     const std::int32_t top = style_.headerHeight + (band ? scaled(kBandGap) : 0);
-    return {contentLeft(), top, std::max(contentRight() - contentLeft(), 0),
-            std::max(bounds().height - top - style_.paddingY - footerHeight(), 0)};
+    return insetBy({contentLeft(), top, contentRight() - contentLeft(),
+                    bounds().height - top - style_.paddingY - footerHeight()},
+                   around(&SurfaceGeometry::textInsets));
 }
 
 std::int32_t DesignedPopup::footerHeight() const noexcept
 {
-    return buttons_.empty() ? 0 : style_.actionHeight + 2 * style_.paddingY;
+    const Insets row = around(&SurfaceGeometry::actionRowInsets);
+    return buttons_.empty() ? 0 : style_.actionHeight + 2 * style_.paddingY + row.top + row.bottom;
 }
 
 void DesignedPopup::paintGround(HDC dc, const Rect& box) const
@@ -268,8 +285,11 @@ void DesignedPopup::paint(HDC dc, Point origin)
     paintGround(dc, box);
     if (!glyph_.empty())
         paintIcon(dc, at);
-    const std::int32_t titleRight = close_->isVisible() ? close_->bounds().x : contentRight();
-    const Rect title{titleLeft(), 0, std::max(titleRight - titleLeft(), 0), style_.headerHeight};
+    const Rect header = headerRoom();
+    const std::int32_t left = header.x + titleLeft();
+    const std::int32_t titleRight =
+        close_->isVisible() ? close_->bounds().x : std::min(contentRight(), header.x + header.width);
+    const Rect title{left, header.y, std::max(titleRight - left, 0), header.height};
     drawText(dc, movedBy(title, at), title_, style_.titleText, dpi());
     drawText(dc, movedBy(messageRect(), at), message_, style_.messageText, dpi(), {.wrap = TextWrap::Words});
     for (Control* child : visibleChildren())

@@ -82,6 +82,9 @@ private:
     std::wstring copiedText() const;
     bool moveAlongActions(const KeyEvent& event);
     std::int32_t titleLeft() const noexcept;
+    // The insets of one part of what stands on the popup.
+    Insets around(Insets SurfaceGeometry::*part) const noexcept;
+    Rect headerRoom() const noexcept;
     Rect iconRect() const noexcept;
     Rect headerRect() const noexcept;
     Rect messageRect() const noexcept;

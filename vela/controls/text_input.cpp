@@ -38,7 +38,15 @@ Size TextInput::minimumSize() const
     const Size own = Control::minimumSize();
     if (isCollapsed())
         return own;
-    return largerOf(own, {2 * style_.paddingX + scaled(2 * kCaretMargin), lineHeight(style_.text, dpi())});
+    const Insets around = insetsOf(style_.surface, &SurfaceGeometry::textInsets, dpi());
+    return largerOf(own, {2 * style_.paddingX + scaled(2 * kCaretMargin) + around.left + around.right,
+                          2 * style_.paddingY + lineHeight(style_.text, dpi()) + around.top + around.bottom});
+}
+
+// By the surface at rest, whatever the state: the text stays where it is.
+Rect TextInput::contentBounds() const
+{
+    return surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::textInsets, dpi());
 }
 
 TextServices* TextInput::services() const { return window() ? window()->textServices() : nullptr; }
@@ -68,11 +76,12 @@ std::size_t TextInput::indexAt(std::int32_t x) const
 
 Rect TextInput::textArea() const
 {
+    const Rect room = contentBounds();
     const std::vector<Chip> shown = chips();
     const std::int32_t left = shown.empty()
-                                  ? style_.paddingX
+                                  ? room.x + style_.paddingX
                                   : shown.back().body.x + shown.back().body.width + style_.attachmentGap;
-    return {left, 0, std::max(bounds().width - left - style_.paddingX, 0), std::max(bounds().height, 0)};
+    return {left, room.y, std::max(room.x + room.width - left - style_.paddingX, 0), room.height};
 }
 
 std::optional<Rect> TextInput::caretRect() const

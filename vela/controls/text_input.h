@@ -26,6 +26,7 @@ public:
     bool applyStyle(const StyleSheet& styles) override;
     std::wstring text() const override { return model_.text(); }
     Size minimumSize() const override;
+    Rect contentBounds() const override;
     void paint(HDC dc, Point origin) override;
     bool mouseButton(const MouseEvent& event) override;
     bool mouseSecondary(const MouseEvent& event) override;

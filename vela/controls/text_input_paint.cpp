@@ -48,22 +48,23 @@ const SurfaceStyle& TextInput::surface() const
 std::vector<TextInput::Chip> TextInput::chips() const
 {
     std::vector<Chip> result;
-    const std::int32_t height = std::min(style_.attachmentHeight, std::max(bounds().height, 0));
+    const Rect room = contentBounds();
+    const std::int32_t height = std::min(style_.attachmentHeight, room.height);
     const std::int32_t image = height / 2;
     const std::int32_t padding = scaled(kChipPadding);
     const std::int32_t remove = style_.showAttachmentRemove ? style_.attachmentRemoveExtent : 0;
-    std::int32_t x = style_.paddingX;
+    std::int32_t x = room.x + style_.paddingX;
     for (const TextAttachment& attachment : attachments_) {
         const std::int32_t name = measureTextWidth(attachment.name, style_.attachmentText, dpi());
         Chip chip;
-        chip.image = centredIn(localBounds(), x + padding, image, image);
-        chip.name = centredIn(localBounds(), chip.image.x + image + padding / 2, name, height);
+        chip.image = centredIn(room, x + padding, image, image);
+        chip.name = centredIn(room, chip.image.x + image + padding / 2, name, height);
         std::int32_t end = chip.name.x + name + padding;
         if (remove > 0) {
-            chip.remove = centredIn(localBounds(), end - padding / 2, remove, remove);
+            chip.remove = centredIn(room, end - padding / 2, remove, remove);
             end += remove;
         }
-        chip.body = centredIn(localBounds(), x, end - x, height);
+        chip.body = centredIn(room, x, end - x, height);
         result.push_back(chip);
         x = end + style_.attachmentGap;
     }

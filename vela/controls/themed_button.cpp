@@ -49,8 +49,15 @@ Size ThemedButton::minimumSize() const
     if (isCollapsed() || text_.empty())
         return minimum;
     const FontSpec& font = style_.text.normal;
+    const Insets around = insetsOf(style_.surface.normal, &SurfaceGeometry::textInsets, dpi());
     const std::int32_t caption = measureTextWidth(text_, font, dpi()) + 2 * scaled(kComfortablePadding);
-    return largerOf(minimum, {caption, lineHeight(font, dpi())});
+    return largerOf(minimum, {caption + around.left + around.right,
+                              lineHeight(font, dpi()) + around.top + around.bottom});
+}
+
+Rect ThemedButton::contentBounds() const
+{
+    return surfaceRoom(style_.surface[visualState()], localBounds(), &SurfaceGeometry::textInsets, dpi());
 }
 
 const BitmapSkin* ThemedButton::attachedImage() const
@@ -77,12 +84,13 @@ void ThemedButton::paint(HDC dc, Point origin)
     const FontSpec& font = style_.text[state];
     paintControlSurface(dc, box, style_.surface[state]);
     const TextTone tone = isEnabled() ? TextTone::Enabled : TextTone::Disabled;
+    const Rect room = movedBy(contentBounds(), {box.x, box.y});
     if (glyph_) {
         const std::int32_t side = captionGlyphSize(dpi());
-        const Rect square{box.x + (box.width - side) / 2, box.y + (box.height - side) / 2, side, side};
+        const Rect square{room.x + (room.width - side) / 2, room.y + (room.height - side) / 2, side, side};
         paintGlyph(dc, *glyph_, square, dpi(), isEnabled() ? font.color : font.disabledColor);
     } else {
-        const Rect caption = narrowed(box, captionPadding(bounds().height));
+        const Rect caption = narrowed(room, captionPadding(bounds().height));
         drawText(dc, caption, text_, font, dpi(), {tone, TextAlign::Center, TextWrap::SingleLine});
     }
     if (hasFocus() && window()->showsFocus())

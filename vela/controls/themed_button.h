@@ -21,6 +21,7 @@ public:
     bool applyStyle(const StyleSheet& styles) override;
     std::wstring text() const override { return text_; }
     Size minimumSize() const override;
+    Rect contentBounds() const override;
     const BitmapSkin* attachedImage() const override;
     void paint(HDC dc, Point origin) override;
     void activate() override;

@@ -38,12 +38,18 @@ std::int32_t TooltipView::textLeft() const noexcept
 
 Size TooltipView::preferredSize() const
 {
-    const std::int32_t around = textLeft() + style_.paddingX;
+    const Insets insets = insetsOf(style_.surface, &SurfaceGeometry::textInsets, dpi());
+    const std::int32_t around = textLeft() + style_.paddingX + insets.left + insets.right;
     const std::int32_t room = std::max(style_.maxWidth - around, 1);
     const std::int32_t width = std::min(measureTextWidth(text_, style_.textStyle, dpi()) + 1, room);
     const std::int32_t text = measureText(text_, style_.textStyle, dpi(), width);
     const std::int32_t height = std::max(text, style_.showIcon ? style_.iconSize : 0);
-    return {width + around, height + 2 * style_.paddingY};
+    return {width + around, height + 2 * style_.paddingY + insets.top + insets.bottom};
+}
+
+Rect TooltipView::contentBounds() const
+{
+    return surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::textInsets, dpi());
 }
 
 void TooltipView::paint(HDC dc, Point origin)
@@ -51,14 +57,15 @@ void TooltipView::paint(HDC dc, Point origin)
     const Rect box = movedBy(bounds(), origin);
     shadow_.paint(dc, *this, box);
     paintControlSurface(dc, box, style_.surface);
-    std::int32_t x = box.x + style_.paddingX;
-    const std::int32_t inner = std::max(box.height - 2 * style_.paddingY, 0);
+    const Rect room = movedBy(contentBounds(), {box.x, box.y});
+    std::int32_t x = room.x + style_.paddingX;
+    const std::int32_t inner = std::max(room.height - 2 * style_.paddingY, 0);
     if (style_.showAccentRail) {
-        paintControlSurface(dc, {x, box.y + style_.paddingY, scaled(kRailWidth), inner}, style_.accentRail);
+        paintControlSurface(dc, {x, room.y + style_.paddingY, scaled(kRailWidth), inner}, style_.accentRail);
         x += scaled(kRailWidth) + style_.gap;
     }
     if (style_.showIcon) {
-        const Rect icon{x, box.y + style_.paddingY, style_.iconSize, style_.iconSize};
+        const Rect icon{x, room.y + style_.paddingY, style_.iconSize, style_.iconSize};
         paintBadge(dc, icon, style_.icon);
         const std::int32_t side = style_.iconSize / 2;
         paintGlyph(dc, Glyph::Info,
@@ -66,9 +73,9 @@ void TooltipView::paint(HDC dc, Point origin)
                    style_.iconText.color);
     }
     // Beside a larger icon the text stands in the middle.
-    const std::int32_t width = std::max(box.width - textLeft() - style_.paddingX, 0);
+    const std::int32_t width = std::max(room.width - textLeft() - style_.paddingX, 0);
     const std::int32_t height = std::min(measureText(text_, style_.textStyle, dpi(), width), inner);
-    const Rect text{box.x + textLeft(), box.y + style_.paddingY + (inner - height) / 2, width, height};
+    const Rect text{room.x + textLeft(), room.y + style_.paddingY + (inner - height) / 2, width, height};
     drawText(dc, text, text_, style_.textStyle, dpi(), {.wrap = TextWrap::Words});
 }
 

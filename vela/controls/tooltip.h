@@ -13,6 +13,7 @@ public:
 
     bool applyStyle(const StyleSheet& styles) override;
     std::wstring text() const override { return text_; }
+    Rect contentBounds() const override;
     void paint(HDC dc, Point origin) override;
 
     Rect damageBounds() const override { return shadow_.reach(localBounds()); }

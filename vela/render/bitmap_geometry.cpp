@@ -2,6 +2,7 @@
 
 #include "vela/render/lengths.h"
 #include "vela/render/shape.h"
+#include "vela/theme/record_scale.h"
 
 #include <algorithm>
 
@@ -80,6 +81,37 @@ Span layoutColumns(const SurfaceGeometry& geometry, const RunMask& outline, std:
     for (std::int32_t row = band.begin; row < band.end; ++row)
         free = intersect(free, longestRun(outline, row));
     return free.empty() ? Span{} : free;
+}
+
+Insets insetsOf(const SurfaceStyle& style, PartInsets part, std::int32_t dpi) noexcept
+{
+    if (!style.geometry)
+        return {};
+    const SurfaceGeometry& geometry = *style.geometry;
+    Insets insets = limitedInsets(geometry.*part == Insets{} ? geometry.safeInsets : geometry.*part);
+    for (std::int32_t Insets::*const side : {&Insets::left, &Insets::top, &Insets::right, &Insets::bottom})
+        insets.*side = scaledLength(insets.*side, dpi);
+    return insets;
+}
+
+Rect insetBy(const Rect& rect, const Insets& insets) noexcept
+{
+    return {rect.x + insets.left, rect.y + insets.top, std::max(rect.width - insets.left - insets.right, 0),
+            std::max(rect.height - insets.top - insets.bottom, 0)};
+}
+
+Rect roomOn(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi,
+            const RunMask* outline)
+{
+    Rect room = insetBy(surface, insetsOf(style, part, dpi));
+    if (!outline)
+        return room;
+    const Span columns = layoutColumns(*style.geometry, *outline, surface.height / 2);
+    // An outline that leaves no column free, as one with a soft edge, says nothing of where content may
+    // stand.
+    return columns.empty()
+               ? room
+               : intersection(room, {surface.x + columns.begin, room.y, columns.length(), room.height});
 }
 
 } // namespace vela

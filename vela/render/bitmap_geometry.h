@@ -29,4 +29,14 @@ bool hitSurface(const SurfaceStyle& style, ShapeKind shape, Size surface, Point 
 // says, or the whole outline when it says nothing), within the layout insets.
 Span layoutColumns(const SurfaceGeometry& geometry, const RunMask& outline, std::int32_t y);
 
+// The insets of one part of what stands on a surface: its own or, where those are all 0, the safe ones.
+using PartInsets = Insets SurfaceGeometry::*;
+Insets insetsOf(const SurfaceStyle& style, PartInsets part, std::int32_t dpi) noexcept;
+Rect insetBy(const Rect& rect, const Insets& insets) noexcept;
+
+// What they leave of the surface, in the columns free in the middle of the outline. Without an outline the
+// surface's shape is it, and all columns are free.
+Rect roomOn(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi,
+            const RunMask* outline);
+
 } // namespace vela

@@ -4,6 +4,7 @@
 
 #include "vela/geometry.h"
 #include "vela/platform_handles.h"
+#include "vela/render/bitmap_geometry.h"
 #include "vela/render/pixel_buffer.h"
 #include "vela/theme/surface_style.h"
 
@@ -32,6 +33,9 @@ void strokeShapeOutline(HDC dc, const Rect& rect, ShapeKind kind, Color color, s
 // Whether the pointer is on what is painted: by the surface's bitmap where the style says so, else by the
 // shape that a control names for its hits.
 bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point);
+
+// The part of the surface that its bitmap leaves for its text, or for another part of what stands on it.
+Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi);
 
 // The region that gives a window of that size the style's shape, from (0, 0); null for a plain rectangle. The
 // caller owns it.

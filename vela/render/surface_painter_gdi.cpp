@@ -154,6 +154,13 @@ bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point
     return hitSurface(style, hitShape, size, point, bitmaps.view());
 }
 
+Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi)
+{
+    const bool mayHaveOutline = style.geometry && !isEmpty(surface);
+    return roomOn(style, surface, part, dpi,
+                  mayHaveOutline ? surfaceOutline(style, sizeOf(surface), surfaceBitmaps(style)) : nullptr);
+}
+
 void drawGradientShape(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
     drawLayer(dc, SurfaceLayer::Gradient, rect, style);

@@ -32,6 +32,10 @@ struct PerState {
 // whether the surface glows or not. A text field shows its focus by a surface of its own instead, and has the
 // ring only while it is locked.
 //
+// Nothing in this toolkit is painted by the records of bitmap buttons, cards, status chips, scroll bars,
+// select boxes, list boxes, date inputs, tabs, menu bars, table lists, rich texts and selectable texts: they
+// are derived, read and checked for programs that bring such controls.
+//
 // A surface carries its own shape; the shape fields of a record name the shape of the part they stand for and
 // are written into that part's surfaces when the style sheet is finished.
 
@@ -65,7 +69,7 @@ struct BitmapButtonStyle {
 struct PanelStyle {
     SurfaceStyle surface;
     ShapeKind shape = ShapeKind::Rect;
-    std::int32_t padding = 12;
+    std::int32_t padding = 12; // not used: what stands on a panel has its place from its creator
     friend bool operator==(const PanelStyle&, const PanelStyle&) = default;
 };
 
@@ -436,7 +440,7 @@ struct TooltipStyle {
     bool showShadow = true;
     FontSpec textStyle;
     std::int32_t iconSize = 16;
-    ScrollAcceleration scrollAcceleration;
+    ScrollAcceleration scrollAcceleration; // not used: the mouse goes through a tooltip
     ShapeKind iconShape = ShapeKind::Pill;
     SurfaceStyle icon;
     std::int32_t paddingX = 10;

@@ -24,7 +24,7 @@ void scaleField(std::byte* record, const Field& field, std::int32_t dpi)
             scaleRecord(place + static_cast<std::size_t>(state) * tableOf(field).recordSize, tableOf(field),
                         dpi);
         break;
-    default: break; // insets count the pixels of a bitmap, everything else is no length
+    default: break; // insets count the pixels of a bitmap or are scaled where they are used
     }
 }
 

@@ -92,16 +92,14 @@ struct GeometryRows {
     static constexpr Field kRows[] = {
         VELA_FIELD(mode, "mode geometryMode layoutMode"),
         VELA_FIELD(bandHeight, "bandHeight"),
-        VELA_FIELD(safeInsets, "safeInsets"),
-        VELA_FIELD(insets, "insets"),
+        VELA_FIELD(safeInsets, "insets safeInsets"),
         VELA_FIELD(paintInsets, "paintInsets"),
         VELA_FIELD(hitInsets, "hitInsets"),
         VELA_FIELD(textInsets, "textInsets"),
         VELA_FIELD(childLayoutInsets, "childLayoutInsets"),
         VELA_FIELD(layoutInsets, "layoutInsets"),
         VELA_FIELD(headerInsets, "headerInsets"),
-        VELA_FIELD(actionRowInsets, "actionRowInsets"),
-        VELA_FIELD(actionInsets, "actionInsets"),
+        VELA_FIELD(actionRowInsets, "actionInsets actionRowInsets"),
         VELA_FIELD(scrollTrackInsets, "scrollTrackInsets"),
         VELA_FIELD(maskPath, "mask alphaMask layoutMask mask.path alphaMask.path layoutMask.path"),
     };

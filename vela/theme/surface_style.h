@@ -98,18 +98,23 @@ struct BitmapSkin {
 // How the layout of a bitmap-skinned surface relates to its bitmap.
 struct SurfaceGeometry {
     AlphaHitMode mode = AlphaHitMode::ShapeFallback;
+
+    // Device pixels: how high the bands are in which content is laid out, where the bitmap lies, where the
+    // pointer meets it, and what its outline loses before content is laid out in it.
     std::int32_t bandHeight = 0;
-    Insets safeInsets;
-    Insets insets;
     Insets paintInsets;
     Insets hitInsets;
-    Insets textInsets;
-    Insets childLayoutInsets;
     Insets layoutInsets;
-    Insets headerInsets;
-    Insets actionRowInsets;
-    Insets actionInsets;
-    Insets scrollTrackInsets;
+
+    // Pixels at 96 DPI, kept free by what stands on the surface. A part whose own are all 0 takes the safe
+    // ones.
+    Insets safeInsets;
+    Insets textInsets;
+    Insets childLayoutInsets; // of a title bar's buttons
+    Insets headerInsets;      // of a popup's icon, title and close button
+    Insets actionRowInsets;   // of a popup
+    Insets scrollTrackInsets; // not used: nothing here has a scroll bar
+
     std::wstring maskPath; // relative to the skin document
 
     friend bool operator==(const SurfaceGeometry&, const SurfaceGeometry&) = default;
