@@ -242,6 +242,28 @@ TEST_F(TextInputTest, TheCaretStaysInSight)
     EXPECT_EQ(input.scrollOffset(), 0);
 }
 
+TEST_F(TextInputTest, TheWheelScrollsATextThatDoesNotFit)
+{
+    MouseEvent wheel;
+    wheel.action = MouseAction::Wheel;
+    wheel.position = {30, 10};
+    wheel.wheelDelta = -120;
+    EXPECT_FALSE(input.mouseSecondary(wheel)); // it fits
+    input.setText(std::wstring(100, L'x'));
+    input.setScrollOffset(0);
+    wheel.time = 1000;
+    EXPECT_TRUE(input.mouseSecondary(wheel));
+    EXPECT_EQ(input.scrollOffset(), 24);
+    wheel.time = 1010; // the record accelerates by 35 percent
+    EXPECT_TRUE(input.mouseSecondary(wheel));
+    EXPECT_EQ(input.scrollOffset(), 24 + 32);
+    wheel.wheelDelta = 32767;
+    EXPECT_TRUE(input.mouseSecondary(wheel));
+    EXPECT_EQ(input.scrollOffset(), 0);
+    wheel.position = {30, 32};
+    EXPECT_FALSE(input.mouseSecondary(wheel)); // beside the field
+}
+
 TEST_F(TextInputTest, TheTextKeepsInsideTheInsetsOfItsSurface)
 {
     const Size plain = input.minimumSize();

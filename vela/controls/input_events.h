@@ -24,6 +24,7 @@ struct MouseEvent {
     Point position;
     std::int32_t clicks = 1;     // 2 for a double, 3 for a triple click
     std::int32_t wheelDelta = 0; // in 120ths of a notch, away from the user is positive
+    std::uint32_t time = 0;      // milliseconds, of a turn of the wheel
     KeyModifiers modifiers;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace vela {
 
@@ -19,6 +20,18 @@ std::int32_t ClickCounter::press(Point position, std::uint64_t now, std::uint32_
         position_ = position;
     time_ = now;
     return clicks_;
+}
+
+std::int32_t WheelBurst::turn(const ScrollAcceleration& style, std::uint32_t now) noexcept
+{
+    constexpr std::int32_t kMostTimes = 100;
+    const std::int64_t since = now - std::exchange(last_, now);
+    if (!style.enabled || since >= style.resetMs)
+        percent_ = 100;
+    else if (since <= style.fastIntervalMs)
+        percent_ = std::clamp(saturated(std::int64_t{percent_} + style.strength), 100,
+                              100 * std::clamp(style.maxMultiplier, 1, kMostTimes));
+    return percent_;
 }
 
 void TooltipClock::pointerAt(const Control* control, Point position, std::uint64_t now) noexcept

@@ -1,8 +1,9 @@
-// What depends on when and where the pointer was: the number of clicks of a press, and the moment a tooltip
-// is due. Times are milliseconds of any clock that does not go back.
+// What depends on when and where the pointer was: the number of clicks of a press, how far a turn of the
+// wheel scrolls, and the moment a tooltip is due. Times are milliseconds of any clock that does not go back.
 #pragma once
 
 #include "vela/geometry.h"
+#include "vela/theme/control_styles.h"
 
 #include <cstdint>
 
@@ -20,6 +21,17 @@ private:
     Point position_;
     std::uint64_t time_ = 0;
     std::int32_t clicks_ = 0;
+};
+
+// Turns of the wheel that follow each other fast scroll further and further.
+class WheelBurst {
+public:
+    // How far this turn scrolls, in percent of the plain step. The clock may wrap around.
+    std::int32_t turn(const ScrollAcceleration& style, std::uint32_t now) noexcept;
+
+private:
+    std::uint32_t last_ = 0;
+    std::int32_t percent_ = 100;
 };
 
 // A tooltip is due once the pointer has rested on a control; after that it may move about on it. A dismissed

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "vela/controls/control.h"
+#include "vela/controls/pointer_clock.h"
 #include "vela/controls/text_edit_model.h"
 #include "vela/controls/text_services.h"
 #include "vela/theme/control_styles.h"
@@ -83,6 +84,7 @@ private:
     std::int32_t textWidth() const { return xOf(model_.text().size()); }
     const SurfaceStyle& surface() const;
     bool pressChip(Point position);
+    bool scrollByWheel(const MouseEvent& event);
     bool erasesChip() const noexcept;
     void removeAttachment(std::size_t index);
     // After every edit and every move of the caret.
@@ -94,6 +96,7 @@ private:
 
     TextEditModel model_;
     std::int32_t scroll_ = 0;
+    WheelBurst wheel_;
     std::vector<TextAttachment> attachments_;
     std::wstring placeholder_;
     TextInputStyle style_;

@@ -146,6 +146,7 @@ LRESULT Window::Native::onMouseWheel(WPARAM wParam, LPARAM lParam)
     event.action = MouseAction::Wheel;
     event.position = {cursor.x, cursor.y};
     event.wheelDelta = GET_WHEEL_DELTA_WPARAM(wParam);
+    event.time = static_cast<std::uint32_t>(::GetMessageTime());
     event.modifiers = modifiersNow();
     return window_.input_.mouseSecondary(event) ? 0 : passOn(WM_MOUSEWHEEL, wParam, lParam);
 }
