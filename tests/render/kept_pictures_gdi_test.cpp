@@ -3,6 +3,7 @@
 #include "vela/render/kept_pictures_gdi.h"
 
 #include "tests/support/canvas_gdi.h"
+#include "vela/render/mark_painter.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 
@@ -30,12 +31,22 @@ SurfaceStyle layeredStyle()
     return style;
 }
 
+SurfaceStyle roundFace()
+{
+    SurfaceStyle style = layeredStyle();
+    style.border = hexColor(0xC0D0E0);
+    style.drawBorder = true;
+    return style;
+}
+
 void paintScene(HDC dc, Point at)
 {
     static const SurfaceStyle style = layeredStyle();
     const FontSpec font{L"Segoe UI", 10, 400, hexColor(0xF0F6F4), hexColor(0x808080)};
     const Rect rect{at.x, at.y, 90, 40};
     paintSurface(dc, rect, style);
+    static const SurfaceStyle face = roundFace();
+    paintControlSurface(dc, {at.x + 8, at.y + 20, 60, 30}, face);
     drawText(dc, rect, L"Příliš žluťoučký", font, 96, {TextTone::Enabled, TextAlign::Center});
     drawText(dc, rect, L"kůň", font, 96, {TextTone::Disabled, TextAlign::Right});
 }

@@ -2,6 +2,8 @@
 
 #include "vela/mul_div.h"
 #include "vela/render/dib_gdi.h"
+#include "vela/render/kept_pictures_gdi.h"
+#include "vela/render/material_clock.h"
 #include "vela/render/pixel_layer_gdi.h"
 #include "vela/render/surface_painter.h"
 
@@ -79,6 +81,63 @@ SurfaceStyle haloOf(const SurfaceStyle& style)
     return halo;
 }
 
+// The surface itself, without what lies around it.
+void paintFace(HDC dc, const Rect& rect, const SurfaceStyle& style)
+{
+    paintCut(
+        dc, rect,
+        [&](HDC copy) {
+            paintSurface(copy, rect, groundOf(style));
+            paintSurface(copy, rect, lightOf(style));
+        },
+        [&](const LayerTarget& target) {
+            cutToProgress(target, style.shape, {0, 0, rect.width, rect.height},
+                          static_cast<float>(rect.width));
+        });
+    const auto stroke = [&](float width, Color color) {
+        drawSmooth(dc, rect, [&](const LayerTarget& target, const Rect& local) {
+            strokeSmoothShape(target, style.shape, local, width, color);
+        });
+    };
+    if (style.drawBorder)
+        stroke(1.0F, style.border);
+    if (style.showOutline)
+        stroke(static_cast<float>(style.outlineWidth), style.outline);
+}
+
+// What decides the look of a face, beside the pixels beneath it.
+struct FaceView {
+    const SurfaceStyle& style;
+    Rect rect;
+    Rect area;
+    PerformanceProfile profile;
+};
+
+struct Face {
+    explicit Face(const FaceView& view)
+        : style(view.style), rect(view.rect), area(view.area), profile(view.profile)
+    {
+    }
+    friend bool operator==(const FaceView& view, const Face& kept)
+    {
+        return view.rect == kept.rect && view.area == kept.area && view.profile == kept.profile &&
+               view.style == kept.style;
+    }
+
+    SurfaceStyle style;
+    Rect rect;
+    Rect area;
+    PerformanceProfile profile;
+};
+
+// A button under the pointer is painted again and again in two or three states.
+KeptPictures<Face>& keptFaces()
+{
+    constexpr std::size_t kMostPixels = 1'000'000; // 4 MB
+    static KeptPictures<Face> pictures(kMostPixels);
+    return pictures;
+}
+
 } // namespace
 
 void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color)
@@ -112,25 +171,17 @@ void paintBadge(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
     if (style.image) // a bitmap has its own edges
         return paintSurface(dc, rect, style);
-    paintCut(
-        dc, rect,
-        [&](HDC copy) {
-            paintSurface(copy, rect, groundOf(style));
-            paintSurface(copy, rect, lightOf(style));
-        },
-        [&](const LayerTarget& target) {
-            cutToProgress(target, style.shape, {0, 0, rect.width, rect.height},
-                          static_cast<float>(rect.width));
-        });
-    const auto stroke = [&](float width, Color color) {
-        drawSmooth(dc, rect, [&](const LayerTarget& target, const Rect& local) {
-            strokeSmoothShape(target, style.shape, local, width, color);
-        });
+    const Rect area = visiblePart(dc, rect);
+    if (isEmpty(area))
+        return;
+    const auto paint = [&] {
+        paintFace(dc, rect, style);
+        return true;
     };
-    if (style.drawBorder)
-        stroke(1.0F, style.border);
-    if (style.showOutline)
-        stroke(static_cast<float>(style.outlineWidth), style.outline);
+    if (hasMovingLight(style))
+        paint();
+    else
+        paintKept(dc, area, keptFaces(), FaceView{style, rect, area, materialMoment().profile}, paint);
 }
 
 void paintControlSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
