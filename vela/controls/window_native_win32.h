@@ -130,6 +130,8 @@ private:
     Window& window_;
     std::optional<DibSurface> backBuffer_;
     std::optional<Rect> damagedSinceAhead_; // while the back buffer holds a picture painted ahead
+    Rect lastDamage_;                       // empty: none since the last painting
+    bool isDamageScattered_ = false;        // in more places than the last
     OwnedIcon smallIcon_;
     OwnedIcon largeIcon_;
     ClickCounter clicks_;

@@ -26,6 +26,8 @@ void Window::Native::noteDamage(const Rect& rect) noexcept
 {
     if (damagedSinceAhead_)
         damagedSinceAhead_ = isEmpty(*damagedSinceAhead_) ? rect : united(*damagedSinceAhead_, rect);
+    isDamageScattered_ = isDamageScattered_ || (!isEmpty(lastDamage_) && rect != lastDamage_);
+    lastDamage_ = rect;
 }
 
 // A window appears with its picture, which is painted before anything of it can be seen.
@@ -45,15 +47,20 @@ LRESULT Window::Native::onPaint()
 {
     const HWND handle = window_.handle_;
     window_.allDamaged_ = false;
-    // Before BeginPaint, which forgets it: the damage itself rather than the rectangle around it.
+    // Before BeginPaint, which forgets it: the damage itself rather than the rectangle around it. In one
+    // place both are the same, and the system need not be asked.
     const OwnedRegion damage(::CreateRectRgn(0, 0, 0, 0));
-    ::GetUpdateRgn(handle, damage.get(), FALSE);
+    const bool isScattered = std::exchange(isDamageScattered_, false);
+    lastDamage_ = {};
+    if (isScattered)
+        ::GetUpdateRgn(handle, damage.get(), FALSE);
     const auto start = std::chrono::steady_clock::now();
     PAINTSTRUCT paint{};
     const HDC screen = ::BeginPaint(handle, &paint);
     const bool fresh = fitBackBuffer();
-    if (const std::optional<Rect> ahead = std::exchange(damagedSinceAhead_, std::nullopt)) {
-        const RECT part = toRECT(*ahead);
+    const std::optional<Rect> ahead = std::exchange(damagedSinceAhead_, std::nullopt);
+    if (ahead || !isScattered) {
+        const RECT part = ahead ? toRECT(*ahead) : paint.rcPaint;
         ::SetRectRgn(damage.get(), part.left, part.top, part.right, part.bottom);
     }
     if (screen && backBuffer_ && *backBuffer_ && !isEmpty(window_.lastClientSize_)) {
