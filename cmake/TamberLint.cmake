@@ -1,5 +1,5 @@
 # The linters as tests. Each compile database has its own share: the native one the portable files, the
-# Windows one the files that only Windows builds.
+# Windows one the files that only Windows builds. Whatever the compiler warns of is reported with the rest.
 find_program(TAMBER_RUN_CLANG_TIDY run-clang-tidy REQUIRED)
 find_program(TAMBER_CPPCHECK cppcheck REQUIRED)
 find_program(TAMBER_CLANG_FORMAT clang-format REQUIRED)

@@ -24,10 +24,6 @@ if(TAMBER_SANITIZE)
   target_link_options(tamber_settings INTERFACE -fsanitize=address,undefined)
 endif()
 
-if(TAMBER_FUZZ)
-  target_compile_options(tamber_settings INTERFACE -fsanitize=fuzzer-no-link)
-endif()
-
 if(WIN32)
   # SSE2 only: GCC does not align the stack for AVX on Win64.
   target_compile_definitions(tamber_settings INTERFACE
