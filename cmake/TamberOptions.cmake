@@ -42,5 +42,7 @@ endif()
 
 find_program(TAMBER_CCACHE ccache)
 if(TAMBER_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${TAMBER_CCACHE})
+  # Precompiled headers are part of the key as they are; ccache asks to be told that this is meant.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${TAMBER_CCACHE})
 endif()
