@@ -2,13 +2,8 @@
 
 #include "tests/support/written_json.h"
 
-#include <bit>
 #include <clocale>
-#include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
-#include <random>
 #include <string>
 #include <tuple>
 
@@ -197,26 +192,6 @@ TEST(Json, ConvertsNumbersAsTheCLibraryDoes)
     };
     for (const auto& row : rows)
         EXPECT_EQ(readNumber(row.text), row.value) << narrow(row.text);
-}
-
-// Doubles of every size, written with fewer and with more digits than they have, and the middles between two.
-TEST(Json, ConvertsAnyNumberToTheNearestDouble)
-{
-    std::mt19937_64 random(1);
-    for (int i = 0; i < 2000; ++i) {
-        // The exponent's bits have their share of zeros: the smallest numbers have fewer digits.
-        const double value = std::bit_cast<double>(random() >> (i % 4 == 0 ? 12 : 1));
-        if (!std::isfinite(value))
-            continue;
-        const double next = std::nextafter(value, std::numeric_limits<double>::infinity());
-        const long double middle = value + (static_cast<long double>(next) - value) / 2;
-        char text[1200];
-        for (const int digits : {1 + i % 25, 1100}) {
-            const int size =
-                std::snprintf(text, sizeof text, "%.*Lg", digits, digits < 1100 ? value : middle);
-            EXPECT_EQ(readNumber(std::wstring(text, text + size)), std::strtod(text, nullptr)) << text;
-        }
-    }
 }
 
 TEST(Json, ReadsNumbersAlikeWhereTheDecimalPointIsAComma)
