@@ -391,10 +391,12 @@ std::optional<PlacedText> placePlainText(const TextLines& lines, const Font& fon
 std::optional<PlacedText> placeText(const TextLines& lines, const Font& font, std::int32_t width,
                                     TextAlign align, const TextRuler& ruler)
 {
-    std::optional<PlacedText> text;
-    if (!font.key.underline && isPlainText(lines.text))
-        text = placePlainText(lines, font, width, align, ruler);
-    return text ? text : placeLayout(lines, font, width, align);
+    if (!font.key.underline && isPlainText(lines.text)) {
+        std::optional<PlacedText> text = placePlainText(lines, font, width, align, ruler);
+        if (text)
+            return text;
+    }
+    return placeLayout(lines, font, width, align);
 }
 
 const TextInk& textInk() noexcept { return Engine::instance()->glyphs().ink(); }
