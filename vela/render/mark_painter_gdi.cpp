@@ -3,6 +3,7 @@
 #include "vela/mul_div.h"
 #include "vela/render/dib_gdi.h"
 #include "vela/render/kept_pictures_gdi.h"
+#include "vela/render/kept_surface.h"
 #include "vela/render/material_clock.h"
 #include "vela/render/pixel_layer_gdi.h"
 #include "vela/render/surface_painter.h"
@@ -105,36 +106,11 @@ void paintFace(HDC dc, const Rect& rect, const SurfaceStyle& style)
         stroke(static_cast<float>(style.outlineWidth), style.outline);
 }
 
-// What decides the look of a face, beside the pixels beneath it.
-struct FaceView {
-    const SurfaceStyle& style;
-    Rect rect;
-    Rect area;
-    PerformanceProfile profile;
-};
-
-struct Face {
-    explicit Face(const FaceView& view)
-        : style(view.style), rect(view.rect), area(view.area), profile(view.profile)
-    {
-    }
-    friend bool operator==(const FaceView& view, const Face& kept)
-    {
-        return view.rect == kept.rect && view.area == kept.area && view.profile == kept.profile &&
-               view.style == kept.style;
-    }
-
-    SurfaceStyle style;
-    Rect rect;
-    Rect area;
-    PerformanceProfile profile;
-};
-
 // A button under the pointer is painted again and again in two or three states.
-KeptPictures<Face>& keptFaces()
+KeptPictures<KeptSurface>& keptFaces()
 {
     constexpr std::size_t kMostPixels = 1'000'000; // 4 MB
-    static KeptPictures<Face> pictures(kMostPixels);
+    static KeptPictures<KeptSurface> pictures(kMostPixels);
     return pictures;
 }
 
@@ -181,7 +157,10 @@ void paintBadge(HDC dc, const Rect& rect, const SurfaceStyle& style)
     if (hasMovingLight(style))
         paint();
     else
-        paintKept(dc, area, keptFaces(), FaceView{style, rect, area, materialMoment().profile}, paint);
+        paintKept(dc, area, keptFaces(),
+                  SurfaceView{style, LoadedBitmaps(), rect, area, // no image, no bitmaps
+                              static_cast<std::uint8_t>(materialMoment().profile)},
+                  paint);
 }
 
 void paintControlSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)

@@ -3,6 +3,7 @@
 #include "vela/render/bitmap_geometry.h"
 #include "vela/render/clip_gdi.h"
 #include "vela/render/kept_pictures_gdi.h"
+#include "vela/render/kept_surface.h"
 #include "vela/render/layer_parts.h"
 #include "vela/render/material_gpu_d3d11.h"
 #include "vela/render/material_overlay_gdi.h"
@@ -56,37 +57,10 @@ void paintStep(const Surface& surface, const PaintStep& step)
     }
 }
 
-// What decides the look of some layers of a surface, beside the pixels beneath them.
-struct LayersView {
-    const SurfaceStyle& style;
-    const LoadedBitmaps& bitmaps;
-    Rect rect;
-    Rect area;
-    SurfaceLayer first;
-};
-
-struct KeptLayers {
-    explicit KeptLayers(const LayersView& view)
-        : style(view.style), bitmaps(view.bitmaps), rect(view.rect), area(view.area), first(view.first)
-    {
-    }
-    friend bool operator==(const LayersView& view, const KeptLayers& kept)
-    {
-        return view.rect == kept.rect && view.area == kept.area && view.first == kept.first &&
-               view.bitmaps == kept.bitmaps && view.style == kept.style;
-    }
-
-    SurfaceStyle style;
-    LoadedBitmaps bitmaps;
-    Rect rect;
-    Rect area;
-    SurfaceLayer first;
-};
-
-KeptPictures<KeptLayers>& keptLayers()
+KeptPictures<KeptSurface>& keptLayers()
 {
     constexpr std::size_t kMostPixels = 4'000'000; // 16 MB: some dialogs in several states, or a full screen
-    static KeptPictures<KeptLayers> pictures(kMostPixels);
+    static KeptPictures<KeptSurface> pictures(kMostPixels);
     return pictures;
 }
 
@@ -120,7 +94,9 @@ void paintLayers(const Surface& surface, const PaintStep* first, const PaintStep
     }
     const Rect area = visiblePart(surface.dc, boundsOf(first, last));
     paintKept(surface.dc, area, keptLayers(),
-              LayersView{surface.style, surface.bitmaps, surface.rect, area, first->layer}, paint);
+              SurfaceView{surface.style, surface.bitmaps, surface.rect, area,
+                          static_cast<std::uint8_t>(first->layer)},
+              paint);
 }
 
 void drawLayer(HDC dc, SurfaceLayer layer, const Rect& rect, const SurfaceStyle& style)
