@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <deque>
+#include <optional>
 
 namespace vela {
 
@@ -32,6 +34,47 @@ void drawSmooth(HDC dc, const Rect& rect, Draw&& draw)
     });
 }
 
+// A bitmap to paint on, kept for the next use: to make one takes longer than to paint a button on it.
+class Canvas {
+public:
+    explicit Canvas(Size size)
+    {
+        // A progress bar's fill is cut while it is made of surfaces that are cut.
+        if (used_++ == kept().size())
+            kept().emplace_back();
+        std::optional<DibSurface>& bitmap = kept()[used_ - 1];
+        if (!bitmap || bitmap->size().width < size.width || bitmap->size().height < size.height)
+            bitmap.emplace(bitmap ? Size{std::max(size.width, bitmap->size().width),
+                                         std::max(size.height, bitmap->size().height)}
+                                  : size);
+        bitmap_ = &bitmap;
+    }
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
+    ~Canvas()
+    {
+        const Size size = (*bitmap_)->size();
+        if (!**bitmap_ || std::int64_t{size.width} * size.height > kMostKeptPixels)
+            bitmap_->reset();
+        --used_;
+    }
+
+    // At least as large as asked for, with whatever its last user left in it; empty without memory.
+    const DibSurface& bitmap() const noexcept { return **bitmap_; }
+
+private:
+    static constexpr std::int64_t kMostKeptPixels = 500'000; // 2 MB: any control, not a window
+
+    static std::deque<std::optional<DibSurface>>& kept()
+    {
+        static std::deque<std::optional<DibSurface>> bitmaps;
+        return bitmaps;
+    }
+    static inline std::size_t used_ = 0;
+
+    std::optional<DibSurface>* bitmap_ = nullptr;
+};
+
 // Paints on a copy of what lies under the rectangle and lays back what `cut` leaves of that picture, so that
 // hard-edged layers get a smooth edge.
 template <typename Paint, typename Cut>
@@ -40,13 +83,19 @@ void paintCut(HDC dc, const Rect& rect, Paint&& paint, Cut&& cut)
     const Rect visible = visiblePart(dc, rect);
     if (isEmpty(visible))
         return;
-    const DibSurface copy(sizeOf(visible));
+    const Canvas canvas(sizeOf(visible));
+    const DibSurface& copy = canvas.bitmap();
     if (!copy)
         return;
-    ::BitBlt(copy.dc(), 0, 0, visible.width, visible.height, dc, visible.x, visible.y, SRCCOPY);
     ::SetViewportOrgEx(copy.dc(), -visible.x, -visible.y, nullptr);
+    ::SelectClipRgn(copy.dc(), nullptr);
+    ::IntersectClipRect(copy.dc(), visible.x, visible.y, visible.x + visible.width,
+                        visible.y + visible.height);
+    ::BitBlt(copy.dc(), visible.x, visible.y, visible.width, visible.height, dc, visible.x, visible.y,
+             SRCCOPY);
     paint(copy.dc());
-    const PixelView pixels = copy.pixels();
+    const PixelView all = copy.pixels();
+    const PixelView pixels{all.pixels, sizeOf(visible), all.stride};
     makeOpaque(pixels);
     cut(LayerTarget{pixels, {visible.x - rect.x, visible.y - rect.y}});
     compositePixelBuffer(dc, visible, pixels);
