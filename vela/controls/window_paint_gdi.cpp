@@ -2,6 +2,7 @@
 // size, and from there to the screen.
 #include "vela/controls/window_native_win32.h"
 
+#include "vela/render/kept_pictures_gdi.h"
 #include "vela/render/material_clock.h"
 #include "vela/render/owned_gdi.h"
 
@@ -37,7 +38,9 @@ LRESULT Window::Native::onShowWindow(WPARAM wParam, LPARAM lParam)
     if (wParam && window_.styles_ && backBuffer_ && *backBuffer_) {
         window_.allDamaged_ = false;
         ::SelectClipRgn(backBuffer_->dc(), nullptr);
+        setPicturesKept(false); // none of the first picture is there yet, and looking for it takes time
         paintTree(backBuffer_->dc());
+        setPicturesKept(true);
         damagedSinceAhead_ = Rect{};
     }
     return passOn(WM_SHOWWINDOW, wParam, lParam);

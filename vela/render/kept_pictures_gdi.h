@@ -7,7 +7,8 @@
 
 namespace vela {
 
-// On unless it is switched off, which changes nothing but the time that painting takes: for comparing both.
+// On unless it is switched off, which changes nothing but the time that painting takes: for a picture of
+// which nothing can have been painted before, and for comparing both.
 void setPicturesKept(bool kept) noexcept;
 bool arePicturesKept() noexcept;
 
