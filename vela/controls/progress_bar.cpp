@@ -1,5 +1,6 @@
 #include "vela/controls/progress_bar.h"
 
+#include "vela/render/bitmap_geometry.h"
 #include "vela/render/mark_painter.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
@@ -16,11 +17,6 @@ namespace {
 
 // 96-DPI pixels of its height that a track keeps in a bar too low for the skin's insets.
 constexpr std::int32_t kLeastTrack = 6;
-
-Rect insetBy(const Rect& rect, std::int32_t x, std::int32_t y) noexcept
-{
-    return {rect.x + x, rect.y + y, std::max(rect.width - 2 * x, 0), std::max(rect.height - 2 * y, 0)};
-}
 
 } // namespace
 
@@ -44,7 +40,8 @@ void ProgressBar::paint(HDC dc, Point origin)
     const std::int32_t labelRoom = showsLabel_ ? std::min(style_.labelWidth, all.width) : 0;
     const Rect bar{all.x, all.y, all.width - labelRoom, all.height};
     const std::int32_t mostInset = std::max((bar.height - scaled(kLeastTrack) + 1) / 2, 0);
-    const Rect track = insetBy(bar, style_.insetX, std::min(style_.insetY, mostInset));
+    const std::int32_t inset = std::min(style_.insetY, mostInset);
+    const Rect track = insetBy(bar, {style_.insetX, inset, style_.insetX, inset});
     paintControlSurface(dc, bar, style_.frame);
     paintControlSurface(dc, track, style_.track);
     SurfaceStyle fill = style_.fill;
