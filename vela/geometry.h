@@ -58,6 +58,12 @@ constexpr Rect united(const Rect& a, const Rect& b) noexcept
     return {saturated(left), saturated(top), saturated(right - left), saturated(bottom - top)};
 }
 
+// The same for what has been found so far, which may be nothing: an empty rectangle.
+constexpr Rect around(const Rect& found, const Rect& rect) noexcept
+{
+    return isEmpty(found) ? rect : united(found, rect);
+}
+
 constexpr Rect movedBy(const Rect& rect, Point offset) noexcept
 {
     return {saturated(std::int64_t{rect.x} + offset.x), saturated(std::int64_t{rect.y} + offset.y),

@@ -126,12 +126,13 @@ private:
     LRESULT onPrintClient(HDC dc);
     void paintTree(HDC dc);
     bool fitBackBuffer();
+    void paintAhead();
 
     Window& window_;
     std::optional<DibSurface> backBuffer_;
-    std::optional<Rect> damagedSinceAhead_; // while the back buffer holds a picture painted ahead
-    Rect lastDamage_;                       // empty: none since the last painting
-    bool isDamageScattered_ = false;        // in more places than the last
+    bool isPaintedAhead_ = false; // the back buffer holds the whole picture, but for the damage since
+    Rect damage_;                 // around all since the last painting
+    bool isDamageScattered_ = false;
     OwnedIcon smallIcon_;
     OwnedIcon largeIcon_;
     ClickCounter clicks_;

@@ -19,29 +19,35 @@ bool Window::Native::fitBackBuffer()
     if (fits || isEmpty(size))
         return false;
     backBuffer_.emplace(size);
-    damagedSinceAhead_.reset();
+    isPaintedAhead_ = false;
     return true;
 }
 
 void Window::Native::noteDamage(const Rect& rect) noexcept
 {
-    if (damagedSinceAhead_)
-        damagedSinceAhead_ = isEmpty(*damagedSinceAhead_) ? rect : united(*damagedSinceAhead_, rect);
-    isDamageScattered_ = isDamageScattered_ || (!isEmpty(lastDamage_) && rect != lastDamage_);
-    lastDamage_ = rect;
+    isDamageScattered_ = isDamageScattered_ || (!isEmpty(damage_) && rect != damage_);
+    damage_ = around(damage_, rect);
+}
+
+void Window::Native::paintAhead()
+{
+    if (!backBuffer_ || !*backBuffer_)
+        return;
+    const WithoutKeptPictures first; // looking for them takes time
+    window_.allDamaged_ = false;
+    ::SelectClipRgn(backBuffer_->dc(), nullptr);
+    paintTree(backBuffer_->dc());
+    damage_ = {};
+    isDamageScattered_ = false;
+    isPaintedAhead_ = true;
 }
 
 // A window appears with its picture, which is painted before anything of it can be seen.
 LRESULT Window::Native::onShowWindow(WPARAM wParam, LPARAM lParam)
 {
-    fitBackBuffer();
-    if (wParam && window_.styles_ && backBuffer_ && *backBuffer_) {
-        window_.allDamaged_ = false;
-        ::SelectClipRgn(backBuffer_->dc(), nullptr);
-        setPicturesKept(false); // none of the first picture is there yet, and looking for it takes time
-        paintTree(backBuffer_->dc());
-        setPicturesKept(true);
-        damagedSinceAhead_ = Rect{};
+    if (wParam && window_.styles_) {
+        fitBackBuffer();
+        paintAhead();
     }
     return passOn(WM_SHOWWINDOW, wParam, lParam);
 }
@@ -54,16 +60,16 @@ LRESULT Window::Native::onPaint()
     // place both are the same, and the system need not be asked.
     const OwnedRegion damage(::CreateRectRgn(0, 0, 0, 0));
     const bool isScattered = std::exchange(isDamageScattered_, false);
-    lastDamage_ = {};
+    const RECT known = toRECT(std::exchange(damage_, {}));
     if (isScattered)
         ::GetUpdateRgn(handle, damage.get(), FALSE);
     const auto start = std::chrono::steady_clock::now();
     PAINTSTRUCT paint{};
     const HDC screen = ::BeginPaint(handle, &paint);
     const bool fresh = fitBackBuffer();
-    const std::optional<Rect> ahead = std::exchange(damagedSinceAhead_, std::nullopt);
-    if (ahead || !isScattered) {
-        const RECT part = ahead ? toRECT(*ahead) : paint.rcPaint;
+    const bool isPaintedAhead = std::exchange(isPaintedAhead_, false);
+    if (isPaintedAhead || !isScattered) {
+        const RECT& part = isPaintedAhead ? known : paint.rcPaint;
         ::SetRectRgn(damage.get(), part.left, part.top, part.right, part.bottom);
     }
     if (screen && backBuffer_ && *backBuffer_ && !isEmpty(window_.lastClientSize_)) {

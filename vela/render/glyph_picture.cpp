@@ -5,24 +5,19 @@
 #include <cstddef>
 
 namespace vela {
-namespace {
-
-void widen(Rect& ink, const Rect& box) { ink = isEmpty(ink) ? box : united(ink, box); }
-
-} // namespace
 
 void PlacedText::addGlyph(const GlyphPicture& picture, Point pen)
 {
     if (isEmpty(picture.box))
         return;
     glyphs.push_back({&picture, pen});
-    widen(ink, movedBy(picture.box, pen));
+    ink = around(ink, movedBy(picture.box, pen));
 }
 
 void PlacedText::addLine(const Rect& line)
 {
     lines.push_back(line);
-    widen(ink, line);
+    ink = around(ink, line);
 }
 
 TextInk::TextInk(float gamma)

@@ -7,10 +7,21 @@
 
 namespace vela {
 
-// On unless it is switched off, which changes nothing but the time that painting takes: for a picture of
-// which nothing can have been painted before, and for comparing both.
+// On unless it is switched off, which changes nothing but the time that painting takes: for comparing both.
 void setPicturesKept(bool kept) noexcept;
 bool arePicturesKept() noexcept;
+
+// Off while one lives: for what cannot have been painted before, or is kept as part of something larger.
+class WithoutKeptPictures {
+public:
+    WithoutKeptPictures() noexcept { setPicturesKept(false); }
+    WithoutKeptPictures(const WithoutKeptPictures&) = delete;
+    WithoutKeptPictures& operator=(const WithoutKeptPictures&) = delete;
+    ~WithoutKeptPictures() { setPicturesKept(before_); }
+
+private:
+    bool before_ = arePicturesKept();
+};
 
 // Brings the area, which the clip shows, to what paint() makes of it: from the kept picture, or by paint(),
 // which answers whether it painted. False when it did not.

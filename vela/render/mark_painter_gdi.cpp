@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <cmath>
 #include <deque>
-#include <optional>
 
 namespace vela {
 
@@ -34,45 +33,34 @@ void drawSmooth(HDC dc, const Rect& rect, Draw&& draw)
     });
 }
 
-// A bitmap to paint on, kept for the next use: to make one takes longer than to paint a button on it.
+// A bitmap to paint on for as long as this lives: to make one takes longer than to paint a button on it.
 class Canvas {
 public:
-    explicit Canvas(Size size)
-    {
-        // A progress bar's fill is cut while it is made of surfaces that are cut.
-        if (used_++ == kept().size())
-            kept().emplace_back();
-        std::optional<DibSurface>& bitmap = kept()[used_ - 1];
-        if (!bitmap || bitmap->size().width < size.width || bitmap->size().height < size.height)
-            bitmap.emplace(bitmap ? Size{std::max(size.width, bitmap->size().width),
-                                         std::max(size.height, bitmap->size().height)}
-                                  : size);
-        bitmap_ = &bitmap;
-    }
+    explicit Canvas(Size size) : bitmap_(nextFree()), surface_(bitmap_.ensure(size)) {}
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
     ~Canvas()
     {
-        const Size size = (*bitmap_)->size();
-        if (!**bitmap_ || std::int64_t{size.width} * size.height > kMostKeptPixels)
-            bitmap_->reset();
+        bitmap_.release();
         --used_;
     }
 
-    // At least as large as asked for, with whatever its last user left in it; empty without memory.
-    const DibSurface& bitmap() const noexcept { return **bitmap_; }
+    const DibSurface* surface() const noexcept { return surface_; } // null without memory
 
 private:
-    static constexpr std::int64_t kMostKeptPixels = 500'000; // 2 MB: any control, not a window
-
-    static std::deque<std::optional<DibSurface>>& kept()
+    // A progress bar's fill is cut while it is made of surfaces that are cut.
+    static ScratchBitmap& nextFree()
     {
-        static std::deque<std::optional<DibSurface>> bitmaps;
-        return bitmaps;
+        constexpr std::int64_t kMostKeptPixels = 500'000; // 2 MB: any control, not a window
+        static std::deque<ScratchBitmap> bitmaps;
+        if (used_ == bitmaps.size())
+            bitmaps.emplace_back(kMostKeptPixels);
+        return bitmaps[used_++];
     }
     static inline std::size_t used_ = 0;
 
-    std::optional<DibSurface>* bitmap_ = nullptr;
+    ScratchBitmap& bitmap_;
+    const DibSurface* surface_;
 };
 
 // Paints on a copy of what lies under the rectangle and lays back what `cut` leaves of that picture, so that
@@ -84,9 +72,9 @@ void paintCut(HDC dc, const Rect& rect, Paint&& paint, Cut&& cut)
     if (isEmpty(visible))
         return;
     const Canvas canvas(sizeOf(visible));
-    const DibSurface& copy = canvas.bitmap();
-    if (!copy)
+    if (!canvas.surface())
         return;
+    const DibSurface& copy = *canvas.surface();
     ::SetViewportOrgEx(copy.dc(), -visible.x, -visible.y, nullptr);
     ::SelectClipRgn(copy.dc(), nullptr);
     ::IntersectClipRect(copy.dc(), visible.x, visible.y, visible.x + visible.width,
@@ -199,17 +187,17 @@ void paintBadge(HDC dc, const Rect& rect, const SurfaceStyle& style)
     const Rect area = visiblePart(dc, rect);
     if (isEmpty(area))
         return;
+    if (hasMovingLight(style))
+        return paintFace(dc, rect, style);
     const auto paint = [&] {
+        const WithoutKeptPictures whole; // its layers need not be kept as well
         paintFace(dc, rect, style);
         return true;
     };
-    if (hasMovingLight(style))
-        paint();
-    else
-        paintKept(dc, area, keptFaces(),
-                  SurfaceView{style, LoadedBitmaps(), rect, area, // no image, no bitmaps
-                              static_cast<std::uint8_t>(materialMoment().profile)},
-                  paint);
+    paintKept(dc, area, keptFaces(),
+              SurfaceView{style, LoadedBitmaps(), rect, area, // no image, no bitmaps
+                          static_cast<std::uint8_t>(materialMoment().profile)},
+              paint);
 }
 
 void paintControlSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)

@@ -5,54 +5,27 @@
 
 #include <algorithm>
 #include <limits>
-#include <optional>
 
 namespace vela {
 namespace {
 
-// Bitmaps up to a full screen are kept; larger ones go as soon as their layer is composited.
-constexpr std::int64_t kMostKeptPixels = 2560 * 1600;
-
-// Widths in steps, so that a window being resized does not need a new bitmap for every pixel.
-constexpr std::int32_t kSizeStep = 64;
-
-constexpr std::int64_t areaOf(Size size) noexcept { return std::int64_t{size.width} * size.height; }
-
-std::optional<DibSurface>& scratch()
+ScratchBitmap& scratch()
 {
-    static std::optional<DibSurface> bitmap;
+    constexpr std::int64_t kMostKeptPixels = 2560 * 1600; // a full screen
+    static ScratchBitmap bitmap(kMostKeptPixels);
     return bitmap;
-}
-
-constexpr std::int32_t steppedUp(std::int32_t length) noexcept
-{
-    return (length + kSizeStep - 1) / kSizeStep * kSizeStep;
-}
-
-// Large enough for this layer and, within the bound, for those before it.
-Size scratchSizeFor(Size wanted)
-{
-    const Size stepped{steppedUp(wanted.width), steppedUp(wanted.height)};
-    if (!scratch())
-        return stepped;
-    const Size both{std::max(stepped.width, scratch()->size().width),
-                    std::max(stepped.height, scratch()->size().height)};
-    return areaOf(both) <= kMostKeptPixels ? both : stepped;
 }
 
 } // namespace
 
 PixelView scratchPixels(Size size)
 {
-    if (isEmpty(size) || areaOf(size) > std::numeric_limits<std::int32_t>::max() / 8)
+    constexpr std::int64_t kMostPixels = std::numeric_limits<std::int32_t>::max() / 8;
+    if (isEmpty(size) || std::int64_t{size.width} * size.height > kMostPixels)
         return {};
-    std::optional<DibSurface>& bitmap = scratch();
-    if (!bitmap || bitmap->size().width < size.width || bitmap->size().height < size.height)
-        bitmap.emplace(scratchSizeFor(size));
-    if (!*bitmap) {
-        bitmap.reset();
+    const DibSurface* const bitmap = scratch().ensure(size);
+    if (!bitmap)
         return {};
-    }
     const PixelView all = bitmap->pixels();
     return {all.pixels, size, all.stride};
 }
@@ -61,17 +34,16 @@ void compositeScratch(HDC dc, const Rect& rect)
 {
     // msimg32's AlphaBlend by the name under which gdi32 exports it.
     constexpr BLENDFUNCTION kSourceOver{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-    ::GdiAlphaBlend(dc, rect.x, rect.y, rect.width, rect.height, scratch()->dc(), 0, 0, rect.width,
+    ::GdiAlphaBlend(dc, rect.x, rect.y, rect.width, rect.height, scratch().surface().dc(), 0, 0, rect.width,
                     rect.height, kSourceOver);
-    if (areaOf(scratch()->size()) > kMostKeptPixels)
-        scratch().reset();
+    scratch().release();
 }
 
 PixelView readPixels(HDC dc, const Rect& rect)
 {
     PixelView pixels = scratchPixels(sizeOf(rect));
     if (!pixels.pixels ||
-        !::BitBlt(scratch()->dc(), 0, 0, rect.width, rect.height, dc, rect.x, rect.y, SRCCOPY))
+        !::BitBlt(scratch().surface().dc(), 0, 0, rect.width, rect.height, dc, rect.x, rect.y, SRCCOPY))
         return {};
     ::GdiFlush();
     return pixels;
@@ -79,7 +51,7 @@ PixelView readPixels(HDC dc, const Rect& rect)
 
 void writeScratch(HDC dc, const Rect& rect)
 {
-    ::BitBlt(dc, rect.x, rect.y, rect.width, rect.height, scratch()->dc(), 0, 0, SRCCOPY);
+    ::BitBlt(dc, rect.x, rect.y, rect.width, rect.height, scratch().surface().dc(), 0, 0, SRCCOPY);
 }
 
 void writePixels(HDC dc, const Rect& rect, const PixelView& pixels)
