@@ -6,6 +6,7 @@
 #include "vela/platform_handles.h"
 #include "vela/render/bitmap_geometry.h"
 #include "vela/render/pixel_buffer.h"
+#include "vela/render/surface_shape.h"
 #include "vela/theme/surface_style.h"
 
 namespace vela {
@@ -25,21 +26,12 @@ void drawNoise(HDC dc, const Rect& rect, const SurfaceStyle& style);
 void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style,
                                         PerformanceProfile profile);
 
-// Fill and stroke cover exactly pixels of the shape's mask. The stroke lies inside the rectangle, the pen's
-// width deep.
-void fillShape(HDC dc, const Rect& rect, ShapeKind kind, Color color);
-void strokeShapeOutline(HDC dc, const Rect& rect, ShapeKind kind, Color color, std::int32_t penWidth);
-
 // Whether the pointer is on what is painted: by the surface's bitmap where the style says so, else by the
 // shape that a control names for its hits.
 bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point);
 
 // The part of the surface that its bitmap leaves for its text, or for another part of what stands on it.
 Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi);
-
-// The region that gives a window of that size the style's shape, from (0, 0); null for a plain rectangle. The
-// caller owns it.
-HRGN createShapeRegion(const SurfaceStyle& style, Size size);
 
 // The one place where software pixels reach the screen: premultiplied pixels of the rectangle's size, source
 // over what is there.

@@ -1,9 +1,10 @@
+#include "vela/render/surface_shape.h"
+
 #include "vela/render/owned_gdi.h"
 #include "vela/render/shape.h"
 #include "vela/render/shape_rects.h"
 #include "vela/render/surface_bitmaps.h"
 #include "vela/render/surface_outline.h"
-#include "vela/render/surface_painter.h"
 
 #include <cstring>
 #include <vector>
