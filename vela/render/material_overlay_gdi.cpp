@@ -1,5 +1,6 @@
 #include "vela/render/material_overlay_gdi.h"
 
+#include "vela/render/clip_gdi.h"
 #include "vela/render/coverage.h"
 #include "vela/render/material_clock.h"
 #include "vela/render/material_light.h"
@@ -7,7 +8,6 @@
 #include "vela/render/pixel_layer_gdi.h"
 #include "vela/render/surface_bitmaps.h"
 #include "vela/render/surface_outline.h"
-#include "vela/render/surface_painter.h"
 
 #include <algorithm>
 

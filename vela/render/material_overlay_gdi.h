@@ -16,6 +16,11 @@ MaterialOverlayCache& materialOverlays();
 // The overlay in software, rendered only when it is not kept.
 void drawSoftwareMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style);
 
+// The material overlay in software, with its texture laid across the window whatever the style says, so that
+// neighbouring surfaces show parts of one.
+void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style,
+                                        PerformanceProfile profile);
+
 // The surface's constants at this moment: the light where it is now, the machine as busy as it may be.
 MaterialConstants currentMaterialConstants(const SurfaceStyle& style, const Rect& rect);
 

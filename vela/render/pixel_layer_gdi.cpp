@@ -1,7 +1,6 @@
 #include "vela/render/pixel_layer_gdi.h"
 
 #include "vela/render/dib_gdi.h"
-#include "vela/render/surface_painter.h"
 
 #include <algorithm>
 #include <limits>

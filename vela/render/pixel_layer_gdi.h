@@ -22,6 +22,10 @@ void writeScratch(HDC dc, const Rect& rect);
 // The same with other pixels of the rectangle's size.
 void writePixels(HDC dc, const Rect& rect, const PixelView& pixels);
 
+// The one place where software pixels reach the screen: premultiplied pixels of the rectangle's size, source
+// over what is there.
+void compositePixelBuffer(HDC dc, const Rect& rect, const PixelView& pixels);
+
 // Lets `fill` write the visible pixels of a part of a layer, as a LayerTarget, and composites them. The layer
 // covers the rectangle; the part is in the layer's own coordinates. What the clip hides is not generated.
 template <typename Fill>

@@ -5,7 +5,6 @@
 #include "vela/geometry.h"
 #include "vela/platform_handles.h"
 #include "vela/render/bitmap_geometry.h"
-#include "vela/render/pixel_buffer.h"
 #include "vela/render/surface_shape.h"
 #include "vela/theme/surface_style.h"
 
@@ -21,20 +20,11 @@ void drawSpatialSurfaceShading(HDC dc, const Rect& rect, const SurfaceStyle& sty
 void drawInnerShadow(HDC dc, const Rect& rect, const SurfaceStyle& style);
 void drawNoise(HDC dc, const Rect& rect, const SurfaceStyle& style);
 
-// The material overlay in software, with its texture laid across the window whatever the style says, so that
-// neighbouring surfaces show parts of one.
-void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style,
-                                        PerformanceProfile profile);
-
 // Whether the pointer is on what is painted: by the surface's bitmap where the style says so, else by the
 // shape that a control names for its hits.
 bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point);
 
 // The part of the surface that its bitmap leaves for its text, or for another part of what stands on it.
 Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi);
-
-// The one place where software pixels reach the screen: premultiplied pixels of the rectangle's size, source
-// over what is there.
-void compositePixelBuffer(HDC dc, const Rect& rect, const PixelView& pixels);
 
 } // namespace vela
