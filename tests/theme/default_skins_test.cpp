@@ -4,7 +4,6 @@
 #include "tests/support/written_json.h"
 #include "tests/theme/skin_text.h"
 #include "tests/theme/surface_walk.h"
-#include "vela/render/material_constants.h"
 #include "vela/theme/contrast.h"
 #include "vela/theme/contrast_checks.h"
 #include "vela/theme/json.h"

@@ -1,7 +1,5 @@
 #include "vela/render/material_clock.h"
 
-#include "vela/render/material_constants.h"
-
 namespace vela {
 namespace {
 

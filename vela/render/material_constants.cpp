@@ -35,11 +35,6 @@ constexpr float foldedOffset(std::int32_t offset, std::int32_t tile) noexcept
 
 } // namespace
 
-bool carriesMaterial(const SurfaceStyle& style) noexcept
-{
-    return style.materialEnabled && style.material != MaterialPreset::None && style.materialStrength > 0;
-}
-
 MaterialConstants materialConstants(const SurfaceStyle& style, const Rect& rect, float animationPhase,
                                     PerformanceProfile profile) noexcept
 {

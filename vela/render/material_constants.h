@@ -39,9 +39,6 @@ static_assert(offsetof(MaterialConstants, backlight) == 16 && offsetof(MaterialC
               offsetof(MaterialConstants, material0) == 48 && offsetof(MaterialConstants, material4) == 112 &&
               offsetof(MaterialConstants, material7) == 160);
 
-// Whether the surface shows a material at all. Where it does not, nothing is computed or kept for it.
-bool carriesMaterial(const SurfaceStyle& style) noexcept;
-
 // The rectangle is the surface's place in its window. The phase is that of the luminous glass: 0 when its
 // light rests, otherwise turns of the light, above 0. What the look does not depend on is 0, so that surfaces
 // that look the same have equal constants.

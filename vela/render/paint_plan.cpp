@@ -5,7 +5,6 @@
 #include "vela/render/gradient.h"
 #include "vela/render/inner_shadow.h"
 #include "vela/render/lengths.h"
-#include "vela/render/material_constants.h"
 #include "vela/render/noise.h"
 #include "vela/render/solid_layer.h"
 #include "vela/render/spatial_shading.h"

@@ -11,4 +11,9 @@ SurfaceStyle::~SurfaceStyle() = default;
 
 bool operator==(const SurfaceStyle& left, const SurfaceStyle& right) = default;
 
+bool carriesMaterial(const SurfaceStyle& style) noexcept
+{
+    return style.materialEnabled && style.material != MaterialPreset::None && style.materialStrength > 0;
+}
+
 } // namespace vela

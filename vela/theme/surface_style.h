@@ -177,4 +177,7 @@ struct SurfaceStyle : MaterialShading, SurfaceMapping {
     friend bool operator==(const SurfaceStyle& left, const SurfaceStyle& right);
 };
 
+// Whether the surface shows a material at all. Where it does not, nothing is computed or kept for it.
+bool carriesMaterial(const SurfaceStyle& style) noexcept;
+
 } // namespace vela
