@@ -1,6 +1,5 @@
 #include "vela/controls/diagnostics.h"
 
-#include "vela/controls/control.h"
 #include "vela/text.h"
 
 namespace vela {
@@ -33,18 +32,6 @@ std::wstring toText(Anchors anchors)
             result.append(result.empty() ? L"" : L"|").append(name);
     }
     return result.empty() ? L"None" : result;
-}
-
-std::wstring inflationDiagnostic(const Control& panel, const Control& child, Size hint, Size before,
-                                 Size after)
-{
-    const bool wider = after.width > before.width;
-    const bool higher = after.height > before.height;
-    const wchar_t* const inflates = wider && higher ? L"width,height" : wider ? L"width" : L"height";
-    return L"[Vela diagnostic] Panel::minimumContentSizeHint panel=" + panel.id() + L" child=" + child.id() +
-           L" visible=" + (child.isVisible() ? L"true" : L"false") + L" bounds=" + toText(child.bounds()) +
-           L" anchors=" + toText(child.anchors()) + L" minimumParentSizeHint=" + toText(hint) +
-           L" inflates=" + inflates + L" before=" + toText(before) + L" after=" + toText(after);
 }
 
 } // namespace vela

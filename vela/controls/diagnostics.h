@@ -1,4 +1,5 @@
-// The lines that a window with diagnostics writes to the debugger. Formats are fixed: tools read them.
+// Values as the lines write them that a window with diagnostics sends to the debugger. Formats are fixed: tools
+// read them.
 #pragma once
 
 #include "vela/controls/layout.h"
@@ -8,15 +9,9 @@
 
 namespace vela {
 
-class Control;
-
 std::wstring toText(Point point);      // {x=1,y=2}
 std::wstring toText(Size size);        // 3x4
 std::wstring toText(const Rect& rect); // {x=1,y=2,w=3,h=4}
 std::wstring toText(Anchors anchors);  // Left|Top, None
-
-// A child that raised the minimum content size of its panel.
-std::wstring inflationDiagnostic(const Control& panel, const Control& child, Size hint, Size before,
-                                 Size after);
 
 } // namespace vela

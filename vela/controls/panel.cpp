@@ -6,6 +6,22 @@
 #include <utility>
 
 namespace vela {
+namespace {
+
+// A child that raised the minimum content size of its panel.
+std::wstring inflationDiagnostic(const Control& panel, const Control& child, Size hint, Size before,
+                                 Size after)
+{
+    const bool wider = after.width > before.width;
+    const bool higher = after.height > before.height;
+    const wchar_t* const inflates = wider && higher ? L"width,height" : wider ? L"width" : L"height";
+    return L"[Vela diagnostic] Panel::minimumContentSizeHint panel=" + panel.id() + L" child=" + child.id() +
+           L" visible=" + (child.isVisible() ? L"true" : L"false") + L" bounds=" + toText(child.bounds()) +
+           L" anchors=" + toText(child.anchors()) + L" minimumParentSizeHint=" + toText(hint) +
+           L" inflates=" + inflates + L" before=" + toText(before) + L" after=" + toText(after);
+}
+
+} // namespace
 
 Panel::~Panel()
 {
