@@ -1,6 +1,6 @@
 #include "vela/controls/tooltip_window_win32.h"
 
-#include "vela/controls/window_native_win32.h"
+#include "vela/controls/window_win32.h"
 
 namespace vela {
 

@@ -1,6 +1,6 @@
 // What a window tells the desktop around it: why the session must not end yet, how far its work is, and that
 // it wants to be looked at.
-#include "vela/controls/window_native_win32.h"
+#include "vela/controls/window_win32.h"
 
 #include "vela/controls/taskbar_list_win32.h"
 

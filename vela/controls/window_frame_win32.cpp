@@ -1,6 +1,6 @@
 // A window's frame: where it opens, how large it may be, which part of it the pointer is on, and what the
 // desktop's compositor draws around it.
-#include "vela/controls/window_native_win32.h"
+#include "vela/controls/window_win32.h"
 
 #include "vela/library_win32.h"
 #include "vela/render/surface_painter.h"

@@ -1,5 +1,5 @@
 // A window's input: Windows' messages become events of the control tree.
-#include "vela/controls/window_native_win32.h"
+#include "vela/controls/window_win32.h"
 
 #include "vela/library_win32.h"
 

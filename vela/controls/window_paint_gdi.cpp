@@ -1,6 +1,6 @@
 // Painting of a window: the damaged part of the tree into a buffer that lives as long as the window keeps its
 // size, and from there to the screen.
-#include "vela/controls/window_native_win32.h"
+#include "vela/controls/window_win32.h"
 
 #include "vela/render/kept_pictures_gdi.h"
 #include "vela/render/material_clock.h"

@@ -1,5 +1,5 @@
 // The messages of a window's life: from its creation to its end, and what the system tells it meanwhile.
-#include "vela/controls/window_native_win32.h"
+#include "vela/controls/window_win32.h"
 
 #include "vela/controls/taskbar_list_win32.h"
 #include "vela/controls/tooltip_window_win32.h"

@@ -1,5 +1,5 @@
 // The scale of a window: the DPI of the monitor that shows it, or less where the window would not fit there.
-#include "vela/controls/window_native_win32.h"
+#include "vela/controls/window_win32.h"
 
 #include "vela/controls/layout.h"
 #include "vela/mul_div.h"

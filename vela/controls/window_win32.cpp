@@ -1,4 +1,4 @@
-#include "vela/controls/window_native_win32.h"
+#include "vela/controls/window_win32.h"
 
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
