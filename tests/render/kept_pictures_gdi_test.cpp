@@ -3,7 +3,7 @@
 #include "vela/render/kept_pictures_gdi.h"
 
 #include "tests/support/canvas_gdi.h"
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 

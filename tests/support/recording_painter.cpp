@@ -1,7 +1,7 @@
 #ifndef _WIN32 // the product's own renderer is linked there
 #include "tests/support/recording_painter.h"
 
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 #include "vela/render/paint_clip.h"
 #include "vela/render/program_icon.h"
 #include "vela/render/shape.h"

@@ -6,7 +6,7 @@
 #include "tools/dialog_stage/dialog_stage_win32.h"
 
 #include "vela/mul_div.h"
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 #include "vela/theme/json.h"
 #include "vela/theme/style_sections.h"
 #include "vela/theme/utf8.h"

@@ -1,7 +1,7 @@
 #include "tools/dialog_check/paint_witness_gdi.h"
 
 #include "vela/render/clip_gdi.h"
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 #include "vela/render/text.h"
 
 #include <utility>

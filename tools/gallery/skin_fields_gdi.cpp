@@ -1,7 +1,7 @@
 // Text inputs, select boxes, scroll bars, tabs, list boxes, tables, menus and calendars.
 #include "tools/gallery/skin_parts_gdi.h"
 
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 #include "vela/render/surface_painter.h"
 
 #include <string>

@@ -2,7 +2,7 @@
 #include "tools/gallery/gallery_gdi.h"
 #include "tools/gallery/skin_parts_gdi.h"
 
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 #include "vela/theme/style_sections.h"
 
 #include <algorithm>

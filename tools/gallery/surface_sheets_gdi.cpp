@@ -1,6 +1,6 @@
 // Sheets of surfaces without any control: shapes, gradients, layers, glyphs.
 #include "tools/gallery/gallery_gdi.h"
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 #include "vela/render/surface_painter.h"
 #include "vela/theme/derive_style_sheet.h"
 #include "vela/theme/palette.h"

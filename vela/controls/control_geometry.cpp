@@ -2,7 +2,7 @@
 #include "vela/controls/control.h"
 #include "vela/controls/panel.h"
 #include "vela/mul_div.h"
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 
 #include <algorithm>
 

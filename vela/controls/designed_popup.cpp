@@ -2,7 +2,7 @@
 
 #include "vela/controls/text_services.h"
 #include "vela/mul_div.h"
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 #include "vela/text.h"

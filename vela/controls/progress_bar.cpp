@@ -1,7 +1,7 @@
 #include "vela/controls/progress_bar.h"
 
 #include "vela/render/bitmap_geometry.h"
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 #include "vela/text.h"

@@ -1,7 +1,7 @@
 // What a text field looks like.
 #include "vela/controls/text_input.h"
 
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 #include "vela/render/paint_clip.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"

@@ -1,6 +1,6 @@
 #include "vela/controls/themed_button.h"
 
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 #include "vela/render/surface_painter.h"
 #include "vela/render/text.h"
 #include "vela/theme/record_scale.h"

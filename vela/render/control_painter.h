@@ -1,5 +1,6 @@
-// Small smooth things drawn straight onto a device context: marks, rings around the focus, the fill of a
-// progress bar. Device pixels; the pixels themselves are made in smooth.h.
+// What controls paint beside text, straight onto a device context: their surfaces with smooth edges, icons,
+// rings around the focus, the fill of a progress bar. Device pixels; the smooth pixels themselves are made in
+// smooth.h.
 #pragma once
 
 #include "vela/geometry.h"

@@ -1,4 +1,4 @@
-#include "vela/render/mark_painter.h"
+#include "vela/render/control_painter.h"
 
 #include "vela/mul_div.h"
 #include "vela/render/dib_gdi.h"
