@@ -6,7 +6,7 @@
 #include "app/setup_effects_win32.h"
 #include "app/worker_thread_win32.h"
 
-#include "vela/render/text.h"
+#include "vela/render/text/text.h"
 
 namespace setup {
 namespace {

@@ -1,7 +1,7 @@
 // The least a program with a window could be: a frameless window in the middle of the work area that fills
 // its client area with one colour. What a window of the toolkit needs beyond this is its own. Usage:
 // bare_window WIDTH HEIGHT
-#include "vela/controls/window_geometry.h"
+#include "vela/controls/window/window_geometry.h"
 
 #include <cwchar>
 

@@ -6,9 +6,9 @@
 // Usage: dialog_speed SKIN_FOLDER [SKIN...], without skins all of the folder's.
 #include "app/dialogs/choice_dialog.h"
 
-#include "vela/render/kept_pictures_gdi.h"
-#include "vela/theme/skin_host_win32.h"
-#include "vela/theme/style_sections.h"
+#include "vela/render/gdi/kept_pictures_gdi.h"
+#include "vela/theme/skins/skin_host_win32.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <algorithm>
 #include <chrono>

@@ -3,7 +3,7 @@
 // finished picture and the window's width and height. The script beside this file turns them into medians.
 // Usage: first_paint ROUNDS COMMAND...     a command is one argument, quoted as a whole
 #include "vela/owned_win32.h"
-#include "vela/render/dib_gdi.h"
+#include "vela/render/gdi/dib_gdi.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,8 +1,8 @@
 // The JSON reader against two well-known ones on the same bytes: all start from UTF-8 and end with a tree,
 // which is destroyed within the measured time. Those that say "Text" start from wide text instead.
 #include "bench/default_document.h"
-#include "vela/theme/json.h"
-#include "vela/theme/utf8.h"
+#include "vela/theme/document/json.h"
+#include "vela/theme/document/utf8.h"
 
 #include <string>
 

@@ -1,12 +1,12 @@
 // The pixel layers in megapixels a second (items), beside memset of the same bytes and beside two well-known
 // rasterisers doing the nearest thing they can: cairo on a rounded rectangle without smoothing, pixman on the
 // whole rectangle. One thread; the names end in the surface's size.
-#include "vela/render/gradient.h"
-#include "vela/render/inner_shadow.h"
-#include "vela/render/noise.h"
-#include "vela/render/shape.h"
-#include "vela/render/solid_layer.h"
-#include "vela/render/spatial_shading.h"
+#include "vela/render/layers/gradient.h"
+#include "vela/render/layers/inner_shadow.h"
+#include "vela/render/layers/noise.h"
+#include "vela/render/layers/solid_layer.h"
+#include "vela/render/layers/spatial_shading.h"
+#include "vela/render/shapes/shape.h"
 
 #include <cmath>
 #include <cstring>

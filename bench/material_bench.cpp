@@ -2,7 +2,7 @@
 // for every finish on gloss, beside a plain scalar translation of the same shader. One thread.
 #include "bench/material_surfaces.h"
 #include "tests/support/material_reference.h"
-#include "vela/render/material_overlay.h"
+#include "vela/render/materials/material_overlay.h"
 
 #include <string>
 #include <vector>

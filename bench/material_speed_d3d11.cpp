@@ -4,8 +4,8 @@
 // this processor:
 //   taskset -c 0 scripts/wine-gpu build/windows/bench/material_speed.exe
 #include "bench/material_surfaces.h"
-#include "vela/render/material_gpu_d3d11.h"
-#include "vela/render/material_overlay.h"
+#include "vela/render/materials/material_gpu_d3d11.h"
+#include "vela/render/materials/material_overlay.h"
 
 #include <algorithm>
 #include <chrono>

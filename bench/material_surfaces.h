@@ -1,7 +1,7 @@
 // The surfaces on which material overlays are timed.
 #pragma once
 
-#include "vela/render/material_constants.h"
+#include "vela/render/materials/material_constants.h"
 
 namespace bench {
 

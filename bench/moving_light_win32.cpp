@@ -3,9 +3,9 @@
 // Usage: moving_light SKIN_FOLDER SKIN [SECONDS]
 #include "app/dialogs/choice_dialog.h"
 
-#include "vela/render/material_overlay_gdi.h"
-#include "vela/theme/skin_host_win32.h"
-#include "vela/theme/style_sections.h"
+#include "vela/render/materials/material_overlay_gdi.h"
+#include "vela/theme/skins/skin_host_win32.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 // What the user waits for before the first window: from the bytes of the default document to the wanted skin
 // and its style sheet, all seventeen skins read on the way.
 #include "bench/default_document.h"
-#include "vela/theme/skin_catalog.h"
-#include "vela/theme/style_sections.h"
+#include "vela/theme/skins/skin_catalog.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <string>
 #include <vector>

@@ -1,8 +1,8 @@
 // Any bytes, decoded and read as JSON: what is refused is refused with a place in the text; what is read is
 // well-formed, points back into the text and survives being written and read again.
 #include "tests/support/written_json.h"
-#include "vela/theme/json.h"
-#include "vela/theme/utf8.h"
+#include "vela/theme/document/json.h"
+#include "vela/theme/document/utf8.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,9 +1,9 @@
 // Any bytes, read as a skin document as the catalogue does, up to the style sheet of its first skin: nothing
 // in a skin makes a reader fail or leads to a value outside its field's range.
-#include "vela/theme/json.h"
-#include "vela/theme/skin_document.h"
-#include "vela/theme/style_sections.h"
-#include "vela/theme/utf8.h"
+#include "vela/theme/document/json.h"
+#include "vela/theme/document/utf8.h"
+#include "vela/theme/skins/skin_document.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Any sequence of edits and moves in a text field: caret and anchor always stand where a caret may stand, a
 // refused edit changes nothing, and undoing and redoing everything leads to the text of the beginning and
 // back.
-#include "vela/controls/text_edit_model.h"
+#include "vela/controls/widgets/text_edit_model.h"
 #include "vela/text_clusters.h"
 
 #include <cstddef>

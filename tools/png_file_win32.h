@@ -1,7 +1,7 @@
 // Pictures on disk, written and read with the Windows Imaging Component. COM must be initialised.
 #pragma once
 
-#include "vela/render/pixel_buffer.h"
+#include "vela/render/pixels/pixel_buffer.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "tools/window_camera_win32.h"
 
-#include "vela/theme/record_scale.h"
+#include "vela/theme/fields/record_scale.h"
 
 #include <windows.h>
 

@@ -1,8 +1,8 @@
 // A window at any DPI and its picture, without a monitor of that DPI and larger than any screen.
 #pragma once
 
-#include "vela/controls/window.h"
-#include "vela/render/dib_gdi.h"
+#include "vela/controls/window/window.h"
+#include "vela/render/gdi/dib_gdi.h"
 
 #include <memory>
 

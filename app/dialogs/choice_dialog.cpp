@@ -2,7 +2,7 @@
 
 #include "app/folder_picker.h"
 
-#include "vela/controls/label.h"
+#include "vela/controls/widgets/label.h"
 
 #include <span>
 

@@ -4,8 +4,8 @@
 #include "app/dialogs/setup_dialog.h"
 #include "app/interactive_flow.h"
 
-#include "vela/controls/check_box.h"
-#include "vela/controls/text_input.h"
+#include "vela/controls/widgets/check_box.h"
+#include "vela/controls/widgets/text_input.h"
 
 #include <functional>
 #include <optional>

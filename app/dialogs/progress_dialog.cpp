@@ -1,6 +1,6 @@
 #include "app/dialogs/progress_dialog.h"
 
-#include "vela/controls/label.h"
+#include "vela/controls/widgets/label.h"
 
 namespace setup {
 

@@ -3,7 +3,7 @@
 
 #include "app/dialogs/setup_dialog.h"
 
-#include "vela/controls/progress_bar.h"
+#include "vela/controls/widgets/progress_bar.h"
 
 namespace setup {
 

@@ -4,10 +4,10 @@
 // state. Bounds are 96-DPI pixels of the whole client area.
 #pragma once
 
-#include "vela/controls/chrome_title_bar.h"
-#include "vela/controls/designed_popup.h"
-#include "vela/controls/dialog_window.h"
-#include "vela/controls/window_edge.h"
+#include "vela/controls/widgets/chrome_title_bar.h"
+#include "vela/controls/widgets/designed_popup.h"
+#include "vela/controls/window/dialog_window.h"
+#include "vela/controls/window/window_edge.h"
 
 #include <string_view>
 

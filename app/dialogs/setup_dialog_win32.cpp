@@ -2,8 +2,8 @@
 
 #include "app/window_title.h"
 
-#include "vela/controls/window_geometry.h"
-#include "vela/theme/style_sheet.h"
+#include "vela/controls/window/window_geometry.h"
+#include "vela/theme/records/style_sheet.h"
 
 #include <optional>
 

@@ -3,7 +3,7 @@
 
 #include "app/setup_effects.h"
 
-#include "vela/controls/window.h"
+#include "vela/controls/window/window.h"
 
 namespace setup {
 

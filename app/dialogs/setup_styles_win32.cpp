@@ -3,9 +3,9 @@
 #include "app/paths.h"
 #include "app/setup_skins.h"
 
-#include "vela/render/fonts.h"
-#include "vela/render/surface_bitmaps.h"
-#include "vela/theme/skin_host_win32.h"
+#include "vela/render/bitmaps/surface_bitmaps.h"
+#include "vela/render/text/fonts.h"
+#include "vela/theme/skins/skin_host_win32.h"
 
 namespace setup {
 namespace {

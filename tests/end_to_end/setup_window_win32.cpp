@@ -7,9 +7,9 @@
 #include "tests/support/test_window_win32.h"
 #include "tools/png_file_win32.h"
 #include "vela/com_apartment_win32.h"
-#include "vela/render/dib_gdi.h"
-#include "vela/theme/skin_host_win32.h"
-#include "vela/theme/style_sections.h"
+#include "vela/render/gdi/dib_gdi.h"
+#include "vela/theme/skins/skin_host_win32.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -6,7 +6,7 @@
 
 #include "app/dialogs/setup_dialog.h"
 #include "vela/geometry.h"
-#include "vela/render/pixel_buffer.h"
+#include "vela/render/pixels/pixel_buffer.h"
 
 #include <initializer_list>
 #include <map>

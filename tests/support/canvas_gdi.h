@@ -1,7 +1,7 @@
 // A device context with pixels that a test can read.
 #pragma once
 
-#include "vela/render/dib_gdi.h"
+#include "vela/render/gdi/dib_gdi.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,9 +1,9 @@
 // The skins that travel inside the setup, as their document has them.
 #pragma once
 
-#include "vela/theme/json.h"
-#include "vela/theme/skin_document.h"
-#include "vela/theme/utf8.h"
+#include "vela/theme/document/json.h"
+#include "vela/theme/document/utf8.h"
+#include "vela/theme/skins/skin_document.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Pictures that a test paints, compared by value with pictures kept in the repository.
 #pragma once
 
-#include "vela/render/pixel_buffer.h"
+#include "vela/render/pixels/pixel_buffer.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "tests/support/material_samples.h"
-#include "vela/render/pixel_buffer.h"
+#include "vela/render/pixels/pixel_buffer.h"
 
 #include <string>
 #include <vector>

@@ -2,8 +2,8 @@
 // is held against, and the pace it has to beat.
 #pragma once
 
-#include "vela/render/material_constants.h"
-#include "vela/render/pixel_buffer.h"
+#include "vela/render/materials/material_constants.h"
+#include "vela/render/pixels/pixel_buffer.h"
 
 namespace vela {
 

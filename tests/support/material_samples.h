@@ -2,7 +2,7 @@
 // finish in both mappings, with the other settings varied from one to the next so that each occurs with each.
 #pragma once
 
-#include "vela/render/material_constants.h"
+#include "vela/render/materials/material_constants.h"
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
 // How far two pictures of the same surface are apart, all four channels of a premultiplied pixel counted.
 #pragma once
 
-#include "vela/render/pixel_buffer.h"
+#include "vela/render/pixels/pixel_buffer.h"
 
 #include <gtest/gtest.h>
 

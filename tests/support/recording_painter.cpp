@@ -1,12 +1,12 @@
 #ifndef _WIN32 // the product's own renderer is linked there
 #include "tests/support/recording_painter.h"
 
-#include "vela/render/control_painter.h"
-#include "vela/render/paint_clip.h"
-#include "vela/render/program_icon.h"
-#include "vela/render/shape.h"
-#include "vela/render/surface_painter.h"
-#include "vela/render/text.h"
+#include "vela/render/gdi/paint_clip.h"
+#include "vela/render/gdi/program_icon.h"
+#include "vela/render/shapes/shape.h"
+#include "vela/render/surface/control_painter.h"
+#include "vela/render/surface/surface_painter.h"
+#include "vela/render/text/text.h"
 
 #include <utility>
 

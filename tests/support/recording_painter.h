@@ -3,7 +3,7 @@
 #pragma once
 
 #include "vela/geometry.h"
-#include "vela/theme/surface_style.h"
+#include "vela/theme/records/surface_style.h"
 
 #include <string>
 #include <vector>

@@ -1,9 +1,9 @@
 #include "tests/support/rendered_tones.h"
 
-#include "vela/render/bounded_cache.h"
-#include "vela/render/material_constants.h"
-#include "vela/render/material_overlay.h"
-#include "vela/render/paint_plan.h"
+#include "vela/render/layers/paint_plan.h"
+#include "vela/render/materials/material_constants.h"
+#include "vela/render/materials/material_overlay.h"
+#include "vela/render/pixels/bounded_cache.h"
 
 #include <array>
 #include <vector>

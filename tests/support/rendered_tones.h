@@ -2,8 +2,8 @@
 // noise, and averaged over spots of the size of a letter's parts, for no eye reads single pixels of grain.
 #pragma once
 
-#include "vela/theme/contrast.h"
-#include "vela/theme/surface_style.h"
+#include "vela/theme/color/contrast.h"
+#include "vela/theme/records/surface_style.h"
 
 namespace vela::testing {
 

@@ -1,7 +1,7 @@
 // Real windows for tests, with the pointer and the keyboard of the desktop they stand on.
 #pragma once
 
-#include "vela/controls/window.h"
+#include "vela/controls/window/window.h"
 
 #include <string>
 #include <vector>

@@ -2,7 +2,7 @@
 // printable ASCII escaped. What tests compare and what the fuzzer feeds back.
 #pragma once
 
-#include "vela/theme/json.h"
+#include "vela/theme/document/json.h"
 
 #include <cmath>
 #include <cstdio>

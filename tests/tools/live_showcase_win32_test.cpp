@@ -2,7 +2,7 @@
 
 #include "tests/support/test_window_win32.h"
 #include "tools/showcase_content/content.h"
-#include "vela/render/surface_bitmaps.h"
+#include "vela/render/bitmaps/surface_bitmaps.h"
 
 #include <filesystem>
 #include <fstream>

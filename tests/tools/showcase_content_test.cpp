@@ -1,12 +1,12 @@
 #include "tools/showcase_content/content.h"
 
-#include "tests/controls/fake_window.h"
-#include "vela/controls/focus_order.h"
-#include "vela/controls/input_router.h"
-#include "vela/controls/text_input.h"
-#include "vela/controls/themed_button.h"
-#include "vela/theme/skin_catalog.h"
-#include "vela/theme/style_sections.h"
+#include "tests/controls/tree/fake_window.h"
+#include "vela/controls/tree/focus_order.h"
+#include "vela/controls/tree/input_router.h"
+#include "vela/controls/widgets/text_input.h"
+#include "vela/controls/widgets/themed_button.h"
+#include "vela/theme/skins/skin_catalog.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <functional>
 #include <gtest/gtest.h>

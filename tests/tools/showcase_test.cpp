@@ -3,7 +3,7 @@
 #include "tools/showcase/file_watch.h"
 #include "tools/showcase/skin_shelf.h"
 
-#include "vela/theme/skin_catalog.h"
+#include "vela/theme/skins/skin_catalog.h"
 
 #include <gtest/gtest.h>
 

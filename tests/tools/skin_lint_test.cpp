@@ -1,6 +1,6 @@
 #include "tools/skin_lint/accepted.h"
 #include "tools/skin_lint/document_lint.h"
-#include "vela/theme/utf8.h"
+#include "vela/theme/document/utf8.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "tools/dialog_check/ink.h"
 
-#include "vela/theme/contrast.h"
+#include "vela/theme/color/contrast.h"
 
 #include <algorithm>
 

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "vela/geometry.h"
-#include "vela/render/pixel_buffer.h"
-#include "vela/render/text_lines.h"
-#include "vela/theme/theme.h"
+#include "vela/render/pixels/pixel_buffer.h"
+#include "vela/render/text/text_lines.h"
+#include "vela/theme/records/theme.h"
 
 #include <cstddef>
 #include <span>

@@ -6,10 +6,10 @@
 #include "tools/dialog_stage/dialog_stage_win32.h"
 
 #include "vela/mul_div.h"
-#include "vela/render/control_painter.h"
-#include "vela/theme/json.h"
-#include "vela/theme/style_sections.h"
-#include "vela/theme/utf8.h"
+#include "vela/render/surface/control_painter.h"
+#include "vela/theme/document/json.h"
+#include "vela/theme/document/utf8.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <algorithm>
 #include <cstdio>

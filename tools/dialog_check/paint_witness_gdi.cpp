@@ -1,8 +1,8 @@
 #include "tools/dialog_check/paint_witness_gdi.h"
 
-#include "vela/render/clip_gdi.h"
-#include "vela/render/control_painter.h"
-#include "vela/render/text.h"
+#include "vela/render/gdi/clip_gdi.h"
+#include "vela/render/surface/control_painter.h"
+#include "vela/render/text/text.h"
 
 #include <utility>
 

@@ -4,8 +4,8 @@
 
 #include "app/dialogs/setup_dialog.h"
 
-#include "vela/render/dib_gdi.h"
-#include "vela/theme/skin_document.h"
+#include "vela/render/gdi/dib_gdi.h"
+#include "vela/theme/skins/skin_document.h"
 
 #include <memory>
 #include <span>

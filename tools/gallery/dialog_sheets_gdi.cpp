@@ -4,7 +4,7 @@
 #include "tools/dialog_stage/dialog_stage_win32.h"
 #include "tools/png_file_win32.h"
 
-#include "vela/theme/style_sections.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <windows.h>
 

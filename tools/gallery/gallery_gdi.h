@@ -2,8 +2,8 @@
 #pragma once
 
 #include "tools/gallery/sheet_gdi.h"
-#include "vela/theme/skin_document.h"
-#include "vela/theme/style_sheet.h"
+#include "vela/theme/records/style_sheet.h"
+#include "vela/theme/skins/skin_document.h"
 
 #include <functional>
 #include <string>

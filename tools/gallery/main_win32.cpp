@@ -3,9 +3,9 @@
 #include "tools/gallery/gallery_gdi.h"
 #include "tools/gallery/showcase_camera_gdi.h"
 #include "tools/showcase_content/contrast_themes.h"
-#include "vela/theme/json.h"
-#include "vela/theme/style_sections.h"
-#include "vela/theme/utf8.h"
+#include "vela/theme/document/json.h"
+#include "vela/theme/document/utf8.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <algorithm>
 #include <cstdio>

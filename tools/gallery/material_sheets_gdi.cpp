@@ -1,9 +1,9 @@
 // Sheets of materials: every preset with every finish, and the substances that a skin may name.
 #include "tools/gallery/gallery_gdi.h"
-#include "vela/render/surface_painter.h"
-#include "vela/theme/named_materials.h"
-#include "vela/theme/oklab.h"
-#include "vela/theme/vocabulary.h"
+#include "vela/render/surface/surface_painter.h"
+#include "vela/theme/color/oklab.h"
+#include "vela/theme/records/named_materials.h"
+#include "vela/theme/records/vocabulary.h"
 
 #include <iterator>
 

@@ -1,7 +1,7 @@
 #include "tools/gallery/sheet_gdi.h"
 
 #include "tools/png_file_win32.h"
-#include "vela/render/surface_painter.h"
+#include "vela/render/surface/surface_painter.h"
 
 #include <algorithm>
 

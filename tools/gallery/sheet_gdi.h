@@ -1,9 +1,9 @@
 // A sheet of the gallery: a picture with captions and helpers to place things on it.
 #pragma once
 
-#include "vela/render/dib_gdi.h"
-#include "vela/render/text.h"
-#include "vela/theme/color.h"
+#include "vela/render/gdi/dib_gdi.h"
+#include "vela/render/text/text.h"
+#include "vela/theme/color/color.h"
 
 #include <string>
 #include <string_view>

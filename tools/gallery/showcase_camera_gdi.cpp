@@ -2,7 +2,7 @@
 
 #include "tools/png_file_win32.h"
 
-#include "vela/theme/style_sections.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <windows.h>
 

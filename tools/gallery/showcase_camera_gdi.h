@@ -6,7 +6,7 @@
 #include "tools/showcase/showcase_pages_win32.h"
 #include "tools/showcase/showcase_window_win32.h"
 
-#include "vela/theme/skin_document.h"
+#include "vela/theme/skins/skin_document.h"
 
 #include <memory>
 #include <span>

@@ -1,8 +1,8 @@
 // Title bar, buttons, texts, check boxes, chips and progress bars.
 #include "tools/gallery/skin_parts_gdi.h"
 
-#include "vela/render/control_painter.h"
-#include "vela/render/surface_painter.h"
+#include "vela/render/surface/control_painter.h"
+#include "vela/render/surface/surface_painter.h"
 
 #include <algorithm>
 #include <string>

@@ -1,8 +1,8 @@
 // Text inputs, select boxes, scroll bars, tabs, list boxes, tables, menus and calendars.
 #include "tools/gallery/skin_parts_gdi.h"
 
-#include "vela/render/control_painter.h"
-#include "vela/render/surface_painter.h"
+#include "vela/render/surface/control_painter.h"
+#include "vela/render/surface/surface_painter.h"
 
 #include <string>
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "tools/gallery/sheet_gdi.h"
-#include "vela/theme/style_sheet.h"
+#include "vela/theme/records/style_sheet.h"
 
 #include <string_view>
 

@@ -2,8 +2,8 @@
 #include "tools/gallery/gallery_gdi.h"
 #include "tools/gallery/skin_parts_gdi.h"
 
-#include "vela/render/control_painter.h"
-#include "vela/theme/style_sections.h"
+#include "vela/render/surface/control_painter.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <algorithm>
 

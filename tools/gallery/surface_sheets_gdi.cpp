@@ -1,10 +1,10 @@
 // Sheets of surfaces without any control: shapes, gradients, layers, glyphs.
 #include "tools/gallery/gallery_gdi.h"
-#include "vela/render/control_painter.h"
-#include "vela/render/surface_painter.h"
-#include "vela/theme/derive_style_sheet.h"
-#include "vela/theme/palette.h"
-#include "vela/theme/spellings.h"
+#include "vela/render/surface/control_painter.h"
+#include "vela/render/surface/surface_painter.h"
+#include "vela/theme/derive/derive_style_sheet.h"
+#include "vela/theme/records/palette.h"
+#include "vela/theme/records/spellings.h"
 
 #include <iterator>
 

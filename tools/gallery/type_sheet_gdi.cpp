@@ -1,7 +1,7 @@
 // Type specimens: faces, weights, sizes, states, wrapping, and both engines side by side.
 #include "tools/gallery/gallery_gdi.h"
 
-#include "vela/render/surface_painter.h"
+#include "vela/render/surface/surface_painter.h"
 
 namespace gallery {
 namespace {

@@ -1,7 +1,7 @@
 #include "tools/showcase/arguments.h"
 
 #include "vela/text.h"
-#include "vela/theme/skin_files.h"
+#include "vela/theme/skins/skin_files.h"
 
 #include <algorithm>
 

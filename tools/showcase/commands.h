@@ -1,7 +1,7 @@
 // What the showcase's keys do, beside those of the controls in it.
 #pragma once
 
-#include "vela/controls/input_events.h"
+#include "vela/controls/tree/input_events.h"
 
 #include <cstdint>
 #include <optional>

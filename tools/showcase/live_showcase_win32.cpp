@@ -3,12 +3,12 @@
 #include "tools/showcase/showcase_pages_win32.h"
 #include "tools/skin_lint/accepted.h"
 
-#include "vela/render/surface_bitmaps.h"
-#include "vela/theme/record_scale.h"
-#include "vela/theme/skin_files.h"
-#include "vela/theme/skin_host_win32.h"
-#include "vela/theme/style_sections.h"
-#include "vela/theme/utf8.h"
+#include "vela/render/bitmaps/surface_bitmaps.h"
+#include "vela/theme/document/utf8.h"
+#include "vela/theme/fields/record_scale.h"
+#include "vela/theme/skins/skin_files.h"
+#include "vela/theme/skins/skin_host_win32.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <algorithm>
 #include <memory>

@@ -7,7 +7,7 @@
 #include "tools/showcase/showcase_window_win32.h"
 #include "tools/showcase/skin_shelf.h"
 
-#include "vela/controls/designed_popup.h"
+#include "vela/controls/widgets/designed_popup.h"
 
 #include <string>
 #include <vector>

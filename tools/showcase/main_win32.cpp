@@ -2,8 +2,8 @@
 //   showcase [SKIN-ID] [SKIN-FILE.json] [DPI]
 #include "tools/showcase/live_showcase_win32.h"
 
-#include "vela/render/fonts.h"
-#include "vela/theme/skin_host_win32.h"
+#include "vela/render/text/fonts.h"
+#include "vela/theme/skins/skin_host_win32.h"
 
 #include <cstdio>
 

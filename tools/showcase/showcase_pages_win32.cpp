@@ -7,9 +7,9 @@
 #include "app/dialogs/progress_dialog.h"
 #include "app/result_notice.h"
 
-#include "vela/render/surface_painter.h"
-#include "vela/theme/record_scale.h"
-#include "vela/theme/style_sheet.h"
+#include "vela/render/surface/surface_painter.h"
+#include "vela/theme/fields/record_scale.h"
+#include "vela/theme/records/style_sheet.h"
 
 #include <functional>
 #include <memory>

@@ -1,9 +1,9 @@
 // The window of the showcase, for whoever shows or photographs it.
 #pragma once
 
-#include "vela/controls/chrome_title_bar.h"
-#include "vela/controls/window.h"
-#include "vela/render/dib_gdi.h"
+#include "vela/controls/widgets/chrome_title_bar.h"
+#include "vela/controls/window/window.h"
+#include "vela/render/gdi/dib_gdi.h"
 
 #include <memory>
 

@@ -3,9 +3,9 @@
 #include "tools/skin_lint/document_lint.h"
 
 #include "vela/text.h"
-#include "vela/theme/json.h"
-#include "vela/theme/skin_catalog.h"
-#include "vela/theme/utf8.h"
+#include "vela/theme/document/json.h"
+#include "vela/theme/document/utf8.h"
+#include "vela/theme/skins/skin_catalog.h"
 
 #include <algorithm>
 #include <utility>

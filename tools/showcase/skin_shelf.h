@@ -2,7 +2,7 @@
 // the catalogue. One of them is the current one, and stays it while its file is written again and again.
 #pragma once
 
-#include "vela/theme/skin_document.h"
+#include "vela/theme/skins/skin_document.h"
 
 #include <cstddef>
 #include <optional>

@@ -3,8 +3,8 @@
 // same controls. All lengths are 96-DPI pixels.
 #pragma once
 
-#include "vela/controls/chrome_title_bar.h"
-#include "vela/controls/panel.h"
+#include "vela/controls/tree/panel.h"
+#include "vela/controls/widgets/chrome_title_bar.h"
 
 #include <string_view>
 

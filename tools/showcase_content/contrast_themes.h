@@ -2,7 +2,7 @@
 // on machines that are in none.
 #pragma once
 
-#include "vela/theme/high_contrast.h"
+#include "vela/theme/derive/high_contrast.h"
 
 #include <string_view>
 

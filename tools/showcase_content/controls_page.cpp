@@ -2,15 +2,15 @@
 #include "tools/showcase_content/content.h"
 #include "tools/showcase_content/exhibits.h"
 
-#include "vela/controls/check_box.h"
-#include "vela/controls/chrome_title_bar.h"
-#include "vela/controls/designed_popup.h"
-#include "vela/controls/label.h"
-#include "vela/controls/progress_bar.h"
-#include "vela/controls/text_input.h"
-#include "vela/controls/themed_button.h"
-#include "vela/controls/tooltip.h"
-#include "vela/theme/style_sheet.h"
+#include "vela/controls/widgets/check_box.h"
+#include "vela/controls/widgets/chrome_title_bar.h"
+#include "vela/controls/widgets/designed_popup.h"
+#include "vela/controls/widgets/label.h"
+#include "vela/controls/widgets/progress_bar.h"
+#include "vela/controls/widgets/text_input.h"
+#include "vela/controls/widgets/themed_button.h"
+#include "vela/controls/widgets/tooltip.h"
+#include "vela/theme/records/style_sheet.h"
 
 namespace showcase {
 

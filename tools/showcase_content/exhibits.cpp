@@ -1,6 +1,6 @@
 #include "tools/showcase_content/exhibits.h"
 
-#include "vela/controls/window_host.h"
+#include "vela/controls/tree/window_host.h"
 
 namespace showcase {
 

@@ -3,8 +3,8 @@
 // that nothing reaches them any more that could change the state.
 #pragma once
 
-#include "vela/controls/chrome_title_bar.h"
-#include "vela/controls/panel.h"
+#include "vela/controls/tree/panel.h"
+#include "vela/controls/widgets/chrome_title_bar.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 #include "tools/skin_lint/accepted.h"
 
 #include "vela/text.h"
-#include "vela/theme/named_materials.h"
-#include "vela/theme/spellings.h"
+#include "vela/theme/records/named_materials.h"
+#include "vela/theme/records/spellings.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,7 +1,7 @@
 // What a field accepts, in words for the writer of a skin.
 #pragma once
 
-#include "vela/theme/fields.h"
+#include "vela/theme/fields/fields.h"
 
 #include <string>
 #include <string_view>

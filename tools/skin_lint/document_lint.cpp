@@ -3,10 +3,10 @@
 #include "tools/skin_lint/accepted.h"
 #include "tools/skin_lint/value_lint.h"
 #include "vela/text.h"
-#include "vela/theme/contrast_checks.h"
-#include "vela/theme/skin_document.h"
-#include "vela/theme/spellings.h"
-#include "vela/theme/style_sections.h"
+#include "vela/theme/checks/contrast_checks.h"
+#include "vela/theme/records/spellings.h"
+#include "vela/theme/skins/skin_document.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "tools/skin_lint/key_scope.h"
 
-#include "vela/theme/spellings.h"
+#include "vela/theme/records/spellings.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 // both say what the readers do.
 #pragma once
 
-#include "vela/theme/field_reader.h"
-#include "vela/theme/fields.h"
+#include "vela/theme/fields/field_reader.h"
+#include "vela/theme/fields/fields.h"
 
 #include <string>
 #include <string_view>

@@ -4,8 +4,8 @@
 #include "tools/skin_lint/document_lint.h"
 #include "tools/skin_lint/key_reference.h"
 #include "tools/skin_lint/schema.h"
-#include "vela/theme/skin_files.h"
-#include "vela/theme/utf8.h"
+#include "vela/theme/document/utf8.h"
+#include "vela/theme/skins/skin_files.h"
 
 #include <cstring>
 #include <fstream>

@@ -2,10 +2,10 @@
 
 #include "tools/skin_lint/accepted.h"
 #include "vela/text.h"
-#include "vela/theme/named_materials.h"
-#include "vela/theme/skin_map.h"
-#include "vela/theme/spellings.h"
-#include "vela/theme/style_sections.h"
+#include "vela/theme/document/skin_map.h"
+#include "vela/theme/records/named_materials.h"
+#include "vela/theme/records/spellings.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <algorithm>
 #include <optional>

@@ -3,7 +3,7 @@
 
 #include "tools/skin_lint/finding.h"
 #include "tools/skin_lint/key_scope.h"
-#include "vela/theme/json.h"
+#include "vela/theme/document/json.h"
 
 #include <optional>
 #include <string>

@@ -3,8 +3,8 @@
 
 #include "app/dialogs/setup_dialog.h"
 
-#include "vela/theme/skin_catalog.h"
-#include "vela/theme/style_sections.h"
+#include "vela/theme/skins/skin_catalog.h"
+#include "vela/theme/skins/style_sections.h"
 
 #include <functional>
 #include <string>

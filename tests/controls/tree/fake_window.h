@@ -1,0 +1,53 @@
+// A window that only remembers what the control tree asked of it.
+#pragma once
+
+#include "vela/controls/tree/command_event.h"
+#include "vela/controls/tree/panel.h"
+#include "vela/controls/tree/window_host.h"
+
+#include <string>
+#include <vector>
+
+namespace vela {
+
+class FakeWindow : public WindowHost {
+public:
+    explicit FakeWindow(Size client) : root(L"root", {0, 0, client.width, client.height})
+    {
+        root.setMinimumSize({0, 0});
+        root.attach(this);
+    }
+    ~FakeWindow() override { root.detach(); }
+
+    bool isAlive() const override { return alive; }
+    Rect clientRect() const override { return root.localBounds(); }
+    std::int32_t dpi() const override { return 96; }
+    void invalidateClient(const Rect& rect, InvalidationReason) override { invalidated.push_back(rect); }
+    void minimumSizeChanged() override { ++minimumChanges; }
+    void dispatchCommand(CommandEvent& event) override
+    {
+        commands.push_back(event);
+        event.handled = handlesCommands;
+    }
+    void captureMouse(Control* control) override { captured = control; }
+    const Control* focusedControl() const override { return focused; }
+    void focusControl(Control* control) override { focused = control; }
+    bool showsFocus() const override { return true; }
+    void controlDetached(Control& control) override { detached.push_back(control.id()); }
+    bool diagnosticsEnabled() const override { return diagnostics; }
+    void writeDiagnostic(std::wstring_view line) override { lines.emplace_back(line); }
+
+    bool alive = true;
+    bool diagnostics = false;
+    bool handlesCommands = false;
+    int minimumChanges = 0;
+    Control* captured = nullptr;
+    Control* focused = nullptr;
+    std::vector<Rect> invalidated;
+    std::vector<CommandEvent> commands;
+    std::vector<std::wstring> detached;
+    std::vector<std::wstring> lines;
+    Panel root;
+};
+
+} // namespace vela

@@ -1,0 +1,299 @@
+#include "vela/controls/widgets/designed_popup.h"
+
+#include "tests/controls/tree/fake_window.h"
+#include "tests/support/recording_painter.h"
+#include "vela/controls/tree/accessible_tree.h"
+#include "vela/controls/widgets/chrome_title_bar.h"
+#include "vela/theme/records/style_sheet.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace vela {
+namespace {
+
+class TitledWindow : public FakeWindow {
+public:
+    using FakeWindow::FakeWindow;
+    bool isMaximised() const override { return maximised; }
+    bool maximised = false;
+};
+
+class ChromeTest : public ::testing::Test {
+protected:
+    void pressAt(Point at, std::int32_t clicks = 1)
+    {
+        MouseEvent event;
+        event.position = at;
+        event.clicks = clicks;
+        window.root.mouseButton(event);
+        event.action = MouseAction::Release;
+        window.root.mouseButton(event);
+    }
+    std::wstring lastAction() const { return window.commands.empty() ? L"" : window.commands.back().action; }
+
+    TitledWindow window{{690, 420}};
+    StyleSheet styles;
+};
+
+TEST_F(ChromeTest, CaptionButtonsStandAtTheRightEdgeInTheirOrder)
+{
+    auto& bar = window.root.addControl(
+        std::make_unique<ChromeTitleBar>(L"chrome", Rect{0, 0, 690, 40}, L"Tamber Setup", Theme()));
+    bar.setAnchors(Anchors::Left | Anchors::Top | Anchors::Right);
+    for (const CaptionButton which :
+         {CaptionButton::ResetSize, CaptionButton::Minimize, CaptionButton::Maximize})
+        bar.showButton(which, true);
+    bar.applyStyle(styles);
+    ThemedButton& action = bar.addHeaderAction(3, L"?");
+    const struct {
+        const wchar_t* id;
+        Rect bounds;
+    } rows[] = {{L"chrome-close", {644, 0, 46, 32}},
+                {L"chrome-maximize", {598, 0, 46, 32}},
+                {L"chrome-minimize", {552, 0, 46, 32}},
+                {L"chrome-reset-size", {506, 0, 46, 32}},
+                {L"chrome-header-action-3", {448, 0, 46, 32}}};
+    for (const auto& row : rows)
+        EXPECT_EQ(findControl(window.root, row.id)->bounds(), row.bounds) << row.id;
+    EXPECT_FALSE(action.acceptsFocus());
+
+    bar.showButton(CaptionButton::Minimize, false);
+    EXPECT_EQ(findControl(window.root, L"chrome-reset-size")->bounds().x, 552);
+    window.root.setBounds({0, 0, 800, 420});
+    EXPECT_EQ(findControl(window.root, L"chrome-close")->bounds().x, 754);
+}
+
+TEST_F(ChromeTest, TheTitleBarReportsWhatIsAskedOfTheWindow)
+{
+    auto& bar = window.root.addControl(
+        std::make_unique<ChromeTitleBar>(L"chrome", Rect{0, 0, 690, 40}, L"Tamber Setup", Theme()));
+    bar.addHeaderAction(3, L"?");
+    pressAt({660, 10});
+    EXPECT_EQ(lastAction(), L"close");
+    pressAt({590, 10});
+    EXPECT_EQ(lastAction(), L"header-action-3");
+    pressAt({200, 10});
+    EXPECT_EQ(lastAction(), L"drag");
+    EXPECT_EQ(window.commands.back().controlId, L"chrome-drag");
+    pressAt({200, 10}, 2);
+    EXPECT_EQ(lastAction(), L"drag"); // nothing to maximise here
+
+    bar.showButton(CaptionButton::Maximize, true);
+    pressAt({200, 10}, 2);
+    EXPECT_EQ(lastAction(), L"maximize");
+    window.maximised = true;
+    window.root.setBounds({0, 0, 1000, 700});
+    bar.setBounds({0, 0, 1000, 40});
+    pressAt({200, 10}, 2);
+    EXPECT_EQ(lastAction(), L"restore");
+    pressAt({940, 10});
+    EXPECT_EQ(lastAction(), L"restore");
+    window.maximised = false;
+    window.root.setBounds({0, 0, 690, 420});
+    pressAt({200, 10}, 2);
+    EXPECT_EQ(lastAction(), L"maximize");
+
+    EXPECT_EQ(bar.dialogControl(DialogRole::Cancel), &bar.button(CaptionButton::Close));
+    bar.button(CaptionButton::Close).setEnabled(false);
+    EXPECT_EQ(bar.dialogControl(DialogRole::Cancel), nullptr);
+}
+
+TEST_F(ChromeTest, APopupsActionsEndAtTheRightInTheOrderGiven)
+{
+    auto& popup =
+        window.root.addControl(std::make_unique<DesignedPopup>(L"setup.popup", Rect{0, 40, 690, 380}));
+    popup.setActions({{L"Instalovat", L"install", true}, {L"Zavrit", L""}});
+    popup.applyStyle(styles);
+    popup.onStyleApplied();
+    EXPECT_EQ(popup.actionButton(0).bounds(), (Rect{690 - 24 - 128 - 10 - 128, 380 - 20 - 34, 128, 34}));
+    EXPECT_EQ(popup.actionButton(1).bounds(), (Rect{690 - 24 - 128, 380 - 20 - 34, 128, 34}));
+    pressAt({450, 380});
+    EXPECT_EQ(lastAction(), L"install");
+    pressAt({600, 380});
+    EXPECT_EQ(lastAction(), L"setup.popup.action.1");
+    EXPECT_EQ(popup.dialogControl(DialogRole::Primary), &popup.actionButton(0));
+    popup.setActions({{L"Ponechat vse tak, jak to je", L"a"}, {L"B", L"b", true}});
+    EXPECT_EQ(popup.dialogControl(DialogRole::Primary), &popup.actionButton(1));
+    // A long caption is shown whole.
+    EXPECT_GT(popup.actionButton(0).bounds().width, 128);
+    EXPECT_EQ(popup.actionButton(0).bounds().x + popup.actionButton(0).bounds().width + 10,
+              popup.actionButton(1).bounds().x);
+    popup.setActions({});
+    EXPECT_EQ(popup.dialogControl(DialogRole::Primary), nullptr);
+}
+
+TEST_F(ChromeTest, APopupIsDraggedAndClosed)
+{
+    auto& popup =
+        window.root.addControl(std::make_unique<DesignedPopup>(L"setup.popup", Rect{0, 40, 690, 380}));
+    popup.setTitle(L"Instalace Tambere");
+    pressAt({100, 60});
+    EXPECT_EQ(lastAction(), L"drag");
+    EXPECT_EQ(window.commands.back().controlId, L"setup.popup");
+    EXPECT_EQ(window.commands.back().text, L"Instalace Tambere");
+    pressAt({100, 200});
+    EXPECT_EQ(window.commands.size(), 1u);
+
+    window.handlesCommands = true;
+    popup.dialogControl(DialogRole::Cancel)->activate();
+    EXPECT_EQ(lastAction(), L"close");
+    EXPECT_FALSE(popup.isOpen());
+    EXPECT_FALSE(popup.isVisible());
+    popup.setOpen(true);
+    EXPECT_TRUE(popup.isVisible());
+    popup.setClosable(false);
+    EXPECT_EQ(popup.dialogControl(DialogRole::Cancel), nullptr);
+}
+
+TEST_F(ChromeTest, ADialogIsToldAsATreeOfWhatIsShown)
+{
+    window.root.addControl(
+        std::make_unique<ChromeTitleBar>(L"chrome", Rect{0, 0, 690, 40}, L"Tamber Setup", Theme()));
+    auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 40, 690, 380}));
+    popup.setTitle(L"Nainstalovano");
+    popup.setMessage(L"Tamber je pripraven.");
+    popup.setActions({{L"Zavrit", L"", true}});
+    window.root.addControl(std::make_unique<ThemedButton>(L"hidden", Rect{0, 0, 9, 9}, L"X"))
+        .setVisible(false);
+    auto& group = window.root.addControl(std::make_unique<Panel>(L"group", Rect{0, 0, 50, 50}));
+    group.addControl(std::make_unique<ThemedButton>(L"inner", Rect{0, 0, 9, 9}, L"Uvnitr"));
+
+    struct Told {
+        AccessibleRole role;
+        std::wstring name;
+        std::size_t children;
+        bool operator==(const Told&) const = default;
+    };
+    std::vector<Told> told;
+    const auto tell = [&told](const auto& self, const AccessibleNode& node) -> void {
+        told.push_back({node.info.role, node.info.name, node.children.size()});
+        for (const AccessibleNode& child : node.children)
+            self(self, child);
+    };
+    tell(tell, accessibleTree(window.root));
+    const std::vector<Told> expected{{AccessibleRole::Pane, L"", 3},
+                                     {AccessibleRole::TitleBar, L"Tamber Setup", 1},
+                                     {AccessibleRole::PushButton, L"Zavrit", 0},
+                                     {AccessibleRole::Dialog, L"Nainstalovano", 2},
+                                     {AccessibleRole::PushButton, L"Zavrit", 0},
+                                     {AccessibleRole::PushButton, L"Zavrit", 0},
+                                     {AccessibleRole::PushButton, L"Uvnitr", 0}};
+    EXPECT_EQ(told, expected);
+}
+
+TEST_F(ChromeTest, ArrowKeysGoAlongThePopupsButtons)
+{
+    auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 0, 690, 380}));
+    popup.setActions({{L"A", L"a"}, {L"B", L"b"}, {L"C", L"c"}});
+    popup.actionButton(1).setEnabled(false);
+    EXPECT_FALSE(popup.keyPressed({kKeyRight, {}, false}));
+    window.focused = &popup.actionButton(0);
+    EXPECT_TRUE(popup.keyPressed({kKeyRight, {}, false}));
+    EXPECT_EQ(window.focused, &popup.actionButton(2));
+    EXPECT_TRUE(popup.keyPressed({kKeyDown, {}, false}));
+    EXPECT_EQ(window.focused, &popup.actionButton(2));
+    popup.keyPressed({kKeyUp, {}, false});
+    EXPECT_EQ(window.focused, &popup.actionButton(0));
+    EXPECT_FALSE(popup.keyPressed({kKeyLeft, {.shift = true}, false}));
+}
+
+#ifndef _WIN32 // there the product's renderer paints
+TEST_F(ChromeTest, APopupPaintsItsPartsInsideItself)
+{
+    auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 40, 690, 380}));
+    popup.setTitle(L"Titul");
+    popup.setGlyph(L"!");
+    popup.setMessage(L"Zprava");
+    popup.applyStyle(styles);
+    testing::takePaintCalls();
+    popup.paint(nullptr, {});
+    const auto calls = testing::takePaintCalls();
+    const auto rectOfText = [&calls](const wchar_t* text) {
+        const auto call =
+            std::find_if(calls.begin(), calls.end(), [text](const auto& each) { return each.text == text; });
+        return call == calls.end() ? Rect{} : call->rect;
+    };
+    const PopupStyle style;
+    EXPECT_EQ(rectOfText(L"Titul").x, style.paddingX + style.iconSize + 14);
+    EXPECT_EQ(rectOfText(L"Zprava").y, 40 + style.headerHeight + 16); // clear of the header's band
+    EXPECT_EQ(
+        std::count_if(calls.begin(), calls.end(), [](const auto& call) { return call.what == L"glyph"; }),
+        2); // the icon's mark and the close button's
+    for (const auto& call : calls)
+        EXPECT_EQ(intersection(call.rect, popup.bounds()), call.rect);
+}
+
+TEST_F(ChromeTest, BitmapInsetsMoveWhatStandsOnASurface)
+{
+    const auto rectOf = [](const std::vector<testing::PaintCall>& calls, std::wstring_view text) {
+        const auto found =
+            std::ranges::find_if(calls, [text](const auto& call) { return call.text == text; });
+        return found == calls.end() ? Rect{} : found->rect;
+    };
+    SurfaceGeometry& popupInsets = styles.table<PopupStyle>().defaultRecord().surface.geometry.ensure();
+    popupInsets.safeInsets = {10, 20, 30, 40};
+    popupInsets.actionRowInsets = {0, 3, 5, 7};
+    SurfaceGeometry& barInsets =
+        styles.table<ChromeTitleBarStyle>().defaultRecord().surface.geometry.ensure();
+    barInsets.textInsets = {9, 0, 0, 0};
+    barInsets.childLayoutInsets = {0, 4, 6, 0};
+    auto& bar = window.root.addControl(
+        std::make_unique<ChromeTitleBar>(L"chrome", Rect{0, 0, 690, 40}, L"Tamber Setup", Theme()));
+    auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"popup", Rect{0, 40, 400, 300}));
+    popup.setTitle(L"Hotovo");
+    popup.setMessage(L"Zprava");
+    popup.setActions({{L"OK", {}, true}});
+    testing::takePaintCalls();
+    window.root.paint(nullptr, {});
+    const auto plain = testing::takePaintCalls();
+    const Rect action = popup.actionButton(0).bounds();
+    const Rect popupClose = popup.closeButton().bounds();
+    styleTree(window.root, styles);
+    window.root.paint(nullptr, {});
+    const auto moved = testing::takePaintCalls();
+
+    const Rect title = rectOf(plain, L"Hotovo");
+    EXPECT_EQ(rectOf(moved, L"Hotovo"),
+              (Rect{title.x + 10, title.y + 20, title.width - 40, title.height - 60}));
+    const Rect message = rectOf(plain, L"Zprava");
+    EXPECT_EQ(rectOf(moved, L"Zprava"),
+              (Rect{message.x + 10, message.y + 20, message.width - 40, message.height - 60 - 10}));
+    EXPECT_EQ(popup.actionButton(0).bounds(), movedBy(action, {-5, -7}));
+    EXPECT_EQ(popup.closeButton().bounds(), movedBy(popupClose, {-30, 20}));
+    EXPECT_EQ(bar.button(CaptionButton::Close).bounds(), (Rect{638, 4, 46, 32}));
+    const Rect caption = rectOf(plain, L"Tamber Setup");
+    EXPECT_EQ(rectOf(moved, L"Tamber Setup"),
+              (Rect{caption.x + 9, caption.y, caption.width - 9 - 6, caption.height}));
+}
+
+TEST_F(ChromeTest, APopupCastsItsShadowOnlyOnGroundThatIsSeen)
+{
+    PopupStyle& style = styles.table<PopupStyle>().defaultRecord();
+    style.shadowOffsetX = 3;
+    style.shadowOffsetY = 5;
+    auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 40, 690, 380}));
+    const auto shadows = [&] {
+        popup.applyStyle(styles);
+        testing::takePaintCalls();
+        popup.paint(nullptr, {});
+        auto calls = testing::takePaintCalls();
+        std::erase_if(calls, [](const auto& call) { return !call.surface.showShadow; });
+        return calls;
+    };
+    EXPECT_TRUE(shadows().empty()); // it fills what lies below the title bar
+    popup.setBounds({20, 60, 400, 200});
+    ASSERT_EQ(shadows().size(), 1u);
+    EXPECT_EQ(shadows()[0].rect, popup.bounds());
+    EXPECT_EQ(shadows()[0].surface.shadowOffsetX, 3);
+    EXPECT_EQ(shadows()[0].surface.shadowOffsetY, 5);
+    window.invalidated.clear();
+    popup.setMessage(L"Jina");
+    EXPECT_EQ(window.invalidated.back(), (Rect{20, 60, 403, 205}));
+    style.showShadow = false;
+    EXPECT_TRUE(shadows().empty());
+}
+#endif
+
+} // namespace
+} // namespace vela

@@ -1,0 +1,161 @@
+#include "vela/render/bitmaps/bitmap_cache.h"
+
+#include "vela/render/bitmaps/bitmap_path.h"
+#include "vela/render/bitmaps/surface_outline.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace vela {
+namespace {
+
+TEST(BitmapPath, LeadsIntoTheSkinsFolderOrNowhere)
+{
+    for (const wchar_t* path : {L"plate.png", L"plates/button hot.png", L"a\\b\\c.jpg", L"..plate.png",
+                                L"con1.png", L"console.png", L"com.png", L"\u017Elut\u00FD.png", L".hidden"})
+        EXPECT_TRUE(isSafeBitmapPath(path)) << path;
+    for (const wchar_t* path : {L"",
+                                L"/plate.png",
+                                L"\\plate.png",
+                                L"\\\\server\\share\\a.png",
+                                L"//server/a.png",
+                                L"C:\\a.png",
+                                L"C:a.png",
+                                L"\\\\?\\C:\\a.png",
+                                L"\\\\.\\nul",
+                                L"..",
+                                L"../a.png",
+                                L"a/../../b.png",
+                                L"a\\..\\b.png",
+                                L"a/. ./b.png",
+                                L".. /a.png",
+                                L"a/..  ",
+                                L"./a.png",
+                                L"a//b.png",
+                                L"a/",
+                                L"a.png:stream",
+                                L"a.png.",
+                                L"a.png ",
+                                L"a\nb.png",
+                                L"what?.png",
+                                L"*.png",
+                                L"nul",
+                                L"NUL.png",
+                                L"sub/Com1.png",
+                                L"lpt9",
+                                L"aux .png",
+                                L"com\u00B2.png",
+                                L"CONIN$",
+                                L"http://x/a.png"})
+        EXPECT_FALSE(isSafeBitmapPath(path)) << path;
+    EXPECT_FALSE(isSafeBitmapPath(std::wstring(300, L'a')));
+    EXPECT_FALSE(isSafeBitmapPath(std::wstring_view(L"a\0b.png", 7)));
+
+    EXPECT_EQ(bitmapFile(L"C:\\skins", L"plates/hot.png"), L"C:\\skins\\plates\\hot.png");
+    EXPECT_EQ(bitmapFile(L"C:\\skins", L"../hot.png"), L"");
+    EXPECT_EQ(bitmapFile(L"", L"hot.png"), L"");
+}
+
+// Files by name; each decoding is noted.
+std::map<std::wstring, Size>& files()
+{
+    static std::map<std::wstring, Size> all;
+    return all;
+}
+
+BitmapImage decodeFake(const std::wstring& file)
+{
+    const auto found = files().find(file);
+    if (found == files().end())
+        return {};
+    const auto count =
+        static_cast<std::size_t>(found->second.width) * static_cast<std::size_t>(found->second.height);
+    return {found->second, std::vector<Pixel>(count, makePixel(200, 100, 50, 255))};
+}
+
+SurfaceStyle styleWith(const wchar_t* path)
+{
+    SurfaceStyle style;
+    style.image.ensure().path = path;
+    return style;
+}
+
+TEST(BitmapCacheTest, DecodesEachPictureOnceForEachTint)
+{
+    files() = {{L"skin\\a.png", {4, 2}}};
+    BitmapCache cache(decodeFake);
+    EXPECT_EQ(cache.find(styleWith(L"a.png")).skin, nullptr); // no folder yet
+    EXPECT_EQ(cache.decoded(), 0u);
+    cache.setFolder(L"skin");
+    const auto first = cache.find(styleWith(L"a.png")).skin;
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first->size(), (Size{4, 2}));
+    EXPECT_EQ(cache.find(styleWith(L"a.png")).skin, first);
+    EXPECT_EQ(cache.decoded(), 1u);
+
+    SurfaceStyle tinted = styleWith(L"a.png");
+    tinted.image.ensure().tint.mode = TintMode::Monochrome;
+    EXPECT_NE(cache.find(tinted).skin, first);
+    EXPECT_EQ(cache.decoded(), 2u);
+
+    EXPECT_EQ(cache.find(styleWith(L"missing.png")).skin, nullptr);
+    EXPECT_EQ(cache.find(styleWith(L"missing.png")).skin, nullptr); // not looked for again
+    EXPECT_EQ(cache.decoded(), 3u);
+    EXPECT_EQ(cache.find(styleWith(L"../a.png")).skin, nullptr); // never looked for
+    EXPECT_EQ(cache.find(SurfaceStyle{}).skin, nullptr);
+    EXPECT_EQ(cache.decoded(), 3u);
+
+    cache.setFolder(L"other");
+    EXPECT_EQ(cache.find(styleWith(L"a.png")).skin, nullptr);
+    EXPECT_EQ(first->size(), (Size{4, 2})); // whoever still paints with it may
+}
+
+TEST(BitmapCacheTest, LoadsTheMaskOnlyForTheModeThatNeedsIt)
+{
+    files() = {{L"skin\\a.png", {4, 2}}, {L"skin\\m.png", {4, 2}}};
+    BitmapCache cache(decodeFake);
+    cache.setFolder(L"skin");
+    SurfaceStyle style = styleWith(L"a.png");
+    style.geometry.ensure().maskPath = L"m.png";
+    EXPECT_EQ(cache.find(style).mask, nullptr);
+    style.geometry.ensure().mode = AlphaHitMode::MaskLayout;
+    EXPECT_NE(cache.find(style).mask, nullptr);
+}
+
+TEST(BitmapCacheTest, ForgetsThePictureUnusedLongestWhenRoomRunsOut)
+{
+    files() = {{L"s\\a.png", {6000, 4000}}, {L"s\\b.png", {6000, 4000}}, {L"s\\c.png", {6000, 4000}}};
+    BitmapCache cache(decodeFake); // 24 million pixels each: two fit
+    cache.setFolder(L"s");
+    cache.find(styleWith(L"a.png"));
+    cache.find(styleWith(L"b.png"));
+    cache.find(styleWith(L"a.png"));
+    cache.find(styleWith(L"c.png")); // b goes
+    EXPECT_EQ(cache.decoded(), 3u);
+    cache.find(styleWith(L"a.png"));
+    EXPECT_EQ(cache.decoded(), 3u);
+    cache.find(styleWith(L"b.png"));
+    EXPECT_EQ(cache.decoded(), 4u);
+}
+
+TEST(BitmapCacheTest, KeepsAnOutlineFromPaintToPaint)
+{
+    files() = {{L"s\\a.png", {4, 2}}};
+    BitmapCache cache(decodeFake);
+    cache.setFolder(L"s");
+    SurfaceStyle style = styleWith(L"a.png");
+    const LoadedBitmaps bitmaps = cache.find(style);
+    EXPECT_EQ(surfaceOutline(style, {40, 20}, bitmaps), nullptr); // its shape is the outline
+    style.geometry.ensure().mode = AlphaHitMode::AlphaLayout;
+    const RunMask* const outline = surfaceOutline(style, {40, 20}, bitmaps);
+    ASSERT_NE(outline, nullptr);
+    EXPECT_EQ(outline->size(), (Size{40, 20}));
+    EXPECT_EQ(surfaceOutline(style, {40, 20}, bitmaps), outline);
+    style.alphaThreshold = 255;
+    EXPECT_NE(surfaceOutline(style, {40, 20}, bitmaps), outline);
+    EXPECT_EQ(surfaceOutline(style, {40, 20}, {}), nullptr);
+}
+
+} // namespace
+} // namespace vela

@@ -1,0 +1,32 @@
+#include "vela/controls/widgets/cast_shadow.h"
+
+#include "vela/controls/tree/panel.h"
+#include "vela/render/surface/surface_painter.h"
+#include "vela/theme/derive/derive_surfaces.h"
+
+namespace vela {
+
+CastShadow::CastShadow(const SurfaceStyle& surface, Color color, Point offset)
+{
+    style_.shape = surface.shape;
+    style_.drawFill = false;
+    style_.drawBorder = false;
+    dimLight(style_, 0);
+    style_.showShadow = true;
+    style_.shadow = color;
+    style_.shadowOpacity = surface.shadowOpacity;
+    style_.shadowOffsetX = offset.x;
+    style_.shadowOffsetY = offset.y;
+}
+
+void CastShadow::paint(HDC dc, const Control& control, const Rect& box) const
+{
+    if (!style_.showShadow || !control.parent())
+        return;
+    const Rect& own = control.bounds();
+    const Rect seen = intersection(movedBy(own, offset()), control.parent()->localBounds());
+    if (!isEmpty(seen) && united(seen, own) != own)
+        paintSurface(dc, box, style_);
+}
+
+} // namespace vela

@@ -1,0 +1,33 @@
+// The shadow that a popup or a tooltip casts on what it stands on. One that fills its window has nothing to
+// cast it on; there the desktop's compositor draws the window's own.
+#pragma once
+
+#include "vela/geometry.h"
+#include "vela/platform_handles.h"
+#include "vela/theme/records/surface_style.h"
+
+namespace vela {
+
+class Control;
+
+class CastShadow {
+public:
+    CastShadow() = default;
+    // Of a surface, in that colour, moved by the offset.
+    CastShadow(const SurfaceStyle& surface, Color color, Point offset);
+
+    // Under the control, which stands at `box`.
+    void paint(HDC dc, const Control& control, const Rect& box) const;
+    // The rectangle that control and shadow cover together.
+    Rect reach(const Rect& local) const noexcept
+    {
+        return style_.showShadow ? united(local, movedBy(local, offset())) : local;
+    }
+
+private:
+    Point offset() const noexcept { return {style_.shadowOffsetX, style_.shadowOffsetY}; }
+
+    SurfaceStyle style_;
+};
+
+} // namespace vela

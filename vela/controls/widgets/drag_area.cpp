@@ -1,0 +1,29 @@
+#include "vela/controls/widgets/drag_area.h"
+
+#include "vela/controls/tree/command_event.h"
+
+#include <utility>
+
+namespace vela {
+
+void DragArea::setSender(std::wstring id, std::wstring text)
+{
+    senderId_ = std::move(id);
+    text_ = std::move(text);
+}
+
+bool DragArea::mouseButton(const MouseEvent& event)
+{
+    if (event.action != MouseAction::Press || event.button != MouseButton::Left || !window() ||
+        !isVisible() || !isEnabled() || !containsLocal(event.position))
+        return false;
+    CommandEvent command;
+    command.control = this;
+    command.controlId = senderId_.empty() ? id() : senderId_;
+    command.action = event.clicks == 2 && !doubleClickAction_.empty() ? doubleClickAction_ : L"drag";
+    command.text = text_;
+    window()->dispatchCommand(command);
+    return true;
+}
+
+} // namespace vela

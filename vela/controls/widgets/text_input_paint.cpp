@@ -1,0 +1,151 @@
+// What a text field looks like.
+#include "vela/controls/widgets/text_input.h"
+
+#include "vela/render/gdi/paint_clip.h"
+#include "vela/render/surface/control_painter.h"
+#include "vela/render/surface/surface_painter.h"
+#include "vela/render/text/text.h"
+#include "vela/theme/color/contrast.h"
+#include "vela/theme/records/surface_tones.h"
+
+#include <algorithm>
+
+namespace vela {
+
+namespace {
+
+// 96-DPI pixels between the parts of a chip.
+constexpr std::int32_t kChipPadding = 8;
+
+constexpr std::int32_t kLongLine = 16'384; // pixels: more than ten screens of text
+
+Rect centredIn(const Rect& row, std::int32_t x, std::int32_t width, std::int32_t height) noexcept
+{
+    return {x, row.y + (row.height - height) / 2, width, height};
+}
+
+// The field's text where it can be read on the selection, else the field's own ground.
+Color selectedTextColor(const TextInputStyle& style)
+{
+    const Color ground = style.focusedSurface.fill;
+    return pickReaching({style.text.color, ground}, facesOf(style.selection, ground), kTextContrast);
+}
+
+} // namespace
+
+// A field that cannot be edited looks like one that cannot be used, but keeps its selection and its focus.
+const SurfaceStyle& TextInput::surface() const
+{
+    if (!isEnabled() || model_.locked())
+        return style_.disabledSurface;
+    if (hasFocus())
+        return style_.focusedSurface;
+    if (isPressed())
+        return style_.pressedSurface;
+    return isHot() ? style_.hotSurface : style_.surface;
+}
+
+std::vector<TextInput::Chip> TextInput::chips() const
+{
+    std::vector<Chip> result;
+    const Rect room = contentBounds();
+    const std::int32_t height = std::min(style_.attachmentHeight, room.height);
+    const std::int32_t image = height / 2;
+    const std::int32_t padding = scaled(kChipPadding);
+    const std::int32_t remove = style_.showAttachmentRemove ? style_.attachmentRemoveExtent : 0;
+    std::int32_t x = room.x + style_.paddingX;
+    for (const TextAttachment& attachment : attachments_) {
+        const std::int32_t name = measureTextWidth(attachment.name, style_.attachmentText, dpi());
+        Chip chip;
+        chip.image = centredIn(room, x + padding, image, image);
+        chip.name = centredIn(room, chip.image.x + image + padding / 2, name, height);
+        std::int32_t end = chip.name.x + name + padding;
+        if (remove > 0) {
+            chip.remove = centredIn(room, end - padding / 2, remove, remove);
+            end += remove;
+        }
+        chip.body = centredIn(room, x, end - x, height);
+        result.push_back(chip);
+        x = end + style_.attachmentGap;
+    }
+    return result;
+}
+
+void TextInput::paint(HDC dc, Point origin)
+{
+    const Rect box = movedBy(bounds(), origin);
+    paintControlSurface(dc, box, surface());
+    paintChips(dc, {box.x, box.y});
+    paintText(dc, {box.x, box.y});
+    // The focused surface tells where the keyboard is; one that is locked has none.
+    if (model_.locked() && hasFocus() && window()->showsFocus())
+        paintFocusRing(dc, box, surface().shape, dpi(), surface().glow);
+}
+
+void TextInput::paintChips(HDC dc, Point at)
+{
+    const std::vector<Chip> shown = chips();
+    if (shown.empty())
+        return;
+    const PaintClip clip(dc, {movedBy(localBounds(), at)});
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const Chip& chip = shown[i];
+        paintControlSurface(dc, movedBy(chip.body, at), style_.attachmentSurface);
+        paintControlSurface(dc, movedBy(chip.image, at), style_.attachmentImageSurface);
+        drawText(dc, movedBy(chip.name, at), attachments_[i].name, style_.attachmentText, dpi());
+        if (chip.remove.width == 0)
+            continue;
+        const Rect remove = movedBy(chip.remove, at);
+        paintControlSurface(dc, remove, style_.attachmentRemoveSurface);
+        const std::int32_t inset = remove.width / 4;
+        paintGlyph(dc, Glyph::Close,
+                   {remove.x + inset, remove.y + inset, remove.width - 2 * inset, remove.height - 2 * inset},
+                   dpi(), style_.attachmentIconColor);
+    }
+}
+
+void TextInput::paintText(HDC dc, Point at)
+{
+    const Rect area = movedBy(textArea(), at);
+    if (area.width == 0)
+        return;
+    if (model_.text().empty())
+        drawText(dc, area, placeholder_, style_.placeholderText, dpi(),
+                 {isEnabled() ? TextTone::Enabled : TextTone::Disabled});
+    const Rect caret = movedBy(caretRect().value_or(Rect{}), at);
+    // A caret behind the last character stands half outside the text.
+    const PaintClip clip(dc, {{area.x, area.y, area.width + caret.width, area.height}});
+    // What cannot be changed is still there to be read.
+    const FontSpec& font = model_.locked() ? style_.placeholderText : style_.text;
+    const auto drawLine = [&](Color color) {
+        FontSpec inked = font;
+        inked.color = color;
+        const Rect line{area.x - scroll_, caret.y, textWidth() + 1, caret.height};
+        // A layout of something very long is not worth its time.
+        if (line.width < kLongLine)
+            drawText(dc, line, model_.text(), inked, dpi());
+        else
+            drawUnclippedLine(dc, line, model_.text(), inked, dpi(), color);
+    };
+    const Color color = isEnabled() ? font.color : font.disabledColor;
+    if (model_.hasSelection()) {
+        const std::int32_t from = area.x + xOf(model_.selectionStart()) - scroll_;
+        const std::int32_t to = area.x + xOf(model_.selectionEnd()) - scroll_;
+        const std::int32_t height = std::min(std::max(style_.lineHeight, caret.height), area.height);
+        const Rect selected = centredIn(area, from, to - from, height);
+        paintSurface(dc, selected, style_.selection);
+        {
+            const PaintClip before(dc, {{area.x, area.y, std::max(from - area.x, 0), area.height},
+                                        {to, area.y, std::max(area.x + area.width - to, 0), area.height}});
+            drawLine(color);
+        }
+        const PaintClip inside(dc, {selected});
+        drawLine(selectedTextColor(style_));
+    } else {
+        drawLine(color);
+    }
+    if (hasFocus() && caretShown_)
+        fillShape(dc, caret, ShapeKind::Rect, style_.caretColor);
+}
+
+} // namespace vela

@@ -1,0 +1,166 @@
+// A top-level window of the toolkit: it owns the tree of controls, shows it through a back buffer and takes
+// the system's messages into it. The object outlives its window; without one its operations do nothing. All
+// of it belongs to the thread that created the window.
+#pragma once
+
+#include "vela/controls/tree/command_handlers.h"
+#include "vela/controls/tree/debug_overlay.h"
+#include "vela/controls/tree/input_router.h"
+#include "vela/controls/tree/panel.h"
+#include "vela/controls/tree/pointer_clock.h"
+#include "vela/controls/tree/window_host.h"
+#include "vela/controls/window/taskbar_progress.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace vela {
+
+class StyleSheet;
+
+// What `create` takes from Windows' own vocabulary.
+struct WindowStyle {
+    std::uint32_t style = 0;    // WS_
+    std::uint32_t extended = 0; // WS_EX_
+};
+
+#ifdef NDEBUG
+inline constexpr bool kDiagnosticsByDefault = false;
+#else
+inline constexpr bool kDiagnosticsByDefault = true;
+#endif
+
+// The panel that a window's ground is, for skins whose panels have a shape that no window could have.
+inline constexpr std::wstring_view kWindowVariant = L"window";
+
+class Window : public WindowHost {
+public:
+    // Sees every message first; true when it handled the message, with the answer in the last argument.
+    using MessageHook =
+        std::function<bool(HWND, unsigned message, std::uintptr_t, std::intptr_t, std::intptr_t& result)>;
+    // Gives the styles for the system's present light or dark and high-contrast mode.
+    using StyleSource = std::function<std::shared_ptr<const StyleSheet>()>;
+
+    Window();
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+    ~Window() override;
+
+    // The client size is in 96-DPI pixels and grows with the monitor that shows the window: the owner's, or
+    // the one under the pointer. False when Windows refuses; then there is no handle.
+    bool create(HINSTANCE instance, std::wstring title, Size client, WindowStyle style, HWND owner = nullptr);
+    void destroy();
+
+    HWND handle() const noexcept { return handle_; }
+    Panel& root() noexcept { return root_; }
+    const std::wstring& title() const noexcept { return title_; }
+
+    // Before `create`. A custom frame has no standard non-client area; its resize band lies inside the client
+    // edge, in 96-DPI pixels, and 0 means that the frame cannot be dragged.
+    void setCustomFrame(bool custom) noexcept { customFrame_ = custom; }
+    void setResizeBorder(std::int32_t pixels) noexcept { resizeBorder_ = pixels; }
+    // Before `create`. Where the client area does not fit the work area at the monitor's DPI, everything is
+    // drawn at a smaller scale until it does; `dpi` is that scale.
+    void setShrinkToFit(bool shrinks) noexcept { shrinkToFit_ = shrinks; }
+    // Before `create`. Everything is drawn at this DPI, whatever the monitor's is.
+    void setFixedScale(std::int32_t dpi) noexcept { fixedScale_ = dpi; }
+    void setQuitOnDestroy(bool quits) noexcept { quitOnDestroy_ = quits; }
+    void setCloseOnDeactivate(bool closes) noexcept { closeOnDeactivate_ = closes; }
+    void setTooltipDelay(std::uint32_t milliseconds) noexcept { tooltipDelay_ = milliseconds; }
+    void setDiagnostics(bool on) noexcept { diagnostics_ = on; }
+    void setMessageHook(MessageHook hook) { messageHook_ = std::move(hook); }
+    bool isInSizeMove() const noexcept { return inSizeMove_; }
+    const DebugOverlay& debugOverlay() const noexcept { return debugOverlay_; }
+
+    // Gives every control of the tree its record at the window's DPI, and the root the panel surface; kept
+    // for a later change of DPI. Controls added afterwards need another call.
+    void applyStyles(std::shared_ptr<const StyleSheet> styles);
+    // Asked at once, and again when the user switches between light and dark or to high contrast.
+    void setStyleSource(StyleSource source);
+
+    // A handler for one action, or, with an empty action, for all.
+    CommandHandlers::Subscription subscribe(std::wstring action, CommandHandlers::Handler handler);
+    void unsubscribe(CommandHandlers::Subscription subscription);
+
+    // Carries out what a title bar asks for by the action's name; false for an action that is none of the
+    // title bar's.
+    bool performChromeAction(std::wstring_view action);
+
+    // As long as there is a reason the user's session does not end and Windows shows the reason; an empty one
+    // lets it end. Like the progress below it may be given before `create`.
+    void setShutdownBlockReason(std::wstring reason);
+    // The percentage is of use while work is running, paused or failed.
+    void setTaskbarProgress(TaskbarProgress state, std::int32_t percent = 0);
+    // Flashes the taskbar button until the user comes to the window; nothing when that is in front already.
+    void requestAttention();
+
+    // Lays the tree out for the client area as it is.
+    void layoutTree();
+    // The smallest client area in which the tree fits, and the window around it, no larger than the work
+    // area.
+    Size minimumClientSize() const;
+    Size minimumTrackSize() const;
+
+    bool isAlive() const override;
+    Rect clientRect() const override;
+    std::int32_t dpi() const override { return dpi_; }
+    void invalidateClient(const Rect& rect, InvalidationReason reason) override;
+    void minimumSizeChanged() override {} // settled when Windows next asks
+    void dispatchCommand(CommandEvent& event) override { commands_.dispatch(event); }
+    void captureMouse(Control* control) override;
+    const Control* focusedControl() const override;
+    void focusControl(Control* control) override { input_.focus(control); }
+    bool showsFocus() const override { return input_.showsFocus(); }
+    void controlDetached(Control& control) override;
+    TextServices* textServices() override;
+    bool isMaximised() const override { return maximised_; }
+    bool diagnosticsEnabled() const override { return diagnostics_; }
+    void writeDiagnostic(std::wstring_view line) override;
+
+protected:
+    virtual void onCreated() {}
+    virtual void onDestroyed() {}
+    // What leaves the process: the system's screen clip, and the two things a taskbar button can show.
+    virtual void openScreenClip();
+    virtual void showTaskbarStatus(const TaskbarStatus& status);
+    virtual void flashTaskbarButton();
+
+private:
+    class Native; // the side that talks to Windows
+    friend class Native;
+
+    void invalidateAll();
+
+    HWND handle_ = nullptr;
+    std::wstring title_;
+    Panel root_;
+    bool customFrame_ = false;
+    std::int32_t resizeBorder_ = 0;
+    bool quitOnDestroy_ = true;
+    MessageHook messageHook_;
+    bool maximised_ = false;
+    bool inSizeMove_ = false;
+    bool diagnostics_ = kDiagnosticsByDefault;
+    bool closeOnDeactivate_ = false;
+    std::uint32_t tooltipDelay_ = 650;
+    Size lastClientSize_;
+    bool allDamaged_ = true; // until the next paint: nothing more can be damaged
+    Size designClient_;      // 96-DPI pixels, as given to `create`
+    bool shrinkToFit_ = false;
+    std::int32_t fixedScale_ = 0;  // 0 for none
+    std::int32_t dpi_ = 96;        // the scale of all that is drawn
+    std::int32_t monitorDpi_ = 96; // the system's; of the standard frame and the icons
+    std::wstring shutdownBlockReason_;
+    TaskbarStatus taskbarStatus_;
+    InputRouter input_;
+    CommandHandlers commands_;
+    TooltipClock tooltipClock_;
+    DebugOverlay debugOverlay_;
+    std::shared_ptr<const StyleSheet> styles_;
+    StyleSource styleSource_;
+    std::unique_ptr<Native> native_;
+};
+
+} // namespace vela

@@ -1,0 +1,62 @@
+#include "vela/render/bitmaps/bitmap_cache.h"
+
+#include "vela/render/bitmaps/bitmap_path.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vela {
+namespace {
+
+// As many pixels as the largest picture has that is accepted at all.
+constexpr std::size_t kMostPixels = 64'000'000;
+constexpr std::size_t kMostPictures = 128;
+
+} // namespace
+
+// A picture counts its pixels, and none so few that more than kMostPictures would be kept.
+std::size_t BitmapCache::Weight::operator()(const Picture& picture) const noexcept
+{
+    const Size size = picture ? picture->size() : Size{};
+    return std::max(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height),
+                    kMostPixels / kMostPictures);
+}
+
+BitmapCache::BitmapCache(Decode decode) : decode_(decode), pictures_(kMostPixels) {}
+
+void BitmapCache::setFolder(std::wstring folder)
+{
+    folder_ = std::move(folder);
+    pictures_ = decltype(pictures_)(kMostPixels);
+}
+
+LoadedBitmaps BitmapCache::find(const SurfaceStyle& style)
+{
+    LoadedBitmaps loaded;
+    if (style.image && !style.image->path.empty())
+        loaded.skin = find({Use::Skin, *style.image});
+    if (style.geometry && style.geometry->mode == AlphaHitMode::MaskLayout &&
+        !style.geometry->maskPath.empty())
+        loaded.mask = find({Use::Mask, {style.geometry->maskPath, {}}});
+    return loaded;
+}
+
+BitmapCache::Picture BitmapCache::find(const Key& key)
+{
+    return pictures_.ensure(key, [&] { return load(key); });
+}
+
+BitmapCache::Picture BitmapCache::load(const Key& key)
+{
+    const std::wstring file = bitmapFile(folder_, key.skin.path);
+    if (file.empty())
+        return nullptr;
+    ++decoded_;
+    const BitmapImage image = decode_(file);
+    if (isEmpty(image.size))
+        return nullptr;
+    return std::make_shared<const SkinBitmap>(key.use == Use::Mask ? SkinBitmap::fromMask(image)
+                                                                   : SkinBitmap(image, key.skin.tint));
+}
+
+} // namespace vela

@@ -1,0 +1,42 @@
+// What a bitmap-skinned surface makes of its bitmap beside painting it: the outline of its layers, its hit
+// test and the room it leaves for what lies on it.
+#pragma once
+
+#include "vela/render/bitmaps/bitmap_skin.h"
+
+#include <optional>
+
+namespace vela {
+
+// The bitmaps of one surface; null where there is none or it could not be loaded. Borrowed.
+struct SurfaceBitmaps {
+    const SkinBitmap* skin = nullptr;
+    const SkinBitmap* mask = nullptr;
+};
+
+// The mode in effect: without the bitmap that it needs, the shape decides.
+AlphaHitMode alphaHitMode(const SurfaceStyle& style, const SurfaceBitmaps& bitmaps) noexcept;
+
+// The outline that a bitmap gives the surface's layers and its window; none when its shape does.
+std::optional<RunMask> bitmapOutline(const SurfaceStyle& style, Size surface, const SurfaceBitmaps& bitmaps);
+
+// Whether the pixel of the surface reacts to the pointer: by its bitmap where the style says so, else by the
+// shape.
+bool hitSurface(const SurfaceStyle& style, ShapeKind shape, Size surface, Point point,
+                const SurfaceBitmaps& bitmaps);
+
+// The columns free for content at a height: common to all rows of its band (a band is as high as the geometry
+// says, or the whole outline when it says nothing), within the layout insets.
+Span layoutColumns(const SurfaceGeometry& geometry, const RunMask& outline, std::int32_t y);
+
+// The insets of one part of what stands on a surface: its own or, where those are all 0, the safe ones.
+using PartInsets = Insets SurfaceGeometry::*;
+Insets insetsOf(const SurfaceStyle& style, PartInsets part, std::int32_t dpi) noexcept;
+Rect insetBy(const Rect& rect, const Insets& insets) noexcept;
+
+// What they leave of the surface, in the columns free in the middle of the outline. Without an outline the
+// surface's shape is it, and all columns are free.
+Rect roomOn(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi,
+            const RunMask* outline);
+
+} // namespace vela

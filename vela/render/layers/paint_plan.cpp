@@ -1,0 +1,148 @@
+#include "vela/render/layers/paint_plan.h"
+
+#include "vela/mul_div.h"
+
+#include "vela/render/layers/gradient.h"
+#include "vela/render/layers/inner_shadow.h"
+#include "vela/render/layers/noise.h"
+#include "vela/render/layers/solid_layer.h"
+#include "vela/render/layers/spatial_shading.h"
+#include "vela/render/pixels/lengths.h"
+
+#include <algorithm>
+
+namespace vela {
+namespace {
+
+// Collects the layers of one surface, leaving out those that the clip hides.
+class Planner {
+public:
+    Planner(const SurfaceStyle& style, const Rect& rect, const std::optional<Rect>& clip)
+        : style_(style), rect_(rect), clip_(clip)
+    {
+    }
+
+    bool isVisible(const Rect& rect) const noexcept
+    {
+        return !isEmpty(rect) && (!clip_ || !isEmpty(intersection(rect, *clip_)));
+    }
+    void add(const PaintStep& step)
+    {
+        if (isVisible(step.rect))
+            plan_.add(step);
+    }
+    void add(SurfaceLayer layer) { add({layer, rect_}); }
+
+    void addGlow();
+    void addShadow();
+    void addBase(BitmapCover bitmap);
+    void addLight();
+    void addStrokes(SurfaceLayer layer, Color color, std::int32_t penWidth)
+    {
+        add({layer, rect_, color, 255, penWidth});
+    }
+    PaintPlan take() const { return plan_; }
+
+private:
+    const SurfaceStyle& style_;
+    Rect rect_;
+    std::optional<Rect> clip_;
+    PaintPlan plan_;
+};
+
+// Rings from the outermost inwards. They lie on each other, so the halo is strongest near the surface.
+void Planner::addGlow()
+{
+    if (!style_.showGlow || style_.glowOpacity == 0)
+        return;
+    const std::int32_t radius = limitedLength(style_.glowRadius);
+    const std::int32_t rings = std::min(radius, PaintPlan::kMostGlowRings);
+    for (std::int32_t ring = rings; ring >= 1; --ring) {
+        const std::int32_t growth = std::max(mulDiv(radius, ring, rings), 1);
+        const std::int32_t alpha = std::max((rings - ring + 1) * style_.glowOpacity / (3 * rings), 1);
+        add({SurfaceLayer::Glow, grownBy(rect_, growth), style_.glow, static_cast<std::uint8_t>(alpha)});
+    }
+}
+
+void Planner::addShadow()
+{
+    if (!style_.showShadow || style_.shadowOpacity == 0)
+        return;
+    const Rect moved{rect_.x + limitedLength(style_.shadowOffsetX),
+                     rect_.y + limitedLength(style_.shadowOffsetY), rect_.width, rect_.height};
+    add({SurfaceLayer::Shadow, moved, style_.shadow, style_.shadowOpacity});
+}
+
+// Gradient or fill lie under the bitmap, where its transparent parts show them; over it they would hide it.
+void Planner::addBase(BitmapCover bitmap)
+{
+    if (bitmap != BitmapCover::Full) {
+        if (style_.useGradient && style_.opacity > 0)
+            add(SurfaceLayer::Gradient);
+        else if (!style_.useGradient && style_.drawFill)
+            add({SurfaceLayer::Fill, rect_, style_.fill});
+    }
+    if (bitmap != BitmapCover::None)
+        add(SurfaceLayer::Bitmap);
+}
+
+void Planner::addLight()
+{
+    // The material is one step, painted on the graphics card or in software, always at this place.
+    if (carriesMaterial(style_))
+        add(SurfaceLayer::Material);
+    if (castsSpatialShading(style_))
+        add(SurfaceLayer::SpatialShading);
+    if (style_.showInnerShadow && style_.innerShadow > 0 && style_.innerShadowSize > 0)
+        add(SurfaceLayer::InnerShadow);
+    if (style_.useNoise && style_.noiseOpacity > 0)
+        add(SurfaceLayer::Noise);
+}
+
+} // namespace
+
+PaintPlan paintPlan(const SurfaceStyle& style, const Rect& rect, const std::optional<Rect>& clip,
+                    BitmapCover bitmap)
+{
+    Planner planner(style, rect, clip);
+    if (!planner.isVisible(rect))
+        return {};
+    planner.addGlow();
+    planner.addShadow();
+    planner.addBase(bitmap);
+    if (style.drawBorder)
+        planner.addStrokes(SurfaceLayer::Border, style.border, 1);
+    planner.addLight();
+    if (style.showOutline && style.outlineWidth > 0)
+        planner.addStrokes(SurfaceLayer::Outline, style.outline, style.outlineWidth);
+    return planner.take();
+}
+
+bool isPixelLayer(SurfaceLayer layer) noexcept
+{
+    switch (layer) {
+    case SurfaceLayer::Glow:
+    case SurfaceLayer::Shadow:
+    case SurfaceLayer::Gradient:
+    case SurfaceLayer::SpatialShading:
+    case SurfaceLayer::InnerShadow:
+    case SurfaceLayer::Noise: return true;
+    default: return false;
+    }
+}
+
+void fillLayer(const LayerTarget& target, const Coverage& coverage, const PaintStep& step,
+               const SurfaceStyle& style, Point surfaceOrigin)
+{
+    switch (step.layer) {
+    case SurfaceLayer::Glow:
+    case SurfaceLayer::Shadow: return fillSolid(target, coverage, step.color, step.alpha);
+    case SurfaceLayer::Gradient: return fillGradient(target, coverage, style);
+    case SurfaceLayer::SpatialShading: return fillSpatialShading(target, coverage, style);
+    case SurfaceLayer::InnerShadow: return fillInnerShadow(target, coverage, style);
+    case SurfaceLayer::Noise: return fillNoise(target, coverage, style, surfaceOrigin);
+    default: return; // drawn by the painter itself
+    }
+}
+
+} // namespace vela

@@ -1,0 +1,71 @@
+// What painting a surface consists of: the layers its style asks for, in painting order, each with its place.
+// The painter only executes the list.
+#pragma once
+
+#include "vela/geometry.h"
+#include "vela/render/shapes/coverage.h"
+#include "vela/theme/records/surface_style.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+namespace vela {
+
+enum class SurfaceLayer : std::uint8_t {
+    Glow,
+    Shadow,
+    Gradient,
+    Fill,
+    Bitmap,
+    Border,
+    Material,
+    SpatialShading,
+    InnerShadow,
+    Noise,
+    Outline,
+};
+
+// One layer at its place. Colour, alpha and pen width are those of layers that have just one of each.
+struct PaintStep {
+    SurfaceLayer layer = SurfaceLayer::Fill;
+    Rect rect;
+    Color color = 0;
+    std::uint8_t alpha = 255;  // Glow, Shadow
+    std::int32_t penWidth = 0; // Border, Outline
+    friend bool operator==(const PaintStep&, const PaintStep&) = default;
+};
+
+// How much of what lies beneath it a surface's bitmap hides; None also when it could not be loaded.
+enum class BitmapCover : std::uint8_t { None, Partial, Full };
+
+class PaintPlan {
+public:
+    static constexpr std::int32_t kMostGlowRings = 8;
+
+    const PaintStep* begin() const noexcept { return steps_.data(); }
+    const PaintStep* end() const noexcept { return steps_.data() + count_; }
+    std::size_t size() const noexcept { return count_; }
+    void add(const PaintStep& step) noexcept { steps_[count_++] = step; }
+
+private:
+    static constexpr std::size_t kOtherLayers = 9; // gradient and fill exclude each other
+    std::array<PaintStep, kMostGlowRings + kOtherLayers> steps_;
+    std::size_t count_ = 0;
+};
+
+// The clip is the device context's clip box: none when it has no clip. Nothing is planned for a surface that
+// does not meet it, nor a layer.
+PaintPlan paintPlan(const SurfaceStyle& style, const Rect& rect, const std::optional<Rect>& clip,
+                    BitmapCover bitmap = BitmapCover::None);
+
+// Whether the layer is pixels that fillLayer writes, to be composited, rather than something the painter
+// draws.
+bool isPixelLayer(SurfaceLayer layer) noexcept;
+
+// Writes the visible part of a pixel layer. The coverage has the step's size; surfaceOrigin is the surface's
+// position in its window.
+void fillLayer(const LayerTarget& target, const Coverage& coverage, const PaintStep& step,
+               const SurfaceStyle& style, Point surfaceOrigin);
+
+} // namespace vela

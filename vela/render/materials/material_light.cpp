@@ -1,0 +1,71 @@
+#include "vela/render/materials/material_light.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace vela {
+namespace {
+
+using simd::Float4;
+
+Float4 channelOf(simd::UInt4 pixels, int shift) noexcept
+{
+    return simd::toFloat(reinterpret_cast<simd::Int4>(pixels >> shift & 0xFFU));
+}
+
+} // namespace
+
+Backlight::Backlight(const MaterialScene& scene)
+    : scene_(scene), opacity_(scene.look().backlightOpacity * 0.70F)
+{
+    const MaterialLook& look = scene.look();
+    if (look.phase > 0) {
+        const float turned = look.phase * (2 * std::numbers::pi_v<float>);
+        middleX_ += 0.16F * std::cos(turned);
+        middleY_ += 0.12F * std::sin(turned * 0.83F + 0.8F);
+    }
+    const float spread = look.blobScale / std::max(64.0F, scene.longerSide());
+    const float length = std::clamp(spread * 0.62F, 0.26F, 1.25F);
+    const float breadth = std::clamp(spread * 0.24F, 0.12F, 0.64F);
+    const float axisX = std::cos(look.blobAngle);
+    const float axisY = std::sin(look.blobAngle);
+    const float along = 1 / (length * length);
+    const float across = 1 / (breadth * breadth);
+    squareX_ = axisX * axisX * along + axisY * axisY * across;
+    squareY_ = axisY * axisY * along + axisX * axisX * across;
+    product_ = 2 * axisX * axisY * (along - across);
+}
+
+MaterialConstants withoutLight(const MaterialConstants& constants) noexcept
+{
+    MaterialConstants rest = constants;
+    rest.material4.x = 0;
+    rest.material4.z = 0;
+    return rest;
+}
+
+void addLight(const MaterialConstants& constants, const PixelView& rest, const PixelView& target)
+{
+    const MaterialScene scene(constants, {0, target.size.width});
+    const MaterialLook& look = scene.look();
+    const float levels = 255 * look.strength * look.opacity;
+    Backlight light(scene);
+    for (std::int32_t y = 0; y < target.size.height; ++y) {
+        light.beginRow(scene.rowAt(y));
+        const Pixel* const still = rest.row(y);
+        simd::writeInFours(target.row(y), 0, target.size.width, [&](std::int32_t x) {
+            const simd::UInt4 beneath = simd::loadPixels(still + x, target.size.width - x);
+            const Float4 added = light.at(static_cast<std::size_t>(x)) * levels;
+            const Float4 alpha = channelOf(beneath, 24) + added;
+            // Opacity is cut at its most and the colour, which carries it, with it.
+            const Float4 cut = alpha > 255.0F ? 255.0F / alpha : simd::splat(1.0F);
+            return simd::packedPixels((channelOf(beneath, 0) + added * look.backlight.blue) * cut,
+                                      (channelOf(beneath, 8) + added * look.backlight.green) * cut,
+                                      (channelOf(beneath, 16) + added * look.backlight.red) * cut,
+                                      alpha * cut);
+        });
+    }
+}
+
+} // namespace vela

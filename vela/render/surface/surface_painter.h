@@ -1,0 +1,30 @@
+// Painting of styled surfaces on a device context. Rectangles are in the context's logical pixels, which are
+// the window's client pixels. No layer reports failure: one that cannot be made is left out. UI thread only.
+#pragma once
+
+#include "vela/geometry.h"
+#include "vela/platform_handles.h"
+#include "vela/render/bitmaps/bitmap_geometry.h"
+#include "vela/render/surface/surface_shape.h"
+#include "vela/theme/records/surface_style.h"
+
+namespace vela {
+
+// All layers of the style, in their order. Costs nothing when the clip hides the surface.
+void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style);
+
+// One layer alone, whatever the style's switches say.
+void drawGradientShape(HDC dc, const Rect& rect, const SurfaceStyle& style);
+void drawMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style);
+void drawSpatialSurfaceShading(HDC dc, const Rect& rect, const SurfaceStyle& style);
+void drawInnerShadow(HDC dc, const Rect& rect, const SurfaceStyle& style);
+void drawNoise(HDC dc, const Rect& rect, const SurfaceStyle& style);
+
+// Whether the pointer is on what is painted: by the surface's bitmap where the style says so, else by the
+// shape that a control names for its hits.
+bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point);
+
+// The part of the surface that its bitmap leaves for its text, or for another part of what stands on it.
+Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi);
+
+} // namespace vela

@@ -1,0 +1,44 @@
+// What drawing and measuring know of a made font.
+#pragma once
+
+#include "vela/render/gdi/owned_gdi.h"
+#include "vela/render/text/font_choice.h"
+#include "vela/render/text/text_lines.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace vela {
+
+struct Font {
+    FontKey key;
+    FontFace face;
+    std::int32_t em = 0;  // pixels
+    OwnedFont owned = {}; // empty when the stock font stands in
+    HFONT handle = nullptr;
+    std::int32_t lineHeight = 0; // pixels, as GDI steps from line to line
+    std::int32_t ascent = 0;     // pixels from the top of a line to its base line
+};
+
+// The widths of a font. It outlives the ruler.
+class GdiRuler final : public TextRuler {
+public:
+    explicit GdiRuler(const Font& font);
+    void measure(std::wstring_view text, std::vector<std::int32_t>& ends) const override;
+
+private:
+    OwnedMemoryDc dc_;
+    SelectedObject selected_;
+};
+
+// Never fails: a font that cannot be made is the stock GUI font. Valid until the process ends.
+const Font& ensureFont(const FontSpec& font, std::int32_t dpi);
+
+// Every font made so far stays; this many there are.
+std::size_t fontCount() noexcept;
+
+// The paths of the private font files that could be registered.
+const std::vector<std::wstring>& privateFontFiles();
+
+} // namespace vela

@@ -1,0 +1,35 @@
+// Judges a whole style sheet by the contrast rules.
+#pragma once
+
+#include "vela/theme/records/style_sheet.h"
+#include "vela/theme/records/surface_tones.h"
+
+#include <string>
+#include <vector>
+
+namespace vela {
+
+// How the tones are found that a surface shows when it lies on others.
+struct FaceTones {
+    using Finder = Tones (*)(const SurfaceStyle& surface, const Tones& under);
+
+    Finder ofGround = facesOf; // of what controls lie on
+    Finder ofFace = facesOf;   // of controls and their parts
+};
+
+// One pair, judged. Reached is the ratio at the worst place.
+struct ContrastCheck {
+    ControlKind kind = ControlKind::Text;
+    std::wstring variant;
+    std::string part; // in words: "hot caption"
+    float required = 0;
+    float reached = 0;
+
+    bool holds() const noexcept { return reached >= required; }
+};
+
+// As far as the records tell, unless told otherwise: then the worst place is the worst stop of a gradient and
+// what shines through a translucent face, and what bitmaps and materials add is not seen.
+std::vector<ContrastCheck> contrastChecks(const StyleSheet& sheet, const FaceTones& faces = {});
+
+} // namespace vela

@@ -1,0 +1,122 @@
+#include "vela/theme/derive/derive_builders.h"
+
+#include "vela/theme/color/oklab.h"
+#include "vela/theme/derive/derive_surfaces.h"
+
+namespace vela {
+namespace {
+
+// A thin bar without a frame: the track is an outline, its inset makes it six pixels of the control's 28.
+void makeSlim(const DeriveContext& context, ProgressBarStyle& style)
+{
+    style.frame = bareSurface(context, style.frameShape);
+    style.track =
+        surfaceOf(context, {.fill = context.control.normal, .border = context.edge}, style.trackShape);
+    style.insetX = 0;
+    style.insetY = 11;
+}
+
+void makeFramed(const DeriveContext& context, ProgressBarStyle& style)
+{
+    const Color well = context.groundFill(towards(context.ground.fill, context.theme.shell, 0.05F));
+    style.frame = surfaceOf(context, {.fill = context.ground.fill, .border = context.edge}, style.frameShape);
+    style.track = sunkenOf(context, well, context.hairline, style.trackShape);
+    style.insetX = 4;
+    style.insetY = 4;
+}
+
+SurfaceStyle thumbOf(const DeriveContext& context, Color fill, Form form, ShapeKind shape)
+{
+    return surfaceOf(context, {.fill = fill, .border = fill, .form = form, .substance = Substance::Control},
+                     shape);
+}
+
+// Bare until the pointer comes, and always where the arrow's one colour is seen.
+PerState<SurfaceStyle> arrowButtons(const DeriveContext& context, Color arrow, const Bed& bed,
+                                    ShapeKind shape)
+{
+    const auto veil = [&](float amount, std::initializer_list<Color> others) {
+        return context.fillUnder(arrow, bed.fill, context.veil(bed, amount), Form::Plate, others);
+    };
+    const Color hot = veil(0.055F, {bed.fill});
+    const Color pressed = veil(0.10F, {bed.fill, hot});
+    return {.normal = bareSurface(context, shape),
+            .hot = plateOf(context, hot, shape),
+            .pressed = plateOf(context, pressed, shape),
+            .disabled = bareSurface(context, shape),
+            .active = plateOf(context, veil(0.075F, {bed.fill, hot, pressed}), shape)};
+}
+
+} // namespace
+
+void buildProgressBar(const DeriveContext& context, StyleSheet& sheet)
+{
+    ProgressBarStyle& style = sheet.table<ProgressBarStyle>().defaultRecord();
+    style.shape = context.look.trackShape;
+    style.frameShape = context.look.trackShape;
+    style.trackShape = context.look.trackShape;
+    style.fillShape = context.look.trackShape;
+    if (context.look.slimTracks)
+        makeSlim(context, style);
+    else
+        makeFramed(context, style);
+    const Bed track = bedOn(style.track, context.ground);
+    const Color fill = context.markFill(context.theme.accent, track.tones, Form::Raised);
+    // Without a border: it would be open at the end that moves.
+    style.fill = surfaceOf(context,
+                           {.fill = fill,
+                            .border = fill,
+                            .form = Form::Raised,
+                            .substance = Substance::Accent,
+                            .bordered = false},
+                           style.fillShape);
+    style.fill.showShadow = false;
+    Tones label = bedOn(style.frame, context.ground).tones;
+    label.include(context.ground.tones);
+    style.labelText = textOn(context, label, {context.text}, kLabel);
+    style.labelWidth = 52;
+    style.labelPadding = 8;
+}
+
+void deriveScrollBar(const DeriveContext& context, const Bed& bed, ScrollBarStyle& style)
+{
+    style.trackShape = context.look.trackShape;
+    style.thumbShape = context.look.trackShape;
+    style.buttonShape = context.look.controlShape;
+    const Color groove = context.stateFill(context.veil(bed, 0.035F), Form::Sunken, {});
+    style.track =
+        surfaceOf(context, {.fill = groove, .border = groove, .form = Form::Sunken, .bordered = false},
+                  style.trackShape);
+    const Bed track = bedOn(style.track, bed);
+
+    const Color rest = context.mark(mixed(context.edge, context.theme.mutedText, 0.3F), track.tones);
+    const Color pole = strongestOn(track.tones);
+    const auto fill = [&](Color wanted, Form form, std::initializer_list<Color> others) {
+        return context.markFill(wanted, track.tones, form, others);
+    };
+    const Color normal = fill(rest, Form::Raised, {});
+    const Color hot = fill(mixed(rest, pole, 0.25F), Form::Raised, {normal});
+    const Color pressed = fill(context.theme.accent, Form::Pressed, {normal, hot});
+    const Color active = fill(context.theme.accentHot, Form::Raised, {normal, hot, pressed});
+    style.thumb = {.normal = thumbOf(context, normal, Form::Raised, style.thumbShape),
+                   .hot = thumbOf(context, hot, Form::Raised, style.thumbShape),
+                   .pressed = thumbOf(context, pressed, Form::Pressed, style.thumbShape),
+                   .disabled = plateOf(context, mixed(track.fill, rest, 0.35F), style.thumbShape),
+                   .active = thumbOf(context, active, Form::Raised, style.thumbShape)};
+    style.arrow = context.readable({context.theme.mutedText, context.text}, bed.tones);
+    style.decrementButton = arrowButtons(context, style.arrow, bed, style.buttonShape);
+    style.incrementButton = style.decrementButton;
+    style.buttonExtent = 16;
+    style.minThumbExtent = 28;
+    style.trackPadding = 3;
+    style.trackThickness = 12;
+    style.thumbThickness = context.look.slimTracks ? 6 : 8;
+    style.showButtons = false;
+}
+
+void buildScrollBar(const DeriveContext& context, StyleSheet& sheet)
+{
+    deriveScrollBar(context, context.ground, sheet.table<ScrollBarStyle>().defaultRecord());
+}
+
+} // namespace vela

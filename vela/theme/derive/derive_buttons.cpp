@@ -1,0 +1,202 @@
+#include "vela/theme/derive/derive_buttons.h"
+
+#include "vela/theme/color/oklab.h"
+#include "vela/theme/derive/derive_builders.h"
+
+namespace vela {
+namespace {
+
+using Faces = PerState<Face>;
+
+Face controlFace(Color fill, Color border, Form form)
+{
+    return {.fill = fill, .border = border, .form = form, .substance = Substance::Control};
+}
+
+Faces standardFaces(const DeriveContext& context, const Bed& bed)
+{
+    const PerState<Color>& fills = context.control;
+    const Color edge = context.mark(context.edge, bed.tones);
+    const Color activeEdge = context.mark(context.theme.accent, bed.tones);
+    return {.normal = controlFace(fills.normal, edge, Form::Raised),
+            .hot = controlFace(fills.hot, context.mark(context.hotEdge, bed.tones), Form::Raised),
+            .pressed = controlFace(fills.pressed, edge, Form::Pressed),
+            .disabled = controlFace(fills.disabled, context.quietEdge, Form::Plate),
+            .active = controlFace(fills.active, activeEdge, Form::Pressed)};
+}
+
+Faces outlineFaces(const DeriveContext& context, const Bed& bed)
+{
+    Faces faces = standardFaces(context, bed);
+    const auto faded = [&](Color fill, Form form, std::initializer_list<Color> others) {
+        return context.stateFill(mixed(fill, bed.fill, 0.55F), form, others);
+    };
+    faces.normal.fill = faded(faces.normal.fill, Form::Raised, {});
+    faces.hot.fill = faded(faces.hot.fill, Form::Raised, {faces.normal.fill});
+    faces.pressed.fill = faded(faces.pressed.fill, Form::Pressed, {faces.normal.fill, faces.hot.fill});
+    faces.active.fill =
+        faded(faces.active.fill, Form::Pressed, {faces.normal.fill, faces.hot.fill, faces.pressed.fill});
+    return faces;
+}
+
+Faces quietFaces(const DeriveContext& context, const Bed& bed)
+{
+    // The faintest face must stand out from the light that a material throws on a dark ground.
+    const float light = context.materials && context.dark ? 0.03F : 0.0F;
+    const auto veil = [&](float amount) {
+        return Face{.fill = context.stateFill(context.veil(bed, amount), Form::Plate, {bed.fill}),
+                    .border = context.hairline,
+                    .bordered = false};
+    };
+    const Face bare = {.fill = bed.fill, .border = context.hairline, .drawn = false};
+    Faces faces = {.normal = bare,
+                   .hot = veil(0.055F + light),
+                   .pressed = veil(0.10F),
+                   .disabled = bare,
+                   .active = veil(0.075F)};
+    faces.pressed.fill = context.stateFill(faces.pressed.fill, Form::Plate, {faces.hot.fill});
+    faces.active.fill = context.stateFill(mixed(faces.active.fill, context.theme.accent, 0.18F), Form::Plate,
+                                          {faces.hot.fill, faces.pressed.fill});
+    return faces;
+}
+
+Faces softFaces(const DeriveContext& context, Hue hue, const Bed& bed)
+{
+    const Color solid = context.solid(hue);
+    const Color border = context.mark(solid, bed.tones);
+    const auto tinted = [&](float amount, Form form, std::initializer_list<Color> others) {
+        Face face =
+            controlFace(context.stateFill(mixed(bed.fill, solid, amount), form, others), border, form);
+        return face;
+    };
+    Faces faces = standardFaces(context, bed);
+    faces.normal = tinted(0.14F, Form::Raised, {});
+    faces.hot = tinted(0.24F, Form::Raised, {faces.normal.fill});
+    faces.pressed = tinted(0.08F, Form::Pressed, {faces.normal.fill, faces.hot.fill});
+    faces.active = tinted(0.32F, Form::Pressed, {faces.normal.fill, faces.hot.fill, faces.pressed.fill});
+    return faces;
+}
+
+Faces solidFaces(const DeriveContext& context, Hue hue, const Bed& bed)
+{
+    const Color solid = context.solid(hue);
+    const Color hot =
+        hue == Hue::Accent ? context.theme.accentHot : lightened(solid, context.dark ? 0.05F : -0.05F);
+    Faces faces = standardFaces(context, bed);
+    const Color normal = solidFill(context, solid, Form::Raised);
+    // The caption keeps its colour while the button is used.
+    const Color ink = context.inkOn(context.shades(normal, Form::Raised));
+    const auto face = [&](Color wanted, Form form, std::initializer_list<Color> others) {
+        const Color fill = context.fillUnder(ink, normal, wanted, form, others, context.solidAim);
+        return solidFace(context, fill, bed, form);
+    };
+    faces.normal = solidFace(context, normal, bed, Form::Raised);
+    faces.hot = face(hot, Form::Raised, {normal});
+    faces.pressed = face(mixed(solid, bed.fill, 0.2F), Form::Pressed, {normal, faces.hot.fill});
+    faces.active = face(mixed(solid, context.strongText, 0.15F), Form::Pressed,
+                        {normal, faces.hot.fill, faces.pressed.fill});
+    return faces;
+}
+
+Faces facesFor(const DeriveContext& context, const ButtonRecipe& recipe, const Bed& bed)
+{
+    switch (recipe.emphasis) {
+    case Emphasis::Solid: return solidFaces(context, recipe.hue, bed);
+    case Emphasis::Outline: return outlineFaces(context, bed);
+    case Emphasis::Soft: return softFaces(context, recipe.hue, bed);
+    case Emphasis::Quiet: return quietFaces(context, bed);
+    case Emphasis::Standard: break;
+    }
+    return standardFaces(context, bed);
+}
+
+Color captionOn(const DeriveContext& context, const ButtonRecipe& recipe, VisualState state,
+                const Tones& face)
+{
+    if (recipe.emphasis == Emphasis::Solid)
+        return context.inkOn(face);
+    if (recipe.emphasis == Emphasis::Soft)
+        return context.readable({context.inkOf(recipe.hue)}, face);
+    const bool lively = state == VisualState::Hot || state == VisualState::Active;
+    return lively ? context.readable({context.strongText, context.text}, face)
+                  : context.readable({context.text, context.strongText}, face);
+}
+
+struct ButtonRow {
+    std::wstring_view variant;
+    ButtonRecipe recipe;
+};
+
+constexpr ButtonRow kButtonRows[] = {
+    {L"default", {}},
+    {L"secondary", {Hue::Neutral, Emphasis::Outline}},
+    {L"primary", {Hue::Accent, Emphasis::Solid}},
+    {L"primary-action", {Hue::Accent, Emphasis::Solid, kLabel}},
+    {L"quiet", {Hue::Neutral, Emphasis::Quiet}},
+    {L"success", {Hue::Success, Emphasis::Soft}},
+    {L"success-action", {Hue::Success, Emphasis::Solid, kLabel}},
+    {L"warning", {Hue::Warning, Emphasis::Soft}},
+    {L"warning-action", {Hue::Warning, Emphasis::Solid, kLabel}},
+    {L"danger", {Hue::Danger, Emphasis::Soft}},
+    {L"danger-action", {Hue::Danger, Emphasis::Solid, kLabel}},
+};
+
+// A glyph button is a button face with a drawing on it: it keeps one surface, and the drawing takes the tint.
+struct BitmapButtonRow {
+    std::wstring_view variant;
+    ButtonRecipe recipe;
+    bool muted = false;
+};
+
+constexpr BitmapButtonRow kBitmapButtonRows[] = {
+    {L"default", {Hue::Neutral, Emphasis::Quiet}},
+    {L"action", {Hue::Neutral, Emphasis::Standard}},
+    {L"primary-action", {Hue::Accent, Emphasis::Solid, kLabel}},
+    {L"muted", {Hue::Neutral, Emphasis::Quiet}, true},
+};
+
+} // namespace
+
+void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, const Bed& bed, ShapeKind shape,
+                  ButtonStyle& style)
+{
+    const Faces faces = facesFor(context, recipe, bed);
+    style.shape = shape;
+    style.hitShape = shape;
+    const Color focus = context.mark(context.focus, bed.tones);
+    const Color solidInk = context.inkOn(context.shades(faces.normal.fill, faces.normal.form));
+    for (int index = 0; index < kVisualStateCount; ++index) {
+        const auto state = static_cast<VisualState>(index);
+        SurfaceStyle& surface = style.surface[state];
+        surface = surfaceOf(context, faces[state], shape);
+        surface.glow = focus;
+        const Tones face = bedOn(surface, bed).tones;
+        const bool solid = recipe.emphasis == Emphasis::Solid && state != VisualState::Disabled;
+        const Color caption = solid ? solidInk : captionOn(context, recipe, state, face);
+        style.text[state] = textOf(context, caption, context.faint(caption, face), recipe.type);
+    }
+    style.text.disabled.color = style.text.disabled.disabledColor;
+}
+
+void buildButtons(const DeriveContext& context, StyleSheet& sheet)
+{
+    for (const ButtonRow& row : kButtonRows)
+        deriveButton(context, row.recipe, context.ground, context.look.controlShape,
+                     sheet.table<ButtonStyle>().ensure(row.variant));
+}
+
+void buildBitmapButtons(const DeriveContext& context, StyleSheet& sheet)
+{
+    ButtonStyle face;
+    for (const BitmapButtonRow& row : kBitmapButtonRows) {
+        deriveButton(context, row.recipe, context.ground, context.look.controlShape, face);
+        BitmapButtonStyle& style = sheet.table<BitmapButtonStyle>().ensure(row.variant);
+        style.text = face.text.normal;
+        style.image = face.surface.normal;
+        if (row.muted)
+            style.text.color = context.mutedText;
+        style.tint = style.text.color;
+    }
+}
+
+} // namespace vela

@@ -1,0 +1,25 @@
+// Buttons of every emphasis, on any bed: the button kind itself and the buttons that other records contain.
+#pragma once
+
+#include "vela/theme/derive/derive_surfaces.h"
+
+namespace vela {
+
+enum class Emphasis : std::uint8_t {
+    Solid,    // filled with the hue: the action that the dialog is about
+    Standard, // a control's own face
+    Outline,  // a control's face, half faded into the bed
+    Soft,     // tinted with the hue
+    Quiet,    // only text until the pointer comes
+};
+
+struct ButtonRecipe {
+    Hue hue = Hue::Neutral;
+    Emphasis emphasis = Emphasis::Standard;
+    Type type = kBody;
+};
+
+void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, const Bed& bed, ShapeKind shape,
+                  ButtonStyle& style);
+
+} // namespace vela

@@ -1,0 +1,225 @@
+#include "vela/theme/derive/derive_buttons.h"
+
+#include "vela/theme/color/oklab.h"
+#include "vela/theme/derive/derive_builders.h"
+
+#include <algorithm>
+
+namespace vela {
+namespace {
+
+constexpr Type kPopupTitle = {.points = 8, .weight = 200};
+constexpr Type kCardTitle = {.points = 2, .weight = 200};
+constexpr Type kGlyph = {.points = 4, .weight = 300};
+constexpr std::uint8_t kGlassOpacity = 214;
+
+// Sentences are read in the regular weight, however heavy a skin makes its captions.
+FontSpec readingTextOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted)
+{
+    constexpr std::int32_t kRegular = 400;
+    FontSpec font = textOn(context, on, wanted);
+    font.weight = std::min(font.weight, kRegular);
+    return font;
+}
+
+void deriveCard(const DeriveContext& context, Color fill, CardStyle& style)
+{
+    style.shape = context.look.panelShape;
+    style.headerShape = context.look.panelShape;
+    style.surface = groundOf(context, fill, context.hairline, style.shape);
+    style.header = bareSurface(context, style.headerShape);
+    const Bed bed = bedOn(style.surface, context.ground);
+    style.titleText = textOn(context, bed.tones, {context.strongText, context.text}, kCardTitle);
+    style.subtitleText = textOn(context, bed.tones, {context.mutedText, context.text});
+    style.headerHeight = 48;
+    style.contentPadding = 16;
+}
+
+void deriveRaisedCard(const DeriveContext& context, CardStyle& style)
+{
+    deriveCard(context, context.grounds.raisedCard, style);
+    const FormLook& raised = context.look.form(Form::Raised);
+    style.surface.showShadow = raised.shadow > 0;
+    style.surface.shadowOpacity = raised.shadow;
+}
+
+// Figures at a glance: a deeper ground, and a title that leaves the stage to them.
+void deriveDashboardCard(const DeriveContext& context, CardStyle& style)
+{
+    deriveCard(context, context.grounds.dashboard, style);
+    const Bed bed = bedOn(style.surface, context.ground);
+    style.titleText = textOn(context, bed.tones, {context.text}, kLabel);
+    style.subtitleText = textOn(context, bed.tones, {context.mutedText, context.text}, kSmall);
+    style.headerHeight = 40;
+}
+
+void deriveChip(const DeriveContext& context, Hue hue, StatusChipStyle& style)
+{
+    const bool plain = hue == Hue::Neutral;
+    const Color lead = context.solid(plain ? Hue::Accent : hue);
+    const Color tint = plain ? context.veil(context.ground, 0.05F) : mixed(context.ground.fill, lead, 0.14F);
+    style.shape = ShapeKind::Pill;
+    style.badgeShape = ShapeKind::Pill;
+    const Color fill = context.stateFill(tint, Form::Plate, {});
+    style.surface = surfaceOf(context, {.fill = fill, .border = mixed(fill, lead, 0.4F)}, style.shape);
+    const Bed bed = bedOn(style.surface, context.ground);
+    style.text = textOn(context, bed.tones, {plain ? context.text : context.inkOf(hue)}, kSmall);
+    style.badge = plateOf(context, context.markFill(lead, bed.tones, Form::Plate), style.badgeShape);
+}
+
+void derivePopup(const DeriveContext& context, Color frame, Hue badge, PopupStyle& style)
+{
+    const ShapeKind button = context.look.controlShape;
+    style.shape = context.look.panelShape;
+    style.headerShape = context.look.panelShape;
+    style.iconShape = ShapeKind::Pill;
+    style.surface = groundOf(context, context.grounds.panel, frame, style.shape);
+    style.header = bareSurface(context, style.headerShape);
+    style.footer = groundOf(context, context.grounds.glass, context.hairline, ShapeKind::Rect);
+    style.footer.showOutline = false;
+    style.icon = badgeOf(context, badge, context.ground, style.iconShape);
+    const Bed bed = bedOn(style.surface, context.ground);
+    const Color ink = context.inkOn(bedOn(style.icon, bed).tones);
+    style.iconText = textOf(context, ink, ink, kGlyph);
+    style.titleText = textOn(context, bed.tones, {context.strongText, context.text}, kPopupTitle);
+    style.messageText = readingTextOn(context, bed.tones, {context.text});
+    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, bed, button, style.closeButton);
+    const Bed actions = bedOn(style.footer, bed);
+    deriveButton(context, {Hue::Accent, Emphasis::Solid, kLabel}, actions, button, style.primaryAction);
+    deriveButton(context, {}, actions, button, style.secondaryAction);
+    style.surface.shadowOpacity = context.look.form(Form::Raised).shadow;
+    style.showShadow = style.surface.shadowOpacity > 0;
+    // With the title bar of the mode, messages begin at one height in all windows.
+    style.headerHeight = context.look.flushCaptionButtons ? 80 : 72;
+    style.iconSize = 32;
+    style.paddingX = 20;
+    style.paddingY = 20;
+    style.actionWidth = 128;
+    style.actionHeight = 34;
+    style.actionGap = 8;
+}
+
+void deriveTooltip(const DeriveContext& context, TooltipStyle& style)
+{
+    const Color fill = context.groundFill(towards(context.ground.fill, context.control.normal, 0.05F));
+    style.shape = ShapeKind::RoundedRect;
+    style.iconShape = ShapeKind::Pill;
+    style.railShape = ShapeKind::Pill;
+    style.surface = groundOf(context, fill, mixed(fill, context.edge, 0.6F), style.shape);
+    style.surface.useNoise = false;
+    style.surface.shadowOpacity = context.look.form(Form::Raised).shadow;
+    style.showShadow = style.surface.shadowOpacity > 0;
+    const Bed bed = bedOn(style.surface, context.ground);
+    style.textStyle = textOn(context, bed.tones, {context.text});
+    style.icon = badgeOf(context, Hue::Accent, bed, style.iconShape);
+    const Color ink = context.inkOn(bedOn(style.icon, bed).tones);
+    style.iconText = textOf(context, ink, ink, {.points = -1, .weight = 300});
+    style.accentRail =
+        plateOf(context, context.markFill(context.theme.accent, bed.tones, Form::Plate), style.railShape);
+}
+
+} // namespace
+
+void buildTexts(const DeriveContext& context, StyleSheet& sheet)
+{
+    VariantTable<TextStyle>& texts = sheet.table<TextStyle>();
+    const Tones& ground = context.ground.tones;
+    texts.ensure(L"default") = readingTextOn(context, ground, {context.text});
+    texts.ensure(L"title") = textOn(context, ground, {context.strongText}, kLabel);
+    texts.ensure(L"muted") = readingTextOn(context, ground, {context.mutedText});
+    FontSpec& mono = texts.ensure(L"mono");
+    mono = context.theme.monoFont;
+    mono.color = context.text;
+    mono.disabledColor = context.disabledText;
+    texts.ensure(L"danger") = textOn(context, ground, {context.inkOf(Hue::Danger)});
+}
+
+void buildPanels(const DeriveContext& context, StyleSheet& sheet)
+{
+    const auto panel = [&](std::wstring_view variant, Color fill, Color border) -> PanelStyle& {
+        PanelStyle& style = sheet.table<PanelStyle>().ensure(variant);
+        style.shape = context.look.panelShape;
+        style.surface = groundOf(context, fill, border, style.shape);
+        style.padding = 16;
+        return style;
+    };
+    panel(L"default", context.grounds.panel, context.hairline);
+    SurfaceStyle& glass =
+        panel(L"glass", context.grounds.glass, mixed(context.hairline, context.edge, 0.4F)).surface;
+    glass.opacity = glass.useGradient ? kGlassOpacity : glass.opacity;
+}
+
+void buildCards(const DeriveContext& context, StyleSheet& sheet)
+{
+    VariantTable<CardStyle>& cards = sheet.table<CardStyle>();
+    deriveCard(context, context.grounds.card, cards.ensure(L"default"));
+    deriveRaisedCard(context, cards.ensure(L"raised"));
+    deriveDashboardCard(context, cards.ensure(L"dashboard"));
+}
+
+void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
+{
+    const bool flush = context.look.flushCaptionButtons;
+    ChromeTitleBarStyle& style = sheet.table<ChromeTitleBarStyle>().defaultRecord();
+    style.shape = ShapeKind::Rect;
+    style.surface = groundOf(context, context.header.fill, context.hairline, style.shape);
+    style.surface.showOutline = false;
+    const Bed bed = bedOn(style.surface, context.ground);
+    style.titleText = textOn(context, bed.tones, {context.text, context.strongText}, flush ? kSmall : kLabel);
+    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, bed,
+                 flush ? ShapeKind::Rect : context.look.controlShape, style.titleButton);
+    const Color closing = solidFill(context, context.solid(Hue::Danger), Form::Plate);
+    style.closeHotColor = context.inkOn(context.shades(closing, Form::Plate));
+    style.closePressedColor = style.closeHotColor;
+    const Color closingNow = context.fillUnder(style.closeHotColor, closing, mixed(closing, bed.fill, 0.2F),
+                                               Form::Plate, {closing});
+    style.closeHotSurface = plateOf(context, closing, style.titleButton.shape);
+    style.closePressedSurface = plateOf(context, closingNow, style.titleButton.shape);
+    style.buttonWidth = flush ? 46 : 34;
+    style.buttonHeight = flush ? 32 : 26;
+    style.buttonTop = flush ? 0 : 7;
+    style.buttonGap = flush ? 0 : 4;
+    style.rightMargin = flush ? 0 : 8;
+    style.headerActionGap = 4;
+    style.headerActionGroupGap = 12;
+    style.iconSize = 16;
+    style.iconLeft = 12;
+    style.titleLeft = 36;
+}
+
+void buildStatusChips(const DeriveContext& context, StyleSheet& sheet)
+{
+    VariantTable<StatusChipStyle>& chips = sheet.table<StatusChipStyle>();
+    deriveChip(context, Hue::Neutral, chips.ensure(L"default"));
+    deriveChip(context, Hue::Success, chips.ensure(L"success"));
+    deriveChip(context, Hue::Warning, chips.ensure(L"warning"));
+    deriveChip(context, Hue::Danger, chips.ensure(L"danger"));
+}
+
+void buildPopups(const DeriveContext& context, StyleSheet& sheet)
+{
+    VariantTable<PopupStyle>& popups = sheet.table<PopupStyle>();
+    const Color frame = context.theme.frame;
+    derivePopup(context, frame, Hue::Accent, popups.ensure(L"default"));
+    // A failure is told, not shouted: the badge is red and the frame leans to red; what Enter presses looks
+    // as everywhere.
+    derivePopup(context, mixed(frame, context.solid(Hue::Danger), 0.6F), Hue::Danger,
+                popups.ensure(L"danger"));
+}
+
+void buildTooltips(const DeriveContext& context, StyleSheet& sheet)
+{
+    VariantTable<TooltipStyle>& tooltips = sheet.table<TooltipStyle>();
+    deriveTooltip(context, tooltips.ensure(L"default"));
+    TooltipStyle& help = tooltips.ensure(L"designed-help");
+    deriveTooltip(context, help);
+    help.showAccentRail = true;
+    help.showIcon = true;
+    help.iconSize = 20;
+    help.paddingX = 14;
+    help.paddingY = 10;
+    help.maxWidth = 380;
+    help.gap = 10;
+}
+
+} // namespace vela

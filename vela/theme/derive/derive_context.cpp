@@ -1,0 +1,245 @@
+#include "vela/theme/derive/derive_context.h"
+
+#include "vela/theme/color/oklab.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vela {
+namespace {
+
+constexpr float kRimOfRatio = 0.04F; // above the rule, so that rounding never falls below it
+// What a material's light and texture take of the contrast, measured on painted surfaces. Marks lie on large
+// surfaces, whose glow lifts the dark ones; the glossiest faces are those in the accent's material.
+constexpr float kTextRoom = 1.38F;
+constexpr float kMarkRoom = 1.6F;
+constexpr float kSolidRoom = 1.6F;
+// What the light on carved forms takes where no material is worn.
+constexpr float kReliefRoom = 1.05F;
+constexpr float kInkRoom = 1.5F; // five fills, that far apart, between the first and the last legible one
+constexpr float kStatesApart = 0.022F; // just visible side by side
+constexpr int kStateSteps = 24;        // of half that distance, tried to either side
+
+// The hue of a status, as a direction in Oklab's colour plane, and the lightness in which people know it.
+struct StatusHue {
+    Hue hue;
+    float a;
+    float b;
+    float chroma;
+    float darkest;
+    float lightest;
+};
+constexpr StatusHue kStatusHues[] = {
+    {Hue::Success, -0.85F, 0.53F, 0.14F, 0.50F, 0.70F},
+    {Hue::Warning, 0.22F, 0.98F, 0.15F, 0.70F, 0.80F},
+    {Hue::Danger, 0.91F, 0.42F, 0.18F, 0.52F, 0.64F},
+};
+constexpr float kPull = 0.14F; // how far a status hue leans towards the theme's accent
+constexpr float kHuesApart = 0.09F;
+constexpr float kAside = 0.11F;
+
+Color statusColor(const StatusHue& status, Color accent, bool dark)
+{
+    const Oklab lead = oklabOf(accent);
+    const float a = status.a + kPull * lead.a / 0.15F;
+    const float b = status.b + kPull * lead.b / 0.15F;
+    const float chroma = status.chroma / std::sqrt(a * a + b * b);
+    Oklab lab = {std::clamp(lead.lightness, status.darkest, status.lightest), a * chroma, b * chroma};
+    // A status must not pass for the accent itself: in the light it gets deeper, in the dark it steps aside.
+    if (visualDistance(colorOf(lab), accent) < kHuesApart)
+        lab.lightness += dark && lead.lightness < (status.darkest + status.lightest) / 2 ? kAside : -kAside;
+    return colorOf(lab);
+}
+
+bool isApart(Color color, std::initializer_list<Color> others)
+{
+    return std::ranges::all_of(others,
+                               [color](Color other) { return visualDistance(color, other) >= kStatesApart; });
+}
+
+// The colour or the lighter or darker one nearest to it that fits.
+template <class Fits>
+Color nearestFitting(Color color, const Fits& fits)
+{
+    if (fits(color))
+        return color;
+    for (int step = 1; step <= kStateSteps; ++step) {
+        for (const float direction : {1.0F, -1.0F}) {
+            const Color candidate = lightened(color, direction * static_cast<float>(step) * kStatesApart / 2);
+            if (fits(candidate))
+                return candidate;
+        }
+    }
+    return color;
+}
+
+} // namespace
+
+Color towards(Color from, Color to, float distance) noexcept
+{
+    const float whole = visualDistance(from, to);
+    return whole <= distance ? to : mixed(from, to, distance / whole);
+}
+
+DeriveContext::DeriveContext(const Theme& theme_)
+    : theme(theme_), look(lookOf(theme_.surfaceMode)), materials(look.materials && theme_.materials.enabled),
+      textAim(withRoom(kTextContrast, kTextRoom)), solidAim(withRoom(kTextContrast, kSolidRoom)),
+      markAim(withRoom(kMarkContrast, kMarkRoom))
+{
+    dark = strongestOn(theme.panel) == hexColor(0xFFFFFF);
+    resolveHues();
+    resolveGrounds();
+    resolveInks();
+    resolveControl();
+}
+
+float DeriveContext::withRoom(float ratio, float materialRoom) const noexcept
+{
+    const float plainRoom = look.leastDepth > 0 ? kReliefRoom : 1;
+    return (ratio + kRimOfRatio) * (materials ? materialRoom : plainRoom);
+}
+
+void DeriveContext::resolveHues()
+{
+    solids_[static_cast<int>(Hue::Neutral)] = theme.control;
+    solids_[static_cast<int>(Hue::Accent)] = theme.accent;
+    for (const StatusHue& status : kStatusHues)
+        solids_[static_cast<int>(status.hue)] = statusColor(status, theme.accent, dark);
+}
+
+void DeriveContext::resolveGrounds()
+{
+    const Color panel = groundFill(theme.panel);
+    const Color pole = strongestOn(shades(panel, Form::Ground));
+    dark = pole == hexColor(0xFFFFFF);
+    ground = {panel, shades(panel, Form::Ground)};
+    const auto near = [&](Color role, float distance) {
+        const Color fill = groundFill(towards(panel, role, distance));
+        const Tones tones = shades(fill, Form::Ground);
+        // A ground that would need text of the other kind stays the panel: one text colour serves them all.
+        if (strongestOn(tones) != pole)
+            return panel;
+        ground.tones.include(tones);
+        return fill;
+    };
+    grounds = {.panel = panel,
+               .glass = near(theme.header, 0.030F),
+               .card = near(theme.control, 0.024F),
+               .raisedCard = near(theme.control, 0.036F),
+               .dashboard = near(theme.shell, 0.030F)};
+    header.fill = groundFill(theme.header);
+    header.tones = shades(header.fill, Form::Ground);
+}
+
+void DeriveContext::resolveInks()
+{
+    text = inkUnder({theme.text, theme.textHot}, ground.tones);
+    strongText = inkUnder({theme.textHot, theme.text}, ground.tones);
+    mutedText = readable({theme.mutedText}, ground.tones);
+    disabledText = faint(text, ground.tones);
+    edge = mark(theme.border, ground.tones);
+    hotEdge = mark(mixed(edge, strongText, 0.16F), ground.tones);
+    quietEdge = mixed(ground.fill, edge, 0.45F);
+    hairline = towards(ground.fill, theme.border, 0.16F);
+    inks_[static_cast<int>(Hue::Neutral)] = text;
+    for (const Hue hue : {Hue::Accent, Hue::Success, Hue::Warning, Hue::Danger})
+        inks_[static_cast<int>(hue)] = readable({solid(hue)}, ground.tones);
+    focus = pickReaching({theme.accent, theme.accentHot, text}, ground.tones, markAim);
+}
+
+Color DeriveContext::groundFill(Color wanted) const noexcept
+{
+    return readableFace(wanted, look.form(Form::Ground).shading, textAim);
+}
+
+void DeriveContext::resolveControl()
+{
+    control.normal = stateFill(theme.control, Form::Raised, {});
+    control.hot = stateFill(theme.controlHot, Form::Raised, {control.normal});
+    control.pressed = stateFill(theme.controlPressed, Form::Pressed, {control.normal, control.hot});
+    control.disabled = stateFill(towards(theme.disabledFill, ground.fill, 0.02F), Form::Plate, {});
+    control.active = stateFill(mixed(control.normal, theme.accent, 0.22F), Form::Pressed,
+                               {control.normal, control.hot, control.pressed});
+}
+
+Tones DeriveContext::shades(Color fill, Form form) const noexcept
+{
+    const float shading = std::abs(look.form(form).shading);
+    return shading > 0 ? Tones(lightened(fill, -shading), lightened(fill, shading)) : Tones(fill);
+}
+
+Color DeriveContext::stateFill(Color wanted, Form form, std::initializer_list<Color> others) const noexcept
+{
+    const float shading = std::abs(look.form(form).shading);
+    const Color fill = readableFace(wanted, shading, textAim);
+    return nearestFitting(
+        fill, [&](Color color) { return isApart(color, others) && isReadableFace(color, shading, textAim); });
+}
+
+Color DeriveContext::fillUnder(Color ink, Color base, Color wanted, Form form,
+                               std::initializer_list<Color> others, float aim) const noexcept
+{
+    const auto legible = [&](Color color) { return contrastRatio(ink, shades(color, form)) >= aim; };
+    const auto fits = [&](Color color) { return isApart(color, others) && legible(color); };
+    for (const float amount : {1.0F, 0.6F, 0.35F, 0.2F, 0.1F}) {
+        const Color color = mixed(base, wanted, amount);
+        if (!legible(color))
+            continue;
+        const Color distinct = nearestFitting(color, fits);
+        if (fits(distinct))
+            return distinct;
+    }
+    return nearestFitting(base, fits);
+}
+
+Color DeriveContext::markFill(Color wanted, const Tones& on, Form form,
+                              std::initializer_list<Color> others) const noexcept
+{
+    return nearestFitting(reaching(wanted, on, markAim), [&](Color color) {
+        const Tones tones = shades(color, form);
+        return isApart(color, others) &&
+               std::min(contrastRatio(tones.darkest, on), contrastRatio(tones.lightest, on)) >= markAim;
+    });
+}
+
+Color DeriveContext::inkUnder(std::initializer_list<Color> wanted, const Tones& on) const noexcept
+{
+    return pickReaching(wanted, on, textAim * kInkRoom);
+}
+
+Color DeriveContext::veil(const Bed& bed, float amount) const noexcept
+{
+    return lightened(bed.fill, strongestOn(bed.tones) == hexColor(0xFFFFFF) ? amount : -amount);
+}
+
+Color DeriveContext::readable(std::initializer_list<Color> wanted, const Tones& on) const noexcept
+{
+    return pickReaching(wanted, on, textAim);
+}
+
+Color DeriveContext::inkOn(const Tones& on) const noexcept
+{
+    const Color roles[] = {theme.text, theme.textHot, theme.shell, theme.panel, theme.control};
+    const Color strongest =
+        *std::ranges::max_element(roles, {}, [&on](Color role) { return contrastRatio(role, on); });
+    return reaching(strongest, on, solidAim * kInkRoom);
+}
+
+Color DeriveContext::mark(Color wanted, const Tones& on) const noexcept
+{
+    return reaching(wanted, on, markAim);
+}
+
+Color DeriveContext::faint(Color normal, const Tones& on) const noexcept
+{
+    const float wanted = withRoom(kDisabledTextContrast, kTextRoom);
+    const float full = contrastRatio(normal, on);
+    const float own = contrastRatio(theme.disabledText, on);
+    if (own >= wanted && own <= full * 0.7F)
+        return theme.disabledText;
+    // Between the surface and its text: the palette's own disabled text would be unreadable or too strong
+    // there.
+    return reaching(mixed(on.darkest, normal, 0.35F), on, wanted);
+}
+
+} // namespace vela

@@ -1,0 +1,70 @@
+#include "vela/theme/derive/derive_builders.h"
+
+#include "vela/theme/color/oklab.h"
+#include "vela/theme/derive/derive_surfaces.h"
+
+namespace vela {
+namespace {
+
+// Every day of the calendar is written in one of the day texts whatever its surface, so the surfaces stay
+// where all of those can be read.
+void deriveCalendar(const DeriveContext& context, DateInputStyle& style)
+{
+    const Color page = context.grounds.raisedCard;
+    const Color ink = context.text;
+    const Bed bed = {page, context.shades(page, Form::Ground)};
+    const auto day = [&](Color wanted, std::initializer_list<Color> others) {
+        return context.fillUnder(ink, page, wanted, Form::Plate, others);
+    };
+    const Color hot = day(context.veil(bed, 0.055F), {page});
+    const Color pressed = day(context.veil(bed, 0.09F), {page, hot});
+    const Color selected = day(mixed(page, context.theme.accent, 0.26F), {page, hot, pressed});
+    const Color ring = context.mark(context.theme.accent, bed.tones);
+    const ShapeKind cell = ShapeKind::RoundedRect;
+    style.popupSurface = groundOf(context, page, mixed(page, context.edge, 0.6F), style.popupShape);
+    style.popupSurface.useNoise = false;
+    style.headerSurface = bareSurface(context, ShapeKind::Rect);
+    style.dayHotSurface = plateOf(context, hot, cell);
+    style.dayPressedSurface = plateOf(context, pressed, cell);
+    style.daySelectedSurface = surfaceOf(context, {.fill = selected, .border = ring}, cell);
+    style.todaySurface = bareSurface(context, cell);
+    style.todaySurface.border = style.todaySurface.outline = ring;
+    style.todaySurface.showOutline = true;
+
+    Tones cells = bed.tones;
+    for (const Color fill : {hot, pressed, selected})
+        cells.include(context.shades(fill, Form::Plate));
+    style.headerText = textOn(context, bed.tones, {context.strongText, context.text}, kLabel);
+    style.weekdayText = textOn(context, bed.tones, {context.mutedText, context.text}, kSmall);
+    style.dayText = textOn(context, cells, {context.text});
+    style.weekendText = textOn(context, cells, {context.mutedText, context.text});
+    style.saturdayText = style.weekendText;
+    style.sundayText = textOn(context, cells, {context.inkOf(Hue::Danger)});
+    const Color faint = context.faint(context.text, cells);
+    style.mutedDayText = textOf(context, faint, faint);
+}
+
+} // namespace
+
+void buildDateInput(const DeriveContext& context, StyleSheet& sheet)
+{
+    // Closed, it is a select box with another drop-down.
+    const SelectBoxStyle& box = sheet.find<SelectBoxStyle>(kDefaultVariant);
+    DateInputStyle& style = sheet.table<DateInputStyle>().defaultRecord();
+    style.shape = box.shape;
+    style.arrowShape = box.arrowShape;
+    style.popupShape = box.dropdownShape;
+    style.text = box.text;
+    style.surface = box.surface;
+    style.hotSurface = box.hotSurface;
+    style.pressedSurface = box.pressedSurface;
+    style.disabledSurface = box.disabledSurface;
+    style.arrowSurface = box.arrowSurface;
+    style.arrowHotSurface = box.arrowHotSurface;
+    style.arrowPressedSurface = box.arrowPressedSurface;
+    style.arrowColor = box.arrowColor;
+    style.arrowWidth = box.arrowWidth;
+    deriveCalendar(context, style);
+}
+
+} // namespace vela

@@ -1,0 +1,186 @@
+#include "vela/theme/derive/derive_buttons.h"
+
+#include "vela/theme/color/oklab.h"
+#include "vela/theme/derive/derive_builders.h"
+
+namespace vela {
+namespace {
+
+// The fills of a field. One text colour serves all its states, so they stay close enough to each other.
+struct FieldFills {
+    Color ink;
+    Color normal;
+    Color hot;
+    Color pressed;
+    Color focused;
+    Color disabled;
+};
+
+FieldFills fieldFills(const DeriveContext& context, Form form)
+{
+    FieldFills fills = {};
+    fills.normal = context.stateFill(context.theme.control, form, {});
+    const Color ink =
+        context.inkUnder({context.theme.text, context.theme.textHot}, context.shades(fills.normal, form));
+    fills.ink = ink;
+    const auto state = [&](Color wanted, std::initializer_list<Color> others) {
+        return context.fillUnder(ink, fills.normal, wanted, form, others);
+    };
+    fills.hot = state(mixed(fills.normal, context.control.hot, 0.4F), {fills.normal});
+    fills.pressed = state(mixed(fills.normal, context.control.pressed, 0.5F), {fills.normal, fills.hot});
+    // The field in use is the calmest one: deeper in the dark, whiter in the light.
+    fills.focused = state(lightened(fills.normal, context.dark ? -0.03F : 0.03F), {});
+    // The ink has to be read here too: what is locked is shown on it.
+    fills.disabled = context.fillUnder(ink, fills.normal, context.control.disabled, Form::Plate, {});
+    return fills;
+}
+
+// A veil of the accent over a fill, as strong as the ink allows.
+SurfaceStyle selectionOn(const DeriveContext& context, Color ink, Color fill, ShapeKind shape)
+{
+    const Color veil =
+        context.fillUnder(ink, fill, mixed(fill, context.theme.accent, 0.38F), Form::Plate, {fill});
+    return plateOf(context, veil, shape);
+}
+
+SurfaceStyle focusedField(const DeriveContext& context, Color fill, ShapeKind shape)
+{
+    SurfaceStyle surface = sunkenOf(context, fill, context.focus, shape);
+    surface.showOutline = true;
+    surface.outlineWidth = 2;
+    return surface;
+}
+
+void addAttachments(const DeriveContext& context, Color ink, Color field, TextInputStyle& style)
+{
+    const Color chip =
+        context.fillUnder(ink, field, context.veil({field, field}, 0.07F), Form::Plate, {field});
+    style.attachmentSurface =
+        surfaceOf(context, {.fill = chip, .border = context.hairline}, style.attachmentShape);
+    style.attachmentImageSurface = plateOf(
+        context, context.markFill(context.theme.accent, context.shades(chip, Form::Plate), Form::Plate),
+        style.attachmentImageShape);
+    style.attachmentRemoveSurface =
+        plateOf(context, context.fillUnder(ink, chip, context.veil({chip, chip}, 0.08F), Form::Plate, {chip}),
+                style.attachmentRemoveShape);
+    Tones chips = context.shades(chip, Form::Plate);
+    chips.include(style.attachmentRemoveSurface.fill);
+    style.attachmentText = textOn(context, chips, {ink}, kSmall);
+    style.attachmentIconColor = context.mark(context.mutedText, chips);
+}
+
+} // namespace
+
+void buildTextInput(const DeriveContext& context, StyleSheet& sheet)
+{
+    const FieldFills fills = fieldFills(context, Form::Sunken);
+    TextInputStyle& style = sheet.table<TextInputStyle>().defaultRecord();
+    style.shape = context.look.controlShape;
+    style.surface = sunkenOf(context, fills.normal, context.edge, style.shape);
+    style.hotSurface = sunkenOf(context, fills.hot, context.hotEdge, style.shape);
+    style.pressedSurface = sunkenOf(context, fills.pressed, context.edge, style.shape);
+    style.focusedSurface = focusedField(context, fills.focused, style.shape);
+    style.disabledSurface =
+        surfaceOf(context, {.fill = fills.disabled, .border = context.quietEdge}, style.shape);
+
+    Tones faces = context.shades(fills.normal, Form::Sunken);
+    for (const Color fill : {fills.hot, fills.pressed, fills.focused})
+        faces.include(context.shades(fill, Form::Sunken));
+    style.text = textOn(context, faces, {fills.ink});
+    style.text.disabledColor = context.faint(context.text, context.shades(fills.disabled, Form::Plate));
+    Tones quietFaces = faces; // and that of a locked field, whose text is no louder than a placeholder
+    quietFaces.include(context.shades(fills.disabled, Form::Plate));
+    style.placeholderText = textOn(context, quietFaces, {context.theme.mutedText});
+    style.placeholderText.disabledColor = style.text.disabledColor;
+    style.selection = selectionOn(context, style.text.color, fills.focused, ShapeKind::Rect);
+    style.caretColor = context.mark(context.theme.textHot, faces);
+    addAttachments(context, style.text.color, fills.normal, style);
+}
+
+void buildSelectableText(const DeriveContext& context, StyleSheet& sheet)
+{
+    SelectableTextStyle& style = sheet.table<SelectableTextStyle>().defaultRecord();
+    style.surface = bareSurface(context, style.shape);
+    style.text = textOn(context, context.ground.tones, {context.text});
+    style.selection = selectionOn(context, context.text, context.ground.fill, ShapeKind::Rect);
+    style.selectedText = textOn(context, bedOn(style.selection, context.ground).tones, {context.text});
+}
+
+void buildCheckBox(const DeriveContext& context, StyleSheet& sheet)
+{
+    const FieldFills fills = fieldFills(context, Form::Sunken);
+    CheckBoxStyle& style = sheet.table<CheckBoxStyle>().defaultRecord();
+    style.shape = ShapeKind::RoundedRect;
+    style.boxSize = 20;
+    style.textLeft = 28;
+    style.text = textOn(context, context.ground.tones, {context.text});
+    style.boxUnchecked = sunkenOf(context, fills.normal, context.edge, style.shape);
+    style.boxUncheckedHot = sunkenOf(context, fills.hot, context.hotEdge, style.shape);
+    style.boxUncheckedPressed = sunkenOf(context, fills.pressed, context.edge, style.shape);
+    style.boxUncheckedDisabled =
+        surfaceOf(context, {.fill = fills.disabled, .border = context.quietEdge}, style.shape);
+
+    // One colour marks all checked boxes, so their fills keep near the accent.
+    const Theme& theme = context.theme;
+    const Color checked = solidFill(context, theme.accent, Form::Raised);
+    const Color hot = context.stateFill(towards(checked, theme.accentHot, 0.05F), Form::Raised, {checked});
+    const Color pressed =
+        context.stateFill(towards(checked, context.ground.fill, 0.05F), Form::Pressed, {checked, hot});
+    const auto box = [&](Color fill, Form form) {
+        return surfaceOf(context, solidFace(context, fill, context.ground, form), style.shape);
+    };
+    style.boxChecked = box(checked, Form::Raised);
+    style.boxCheckedHot = box(hot, Form::Raised);
+    style.boxCheckedPressed = box(pressed, Form::Pressed);
+    Tones boxes = bedOn(style.boxChecked, context.ground).tones;
+    boxes.include(bedOn(style.boxCheckedHot, context.ground).tones);
+    boxes.include(bedOn(style.boxCheckedPressed, context.ground).tones);
+    style.checkColor = context.inkOn(boxes);
+    const Color disabled =
+        context.markFill(context.quietEdge, style.checkColor, Form::Plate, {checked, hot, pressed});
+    style.boxCheckedDisabled =
+        surfaceOf(context, {.fill = disabled, .border = disabled, .bordered = false}, style.shape);
+}
+
+void buildSelectBox(const DeriveContext& context, StyleSheet& sheet)
+{
+    const FieldFills fills = fieldFills(context, Form::Raised);
+    const auto face = [&](Color fill, Color border, Form form) {
+        return Face{.fill = fill, .border = border, .form = form, .substance = Substance::Control};
+    };
+    SelectBoxStyle& style = sheet.table<SelectBoxStyle>().defaultRecord();
+    style.shape = context.look.controlShape;
+    style.dropdownShape =
+        context.look.panelShape == ShapeKind::Rect ? ShapeKind::RoundedRect : context.look.panelShape;
+    style.surface = surfaceOf(context, face(fills.normal, context.edge, Form::Raised), style.shape);
+    style.hotSurface = surfaceOf(context, face(fills.hot, context.hotEdge, Form::Raised), style.shape);
+    style.pressedSurface = surfaceOf(context, face(fills.pressed, context.edge, Form::Pressed), style.shape);
+    style.disabledSurface =
+        surfaceOf(context, face(fills.disabled, context.quietEdge, Form::Plate), style.shape);
+
+    Tones faces = context.shades(fills.normal, Form::Raised);
+    for (const Color fill : {fills.hot, fills.pressed})
+        faces.include(context.shades(fill, Form::Raised));
+    style.text = textOn(context, faces, {fills.ink});
+    style.text.disabledColor = context.faint(context.text, context.shades(fills.disabled, Form::Plate));
+    const Color ink = style.text.color;
+
+    style.arrowSurface = bareSurface(context, style.arrowShape);
+    style.arrowHotSurface = bareSurface(context, style.arrowShape);
+    style.arrowPressedSurface = bareSurface(context, style.arrowShape);
+    style.arrowDisabledSurface = bareSurface(context, style.arrowShape);
+    style.arrowColor = context.mark(context.theme.mutedText, faces);
+
+    const Color list = context.fillUnder(ink, fills.normal, context.grounds.raisedCard, Form::Ground, {});
+    style.dropdownSurface = groundOf(context, list, mixed(list, context.edge, 0.6F), style.dropdownShape);
+    const Color hot = context.fillUnder(ink, list, context.veil({list, list}, 0.06F), Form::Plate, {list});
+    style.optionHotSurface = plateOf(context, hot, ShapeKind::RoundedRect);
+    style.optionSelectedSurface = plateOf(
+        context,
+        context.fillUnder(ink, list, mixed(list, context.theme.accent, 0.2F), Form::Plate, {list, hot}),
+        ShapeKind::RoundedRect);
+    deriveScrollBar(context, bedOn(style.dropdownSurface, context.ground), style.scrollBar);
+    style.itemHeight = 32;
+}
+
+} // namespace vela

@@ -1,0 +1,190 @@
+#include "vela/theme/derive/derive_buttons.h"
+
+#include "vela/theme/color/oklab.h"
+#include "vela/theme/derive/derive_builders.h"
+
+namespace vela {
+namespace {
+
+// What lists, tables and menus show of a row: one text colour is read on all of them.
+struct RowFills {
+    Color ink;
+    Color list;
+    Color hot;
+    Color pressed;
+    Color selected;
+    Color selectedHot;
+};
+
+RowFills rowFills(const DeriveContext& context, Color list)
+{
+    const Color ink =
+        context.inkUnder({context.theme.text, context.theme.textHot}, context.shades(list, Form::Ground));
+    const Bed bed = {list, list};
+    const auto row = [&](Color wanted, std::initializer_list<Color> others) {
+        return context.fillUnder(ink, list, wanted, Form::Plate, others);
+    };
+    RowFills fills = {};
+    fills.ink = ink;
+    fills.list = list;
+    fills.hot = row(context.veil(bed, 0.055F), {list});
+    fills.pressed = row(context.veil(bed, 0.09F), {list, fills.hot});
+    fills.selected = row(mixed(list, context.theme.accent, 0.18F), {list, fills.hot, fills.pressed});
+    fills.selectedHot =
+        row(mixed(list, context.theme.accent, 0.26F), {list, fills.hot, fills.pressed, fills.selected});
+    return fills;
+}
+
+Tones tonesOf(const DeriveContext& context, const RowFills& fills)
+{
+    Tones tones = context.shades(fills.list, Form::Ground);
+    for (const Color fill : {fills.hot, fills.pressed, fills.selected, fills.selectedHot})
+        tones.include(context.shades(fill, Form::Plate));
+    return tones;
+}
+
+Color listFill(const DeriveContext& context) { return context.groundFill(context.theme.control); }
+
+SurfaceStyle railOn(const DeriveContext& context, const RowFills& fills, ShapeKind shape)
+{
+    Tones rows = context.shades(fills.selected, Form::Plate);
+    rows.include(context.shades(fills.selectedHot, Form::Plate));
+    return plateOf(context, context.markFill(context.theme.accent, rows, Form::Plate), shape);
+}
+
+} // namespace
+
+void buildListBox(const DeriveContext& context, StyleSheet& sheet)
+{
+    const RowFills fills = rowFills(context, listFill(context));
+    const Tones tones = tonesOf(context, fills);
+    ListBoxStyle& style = sheet.table<ListBoxStyle>().defaultRecord();
+    style.shape = context.look.panelShape;
+    style.rowShape = context.look.slimTracks ? ShapeKind::RoundedRect : ShapeKind::Rect;
+    style.selectedRowShape = style.rowShape;
+    style.surface = groundOf(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
+    style.row = bareSurface(context, style.rowShape);
+    style.rowHot = plateOf(context, fills.hot, style.rowShape);
+    style.rowPressed = plateOf(context, fills.pressed, style.rowShape);
+    style.selectedRow = plateOf(context, fills.selected, style.selectedRowShape);
+    style.selectedRowHot = plateOf(context, fills.selectedHot, style.selectedRowShape);
+    style.selectedRail = railOn(context, fills, style.selectedRailShape);
+    style.text = textOn(context, tones, {fills.ink});
+    style.selectedText = textOn(context, tones, {context.theme.textHot, fills.ink});
+    style.disabledText = textOf(context, style.text.disabledColor, style.text.disabledColor);
+    style.separator = towards(fills.list, context.theme.border, 0.10F);
+    deriveScrollBar(context, {fills.list, context.shades(fills.list, Form::Ground)}, style.scrollBar);
+    style.rowHeight = 32;
+}
+
+void buildTableList(const DeriveContext& context, StyleSheet& sheet)
+{
+    const RowFills fills = rowFills(context, listFill(context));
+    const Tones tones = tonesOf(context, fills);
+    TableListStyle& style = sheet.table<TableListStyle>().defaultRecord();
+    style.shape = context.look.panelShape;
+    style.surface = groundOf(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
+    style.rowText = textOn(context, tones, {fills.ink});
+    style.selectedText = textOn(context, tones, {context.theme.textHot, fills.ink});
+    const Color ink = style.rowText.color;
+    const Color strip = context.fillUnder(ink, fills.list, towards(fills.list, context.header.fill, 0.05F),
+                                          Form::Ground, {fills.list});
+    style.header = groundOf(context, strip, context.hairline, style.headerShape);
+    style.header.showOutline = false;
+    const Tones head = context.shades(strip, Form::Ground);
+    style.headerText = textOn(context, head, {context.theme.mutedText, ink}, kLabel);
+    style.row = bareSurface(context, style.rowShape);
+    style.selectedRow = plateOf(context, fills.selected, style.selectedRowShape);
+    style.selectedRail = railOn(context, fills, style.selectedRailShape);
+
+    const auto severity = [&](Hue hue, float amount, std::initializer_list<Color> others) {
+        return context.fillUnder(ink, fills.list, mixed(fills.list, context.solid(hue), amount), Form::Plate,
+                                 others);
+    };
+    style.highSeverityFill = severity(Hue::Danger, 0.30F, {fills.list});
+    style.mediumSeverityFill = severity(Hue::Warning, 0.22F, {fills.list, style.highSeverityFill});
+    style.lowSeverityFill =
+        severity(Hue::Success, 0.18F, {fills.list, style.highSeverityFill, style.mediumSeverityFill});
+    style.highSeverityText = textOn(context, style.highSeverityFill, {ink}, kLabel);
+
+    style.separator = towards(fills.list, context.theme.border, 0.10F);
+    style.resizeGrip = towards(strip, context.edge, 0.20F);
+    style.resizeGripHot = context.mark(context.theme.accent, head);
+    style.sortIndicator = context.mark(context.theme.mutedText, head);
+    style.sortIndicatorHot = context.mark(context.theme.accentHot, head);
+    style.rowHeight = 32;
+}
+
+void buildTabs(const DeriveContext& context, StyleSheet& sheet)
+{
+    TabsStyle& style = sheet.table<TabsStyle>().defaultRecord();
+    style.shape = context.look.controlShape;
+    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, context.ground, style.shape, style.itemButton);
+    // The open tab is told by more than a veil: its face is the control's own, with an edge in the accent.
+    SurfaceStyle& open = style.itemButton.surface.active;
+    const Bed& ground = context.ground;
+    const Color fill =
+        context.stateFill(context.control.normal, Form::Raised,
+                          {style.itemButton.surface.hot.fill, style.itemButton.surface.pressed.fill});
+    const Color focus = open.glow;
+    open = surfaceOf(context,
+                     {.fill = fill,
+                      .border = context.mark(context.theme.accent, ground.tones),
+                      .form = Form::Raised,
+                      .substance = Substance::Control},
+                     style.shape);
+    open.glow = focus;
+    style.itemButton.text.active =
+        textOn(context, bedOn(open, ground).tones, {context.strongText, context.text});
+    style.verticalItemHeight = 36;
+}
+
+void buildMenuBar(const DeriveContext& context, StyleSheet& sheet)
+{
+    const Color bar = context.ground.fill;
+    const Color ink = context.text;
+    const Bed bed = {bar, context.shades(bar, Form::Ground)};
+    const auto item = [&](float amount, std::initializer_list<Color> others) {
+        return context.fillUnder(ink, bar, context.veil(bed, amount), Form::Plate, others);
+    };
+    const Color hot = item(0.055F, {bar});
+    const Color pressed = item(0.09F, {bar, hot});
+    const Color active = context.fillUnder(ink, bar, mixed(bar, context.theme.accent, 0.18F), Form::Plate,
+                                           {bar, hot, pressed});
+    MenuBarStyle& style = sheet.table<MenuBarStyle>().defaultRecord();
+    style.surface = groundOf(context, bar, context.hairline, style.shape);
+    style.surface.showOutline = false;
+    style.popupSurface = groundOf(context, bar, mixed(bar, context.edge, 0.6F), style.popupShape);
+    style.popupSurface.useNoise = false;
+    style.itemSurface = bareSurface(context, style.itemShape);
+    style.itemHotSurface = plateOf(context, hot, style.itemShape);
+    style.itemPressedSurface = plateOf(context, pressed, style.itemShape);
+    style.itemActiveSurface = plateOf(context, active, style.itemShape);
+    style.popupItemHotSurface = plateOf(context, hot, style.popupItemShape);
+    style.popupItemPressedSurface = plateOf(context, pressed, style.popupItemShape);
+
+    Tones faces = bed.tones;
+    for (const Color fill : {hot, pressed, active})
+        faces.include(context.shades(fill, Form::Plate));
+    style.itemText = textOn(context, faces, {context.text});
+    style.shortcutText = textOn(context, faces, {context.mutedText, context.text}, kSmall);
+    style.arrow = context.mark(context.theme.mutedText, faces);
+    style.check = context.mark(context.theme.accent, faces);
+    style.separator = towards(bar, context.theme.border, 0.12F);
+}
+
+void buildRichText(const DeriveContext& context, StyleSheet& sheet)
+{
+    RichTextStyle& style = sheet.table<RichTextStyle>().defaultRecord();
+    style.shape = context.look.panelShape;
+    style.surface = groundOf(context, context.grounds.card, context.hairline, style.shape);
+    const Bed bed = bedOn(style.surface, context.ground);
+    style.text = textOn(context, bed.tones, {context.text});
+    style.linkText = textOn(context, bed.tones, {context.theme.accent});
+    style.linkText.underline = true;
+    style.icon = badgeOf(context, Hue::Accent, bed, style.iconShape);
+    style.paddingX = 16;
+    style.paddingY = 12;
+}
+
+} // namespace vela

@@ -1,0 +1,49 @@
+// What tells the surface modes apart, as one table: how strongly each kind of form is shaded, shadowed and
+// lit, whether materials are worn, and the shapes and metrics of the mode. Builders never ask for the mode
+// itself.
+#pragma once
+
+#include "vela/theme/records/vocabulary.h"
+
+#include <cstdint>
+
+namespace vela {
+
+// How a surface stands in the light.
+enum class Form : std::uint8_t {
+    Ground,  // large and level: panels, popups, bars
+    Plate,   // lies on a ground without standing out: rows, chips, disabled faces
+    Raised,  // buttons, thumbs, badges
+    Pressed, // a raised form pushed in
+    Sunken,  // fields and tracks
+};
+inline constexpr int kFormCount = 5;
+
+struct FormLook {
+    // Oklab lightness from the fill to the lit end of its gradient; negative when the shaded end comes first.
+    float shading;
+    std::uint8_t light;       // percent of the theme's light and relief that the form gets
+    std::uint8_t innerShadow; // percent of the theme's inner shadow, 0 for none
+    std::uint8_t shadow;      // opacity of the drop shadow, 0 for none
+};
+
+struct ModeLook {
+    bool materials;          // the theme's materials are worn
+    std::uint8_t leastDepth; // the relief of lit forms where a theme gives them less
+    std::uint8_t noiseOpacity;
+    std::int32_t shadowOffset;
+    std::uint8_t glowOpacity;
+    FormLook forms[kFormCount];
+
+    ShapeKind controlShape;
+    ShapeKind panelShape;
+    ShapeKind trackShape;
+    bool slimTracks;          // progress as a thin bar without a frame
+    bool flushCaptionButtons; // caption buttons fill the bar's corner, as the system's do
+
+    const FormLook& form(Form form) const noexcept { return forms[static_cast<int>(form)]; }
+};
+
+const ModeLook& lookOf(SurfaceMode mode) noexcept;
+
+} // namespace vela

@@ -1,0 +1,30 @@
+#include "vela/theme/derive/derive_style_sheet.h"
+
+#include "vela/theme/derive/derive_builders.h"
+
+namespace vela {
+namespace {
+
+using Builder = void (*)(const DeriveContext&, StyleSheet&);
+
+// In the order of ControlKind.
+constexpr Builder kBuilders[] = {
+    buildTexts,          buildButtons,     buildBitmapButtons, buildPanels,    buildCards,     buildTitleBar,
+    buildStatusChips,    buildProgressBar, buildScrollBar,     buildCheckBox,  buildSelectBox, buildListBox,
+    buildDateInput,      buildTabs,        buildMenuBar,       buildTableList, buildRichText,  buildTextInput,
+    buildSelectableText, buildPopups,      buildTooltips,
+};
+static_assert(std::size(kBuilders) == kControlKindCount);
+
+} // namespace
+
+StyleSheet deriveStyleSheet(const Theme& theme)
+{
+    const DeriveContext context(theme);
+    StyleSheet sheet;
+    for (const Builder build : kBuilders)
+        build(context, sheet);
+    return sheet;
+}
+
+} // namespace vela

@@ -1,0 +1,174 @@
+#include "vela/theme/derive/derive_surfaces.h"
+
+#include "vela/theme/color/oklab.h"
+#include "vela/theme/records/surface_tones.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vela {
+namespace {
+
+constexpr int kHalfTurn = 180;
+constexpr int kFullTurn = 360;
+
+MaterialPreset presetFor(const MaterialProfile& profile, Substance substance)
+{
+    switch (substance) {
+    case Substance::Surface: return profile.surface;
+    case Substance::Control: return profile.control;
+    case Substance::Accent: return profile.accent;
+    case Substance::None: break;
+    }
+    return MaterialPreset::None;
+}
+
+std::uint8_t percentOf(std::uint8_t value, int percent)
+{
+    return static_cast<std::uint8_t>(value * percent / 100);
+}
+
+void wearMaterial(SurfaceStyle& surface, const DeriveContext& context, const Face& face)
+{
+    const MaterialProfile& profile = context.theme.materials;
+    const MaterialShading& shading = profile;
+    const SurfaceMapping& mapping = profile;
+    static_cast<MaterialShading&>(surface) = shading;
+    static_cast<SurfaceMapping&>(surface) = mapping;
+    if (context.materials && face.drawn)
+        surface.material = presetFor(profile, face.substance);
+    surface.materialEnabled = surface.material != MaterialPreset::None && profile.materialStrength > 0;
+    if (face.substance == Substance::Accent)
+        surface.materialTint = mixed(profile.materialTint, lightened(face.fill, 0.12F), 0.7F);
+    surface.materialDepth = std::max(surface.materialDepth, context.look.leastDepth);
+    dimLight(surface, face.drawn ? context.look.form(face.form).light : 0);
+    // What is pushed in takes the light from the other side.
+    if (face.form == Form::Pressed || face.form == Form::Sunken)
+        surface.materialLightAngle = (surface.materialLightAngle % kFullTurn + kHalfTurn) % kFullTurn;
+}
+
+void shade(SurfaceStyle& surface, const DeriveContext& context, const Face& face)
+{
+    const FormLook& form = context.look.form(face.form);
+    surface.useGradient = face.drawn && form.shading != 0;
+    surface.gradientStart = lightened(face.fill, form.shading);
+    surface.gradientMid = face.fill;
+    surface.gradientEnd = lightened(face.fill, -form.shading);
+
+    surface.showShadow = face.drawn && form.shadow > 0;
+    surface.shadowOpacity = form.shadow;
+    surface.shadowOffsetX = 0;
+    surface.shadowOffsetY = context.look.shadowOffset;
+
+    surface.showInnerShadow = face.drawn && form.innerShadow > 0;
+    surface.innerShadow = percentOf(surface.innerShadow, form.innerShadow);
+    surface.innerShadowColor = mixed(face.fill, hexColor(0x000000), 0.85F);
+
+    surface.useNoise = face.drawn && face.form == Form::Ground && context.look.noiseOpacity > 0;
+    surface.noiseOpacity = context.look.noiseOpacity;
+}
+
+} // namespace
+
+void dimLight(MaterialShading& shading, int percent) noexcept
+{
+    for (std::uint8_t MaterialShading::*const light :
+         {&MaterialShading::highlightOpacity, &MaterialShading::reflectionOpacity,
+          &MaterialShading::materialDepth, &MaterialShading::backlightOpacity, &MaterialShading::innerGlow,
+          &MaterialShading::rimLight, &MaterialShading::ambientOcclusion, &MaterialShading::edgeWear})
+        shading.*light = percentOf(shading.*light, percent);
+}
+
+SurfaceStyle surfaceOf(const DeriveContext& context, const Face& face, ShapeKind shape)
+{
+    SurfaceStyle surface;
+    wearMaterial(surface, context, face);
+    shade(surface, context, face);
+    surface.shape = shape;
+    surface.fill = face.fill;
+    surface.border = face.border;
+    surface.shadow = hexColor(0x000000);
+    surface.glow = context.focus;
+    surface.outline = face.border;
+    surface.outlineWidth = 1;
+    surface.noise = context.dark ? hexColor(0xFFFFFF) : hexColor(0x000000);
+    surface.noiseSeed = 0x2F1B;
+    surface.drawFill = face.drawn;
+    // Not the border: light and noise fall on it too and would wash it out where it tells the control from
+    // its ground, and it is one pixel wide at every DPI.
+    surface.drawBorder = false;
+    surface.showOutline = face.drawn && face.bordered;
+    return surface;
+}
+
+SurfaceStyle bareSurface(const DeriveContext& context, ShapeKind shape)
+{
+    return surfaceOf(context, {.fill = context.ground.fill, .border = context.hairline, .drawn = false},
+                     shape);
+}
+
+SurfaceStyle plateOf(const DeriveContext& context, Color fill, ShapeKind shape)
+{
+    return surfaceOf(context, {.fill = fill, .border = fill, .bordered = false}, shape);
+}
+
+SurfaceStyle sunkenOf(const DeriveContext& context, Color fill, Color border, ShapeKind shape)
+{
+    return surfaceOf(context, {.fill = fill, .border = border, .form = Form::Sunken}, shape);
+}
+
+SurfaceStyle groundOf(const DeriveContext& context, Color fill, Color border, ShapeKind shape)
+{
+    return surfaceOf(context,
+                     {.fill = fill, .border = border, .form = Form::Ground, .substance = Substance::Surface},
+                     shape);
+}
+
+Color solidFill(const DeriveContext& context, Color wanted, Form form)
+{
+    return readableFace(wanted, std::abs(context.look.form(form).shading), context.solidAim);
+}
+
+Face solidFace(const DeriveContext& context, Color fill, const Bed& bed, Form form)
+{
+    const Tones tones = context.shades(fill, form);
+    const float standsOut =
+        std::min(contrastRatio(tones.darkest, bed.tones), contrastRatio(tones.lightest, bed.tones));
+    const Color rim = lightened(fill, strongestOn(tones) == hexColor(0xFFFFFF) ? -0.06F : 0.06F);
+    return {.fill = fill,
+            .border = standsOut >= context.markAim ? rim : context.mark(fill, bed.tones),
+            .form = form,
+            .substance = Substance::Accent};
+}
+
+SurfaceStyle badgeOf(const DeriveContext& context, Hue hue, const Bed& bed, ShapeKind shape)
+{
+    const Color fill = solidFill(context, context.solid(hue), Form::Raised);
+    return surfaceOf(context, solidFace(context, fill, bed, Form::Raised), shape);
+}
+
+Bed bedOn(const SurfaceStyle& surface, const Bed& under)
+{
+    return {surface.drawFill ? surface.fill : under.fill, facesOf(surface, under.tones)};
+}
+
+// A skin may name any number; no text of this size fits a screen.
+constexpr std::int32_t kLargestPoints = 1000;
+
+FontSpec textOf(const DeriveContext& context, Color color, Color disabledColor, Type type)
+{
+    FontSpec font = context.theme.uiFont;
+    font.pointSize = std::max(std::clamp(font.pointSize, 1, kLargestPoints) + type.points, 1);
+    font.weight = std::clamp(font.weight + type.weight, 100, std::max(font.weight, 700));
+    font.color = color;
+    font.disabledColor = disabledColor;
+    return font;
+}
+
+FontSpec textOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted, Type type)
+{
+    const Color color = context.readable(wanted, on);
+    return textOf(context, color, context.faint(color, on), type);
+}
+
+} // namespace vela

@@ -1,0 +1,56 @@
+// The recipes that all builders share: from a fill and the way a part stands in the light to its whole
+// surface record, and the faces that a control shows in its states.
+#pragma once
+
+#include "vela/theme/derive/derive_context.h"
+#include "vela/theme/records/control_styles.h"
+
+namespace vela {
+
+// Which of the theme's three materials a part is made of.
+enum class Substance : std::uint8_t { None, Surface, Control, Accent };
+
+struct Face {
+    Color fill = 0;
+    Color border = 0;
+    Form form = Form::Plate;
+    Substance substance = Substance::None;
+    bool drawn = true; // false: only what lies under it shows
+    bool bordered = true;
+};
+
+// Highlights, relief and edges by that share; what a material is made of stays.
+void dimLight(MaterialShading& shading, int percent) noexcept;
+
+SurfaceStyle surfaceOf(const DeriveContext& context, const Face& face, ShapeKind shape);
+// Draws nothing, but knows its shape and focus colour.
+SurfaceStyle bareSurface(const DeriveContext& context, ShapeKind shape);
+// A level surface without shading: rails, veils, selections.
+SurfaceStyle plateOf(const DeriveContext& context, Color fill, ShapeKind shape);
+SurfaceStyle sunkenOf(const DeriveContext& context, Color fill, Color border, ShapeKind shape);
+// A panel, bar or popup.
+SurfaceStyle groundOf(const DeriveContext& context, Color fill, Color border, ShapeKind shape);
+// A strong colour as a fill on which text can be read.
+Color solidFill(const DeriveContext& context, Color wanted, Form form);
+// A face in such a colour, with a border that stands out from the bed where the colour does not.
+Face solidFace(const DeriveContext& context, Color fill, const Bed& bed, Form form);
+// A raised disc or dot in a hue, for a glyph.
+SurfaceStyle badgeOf(const DeriveContext& context, Hue hue, const Bed& bed, ShapeKind shape);
+
+Bed bedOn(const SurfaceStyle& surface, const Bed& under);
+
+// How the text of a part differs from the theme's.
+struct Type {
+    std::int32_t points = 0; // added to the theme's size
+    std::int32_t weight = 0; // added to the theme's weight
+};
+inline constexpr Type kBody = {};
+inline constexpr Type kLabel = {.points = 0, .weight = 200};
+inline constexpr Type kSmall = {.points = -1, .weight = 0};
+
+FontSpec textOf(const DeriveContext& context, Color color, Color disabledColor, Type type = kBody);
+// Text in the first of the wanted colours that can be read on the bed.
+FontSpec textOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted,
+                Type type = kBody);
+
+} // namespace vela

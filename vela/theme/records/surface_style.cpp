@@ -1,0 +1,19 @@
+#include "vela/theme/records/surface_style.h"
+
+namespace vela {
+
+SurfaceStyle::SurfaceStyle() noexcept = default;
+SurfaceStyle::SurfaceStyle(const SurfaceStyle& other) = default;
+SurfaceStyle::SurfaceStyle(SurfaceStyle&& other) noexcept = default;
+SurfaceStyle& SurfaceStyle::operator=(const SurfaceStyle& other) = default;
+SurfaceStyle& SurfaceStyle::operator=(SurfaceStyle&& other) noexcept = default;
+SurfaceStyle::~SurfaceStyle() = default;
+
+bool operator==(const SurfaceStyle& left, const SurfaceStyle& right) = default;
+
+bool carriesMaterial(const SurfaceStyle& style) noexcept
+{
+    return style.materialEnabled && style.material != MaterialPreset::None && style.materialStrength > 0;
+}
+
+} // namespace vela

@@ -1,0 +1,13 @@
+// The tones that a painted surface shows to what is drawn on it, as far as its record tells: fill or
+// gradient, and what shines through where it is not opaque.
+#pragma once
+
+#include "vela/theme/color/contrast.h"
+#include "vela/theme/records/surface_style.h"
+
+namespace vela {
+
+// under: the tones of what the surface lies on.
+Tones facesOf(const SurfaceStyle& surface, const Tones& under) noexcept;
+
+} // namespace vela
