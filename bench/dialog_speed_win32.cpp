@@ -1,12 +1,13 @@
 // What the setup's first dialog costs once it is open, one line a skin: painted as a whole, and one button
-// changing its state, each with kept pictures and, in the same run, without (medians in milliseconds); then
-// what it takes while nobody touches it. Run it under Wine with scripts/wine; there a paint is Wine's GDI as
-// much as this program's own work.
+// changing its state (medians in milliseconds), and, in the same run, painted as a whole into a picture with
+// and without what the caches of pictures hold; then what it takes while nobody touches it. Run it under Wine
+// with scripts/wine; there a paint is Wine's GDI as much as this program's own work.
 //
 // Usage: dialog_speed SKIN_FOLDER [SKIN...], without skins all of the folder's.
 #include "app/dialogs/choice_dialog.h"
 
-#include "vela/render/gdi/kept_pictures_gdi.h"
+#include "vela/render/gdi/dib_gdi.h"
+#include "vela/render/gdi/paint_context.h"
 #include "vela/theme/skins/skin_host_win32.h"
 #include "vela/theme/skins/style_sections.h"
 
@@ -41,11 +42,20 @@ double medianOf(Work&& work)
 struct Costs {
     double dialog;
     double button;
+    double picture;
+    double uncachedPicture;
 };
 
-Costs costsOf(setup::ChoiceDialog& dialog, bool kept)
+double pictureCost(const setup::ChoiceDialog& dialog, const vela::DibSurface& picture, bool caches)
 {
-    vela::setPicturesKept(kept);
+    const vela::PaintContextBinding context(picture.dc(), {.cachesPictures = caches});
+    return medianOf([&] {
+        ::SendMessageW(dialog.handle(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.dc()), PRF_CLIENT);
+    });
+}
+
+Costs costsOf(setup::ChoiceDialog& dialog)
+{
     const double whole = medianOf([&] {
         ::InvalidateRect(dialog.handle(), nullptr, FALSE);
         ::UpdateWindow(dialog.handle());
@@ -55,7 +65,10 @@ Costs costsOf(setup::ChoiceDialog& dialog, bool kept)
         button.setHot(!button.isHot());
         ::UpdateWindow(dialog.handle());
     });
-    return {whole, state};
+    RECT client{};
+    ::GetClientRect(dialog.handle(), &client);
+    const vela::DibSurface picture({client.right, client.bottom});
+    return {whole, state, pictureCost(dialog, picture, true), pictureCost(dialog, picture, false)};
 }
 
 std::shared_ptr<const vela::StyleSheet> stylesOf(const vela::SkinDefinition& skin)
@@ -70,11 +83,10 @@ void measure(const vela::SkinDefinition& skin)
     dialog.open();
     ::ShowWindow(dialog.handle(), SW_SHOWNORMAL);
     ::UpdateWindow(dialog.handle());
-    const Costs without = costsOf(dialog, false);
-    const Costs with = costsOf(dialog, true);
-    std::printf("%-24ls dialog %6.2f (%6.2f without)%s   button %6.3f (%6.3f without)%s\n", skin.id.c_str(),
-                with.dialog, without.dialog, with.dialog > kDialogGoal ? " !" : "  ", with.button,
-                without.button, with.button > kButtonGoal ? " !" : "");
+    const Costs costs = costsOf(dialog);
+    std::printf("%-24ls dialog %6.2f%s   button %6.3f%s   picture %6.2f (%6.2f without caches)\n",
+                skin.id.c_str(), costs.dialog, costs.dialog > kDialogGoal ? " !" : "  ", costs.button,
+                costs.button > kButtonGoal ? " !" : "", costs.picture, costs.uncachedPicture);
 }
 
 double processorMilliseconds()

@@ -1,7 +1,7 @@
 // What whole surfaces and texts cost on a device context: one line for each, in microseconds a paint. Run it
 // under Wine with scripts/wine; there a paint is Wine's GDI as much as this program's own work.
 #include "vela/render/gdi/dib_gdi.h"
-#include "vela/render/surface/surface_painter.h"
+#include "vela/render/paint/paint.h"
 #include "vela/render/text/text.h"
 #include "vela/theme/derive/derive_style_sheet.h"
 

@@ -6,7 +6,7 @@
 #include "tools/dialog_stage/dialog_stage_win32.h"
 
 #include "vela/mul_div.h"
-#include "vela/render/surface/control_painter.h"
+#include "vela/render/surface/focus_ring.h"
 #include "vela/theme/document/json.h"
 #include "vela/theme/document/utf8.h"
 #include "vela/theme/skins/style_sections.h"

@@ -1,6 +1,7 @@
 #include "tools/dialog_check/paint_witness_gdi.h"
 
 #include "vela/render/gdi/clip_gdi.h"
+#include "vela/render/paint/paint.h"
 #include "vela/render/surface/control_painter.h"
 #include "vela/render/text/text.h"
 
@@ -67,39 +68,29 @@ bool PaintWitness::see(dialog_check::Ink ink)
 
 } // namespace dialog_check
 
-// The names are those that the compiler gives the functions; the build hands them to the linker as well.
-#define VELA_WITNESSED(name, symbol, ...)                                                                    \
-    void real##name(__VA_ARGS__) __asm__("__real_" symbol);                                                  \
-    void witness##name(__VA_ARGS__) __asm__("__wrap_" symbol)
-
+// What stands in the place of the product's own, and passes on to the same renderer.
 namespace vela {
 
 using dialog_check::PaintWitness;
 
-VELA_WITNESSED(Text, WITNESS_DRAW_TEXT, HDC, const Rect&, std::wstring_view, const FontSpec&, std::int32_t,
-               TextLook);
-VELA_WITNESSED(Line, WITNESS_DRAW_LINE, HDC, const Rect&, std::wstring_view, const FontSpec&, std::int32_t,
-               Color);
-VELA_WITNESSED(Glyph, WITNESS_PAINT_GLYPH, HDC, Glyph, const Rect&, std::int32_t, Color);
-
-void witnessText(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font, std::int32_t dpi,
-                 TextLook look)
+void drawText(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font, std::int32_t dpi,
+              TextLook look)
 {
     if (text.empty() || PaintWitness::see(dialog_check::inkOf(rect, text, font, dpi, look)))
-        realText(dc, rect, text, font, dpi, look);
+        render::drawText(dc, rect, text, font, dpi, look);
 }
 
-void witnessLine(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font, std::int32_t dpi,
-                 Color color)
+void drawUnclippedLine(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font,
+                       std::int32_t dpi, Color color)
 {
     if (text.empty() || PaintWitness::see(dialog_check::scrolledInk(dc, rect, text, font, color)))
-        realLine(dc, rect, text, font, dpi, color);
+        render::drawUnclippedLine(dc, rect, text, font, dpi, color);
 }
 
-void witnessGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color)
+void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color)
 {
     if (PaintWitness::see(dialog_check::markOf(box, color)))
-        realGlyph(dc, glyph, box, dpi, color);
+        render::paintGlyph(dc, glyph, box, dpi, color);
 }
 
 } // namespace vela

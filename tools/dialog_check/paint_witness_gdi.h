@@ -1,5 +1,5 @@
-// Sees every text and mark that the toolkit draws while it is there, and can keep them from being painted.
-// The linker leads all calls of the drawing functions here first, so the toolkit knows nothing of it.
+// Sees every text and mark that the toolkit draws while it is there, and can keep them from being painted:
+// this program links it in the place of the toolkit's own texts and icons.
 #pragma once
 
 #include "tools/dialog_check/ink.h"
@@ -18,7 +18,7 @@ public:
 
     const std::vector<dialog_check::Ink>& inks() const noexcept { return inks_; }
 
-    // For the functions that stand before the toolkit's. True when the ink is to be painted.
+    // For the functions that stand before the renderer's. True when the ink is to be painted.
     static bool see(dialog_check::Ink ink);
 
 private:

@@ -1,6 +1,6 @@
 // Sheets of materials: every preset with every finish, and the substances that a skin may name.
 #include "tools/gallery/gallery_gdi.h"
-#include "vela/render/surface/surface_painter.h"
+#include "vela/render/paint/paint.h"
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/records/named_materials.h"
 #include "vela/theme/records/vocabulary.h"

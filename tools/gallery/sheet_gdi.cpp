@@ -1,7 +1,9 @@
 #include "tools/gallery/sheet_gdi.h"
 
 #include "tools/png_file_win32.h"
-#include "vela/render/surface/surface_painter.h"
+#include "vela/render/gdi/pixel_layer_gdi.h"
+#include "vela/render/paint/paint.h"
+#include "vela/render/shapes/smooth.h"
 
 #include <algorithm>
 
@@ -42,6 +44,13 @@ bool Sheet::save(const std::wstring& path, std::int32_t height) const
     if (height > 0)
         pixels.size.height = std::min(pixels.size.height, height);
     return tools::writePng(path, pixels);
+}
+
+void paintBadge(HDC dc, const Rect& rect, vela::ShapeKind shape, vela::Color color)
+{
+    vela::renderPixelLayer(dc, rect, [&](const vela::LayerTarget& target) {
+        fillSmoothShape(target, shape, {0, 0, rect.width, rect.height}, color);
+    });
 }
 
 Rect Flow::place(vela::Size size)

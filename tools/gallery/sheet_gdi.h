@@ -2,8 +2,9 @@
 #pragma once
 
 #include "vela/render/gdi/dib_gdi.h"
-#include "vela/render/text/text.h"
+#include "vela/render/text/text_look.h"
 #include "vela/theme/color/color.h"
+#include "vela/theme/records/vocabulary.h"
 
 #include <string>
 #include <string_view>
@@ -41,6 +42,9 @@ private:
     SheetLook look_;
     vela::DibSurface surface_;
 };
+
+// A dot, or a small plate behind a symbol.
+void paintBadge(HDC dc, const vela::Rect& rect, vela::ShapeKind shape, vela::Color color);
 
 // Hands out places from left to right, and in rows below each other.
 class Flow {

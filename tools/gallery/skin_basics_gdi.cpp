@@ -1,8 +1,7 @@
 // Title bar, buttons, texts, check boxes, chips and progress bars.
 #include "tools/gallery/skin_parts_gdi.h"
 
-#include "vela/render/surface/control_painter.h"
-#include "vela/render/surface/surface_painter.h"
+#include "vela/render/paint/paint.h"
 
 #include <algorithm>
 #include <string>
@@ -50,7 +49,7 @@ void SkinPage::surface(const Rect& rect, const SurfaceStyle& style) const
 
 void SkinPage::badge(const Rect& rect, const SurfaceStyle& style) const
 {
-    vela::paintBadge(sheet.dc(), rect, style);
+    vela::paintControlFace(sheet.dc(), rect, style);
 }
 
 void SkinPage::text(const Rect& rect, std::wstring_view line, const vela::FontSpec& font,

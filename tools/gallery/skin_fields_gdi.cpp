@@ -1,8 +1,7 @@
 // Text inputs, select boxes, scroll bars, tabs, list boxes, tables, menus and calendars.
 #include "tools/gallery/skin_parts_gdi.h"
 
-#include "vela/render/surface/control_painter.h"
-#include "vela/render/surface/surface_painter.h"
+#include "vela/render/paint/paint.h"
 
 #include <string>
 
@@ -213,8 +212,8 @@ std::int32_t drawTable(const SkinPage& page, vela::Point place)
                                      : i == 2 ? style.highSeverityText
                                               : style.rowText;
         if (rows[i].severity)
-            vela::paintBadge(page.sheet.dc(), inset({row.x + 178, row.y, 92, row.height}, 0, 4),
-                             vela::ShapeKind::RoundedRect, *rows[i].severity);
+            paintBadge(page.sheet.dc(), inset({row.x + 178, row.y, 92, row.height}, 0, 4),
+                       vela::ShapeKind::RoundedRect, *rows[i].severity);
         page.text({row.x + 10, row.y, 150, row.height}, rows[i].name, font);
         page.text({row.x + 186, row.y, 84, row.height}, rows[i].kind, font);
         vela::fillShape(page.sheet.dc(), {row.x, row.y + row.height - 1, row.width, 1}, vela::ShapeKind::Rect,

@@ -2,7 +2,7 @@
 #include "tools/gallery/gallery_gdi.h"
 #include "tools/gallery/skin_parts_gdi.h"
 
-#include "vela/render/surface/control_painter.h"
+#include "vela/render/paint/paint.h"
 #include "vela/theme/skins/style_sections.h"
 
 #include <algorithm>

@@ -1,7 +1,6 @@
 // Sheets of surfaces without any control: shapes, gradients, layers, glyphs.
 #include "tools/gallery/gallery_gdi.h"
-#include "vela/render/surface/control_painter.h"
-#include "vela/render/surface/surface_painter.h"
+#include "vela/render/paint/paint.h"
 #include "vela/theme/derive/derive_style_sheet.h"
 #include "vela/theme/records/palette.h"
 #include "vela/theme/records/spellings.h"
@@ -191,8 +190,7 @@ bool drawGlyphSheet(const std::wstring& path)
     }
     for (std::int32_t shape = 0; shape < 9; ++shape) {
         const Rect cell{kMargin + shape * kCell, top, kCell, kCell};
-        vela::paintBadge(sheet.dc(), centered(cell, {44, 28}), static_cast<ShapeKind>(shape),
-                         hexColor(0x6FA3A8));
+        paintBadge(sheet.dc(), centered(cell, {44, 28}), static_cast<ShapeKind>(shape), hexColor(0x6FA3A8));
         vela::paintFocusRing(sheet.dc(), centered(cell, {44, 28}), static_cast<ShapeKind>(shape), kDpi,
                              hexColor(0xE2AA58));
     }

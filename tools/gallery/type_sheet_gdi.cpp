@@ -1,7 +1,8 @@
 // Type specimens: faces, weights, sizes, states, wrapping, and both engines side by side.
 #include "tools/gallery/gallery_gdi.h"
 
-#include "vela/render/surface/surface_painter.h"
+#include "vela/render/paint/paint.h"
+#include "vela/render/text/text.h"
 
 namespace gallery {
 namespace {

@@ -7,7 +7,7 @@
 #include "app/dialogs/progress_dialog.h"
 #include "app/result_notice.h"
 
-#include "vela/render/surface/surface_painter.h"
+#include "vela/render/paint/paint.h"
 #include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
 

@@ -1,9 +1,9 @@
 #include "vela/controls/tree/debug_overlay.h"
 
 #include "tests/controls/tree/fake_window.h"
-#include "tests/support/recording_painter.h"
 #include "vela/controls/widgets/themed_button.h"
 #include "vela/controls/widgets/tooltip.h"
+#include "vela/render/paint/paint_recorder.h"
 #include "vela/theme/records/style_sheet.h"
 
 #include <gtest/gtest.h>
@@ -62,13 +62,14 @@ TEST(DebugOverlayTest, EachModeDrawsWhatItPromises)
     button.setEnabled(false);
     const auto painted = [&](const DebugOverlay& overlay) {
         std::wstring texts;
-        testing::takePaintCalls();
+        const PaintRecorder recorder;
         paintDebugOverlay(nullptr, window.root, overlay, {5, 6}, nullptr, 96);
-        for (const auto& call : testing::takePaintCalls()) {
-            if (call.what == L"outline" && call.rect == button.bounds())
-                texts += call.surface.shape == ShapeKind::Rect ? L"[box]" : L"[contour]";
-            else if (call.what == L"text")
-                texts += L"<" + call.text + L">";
+        for (const PaintCall& call : recorder.calls()) {
+            const auto* const outline = std::get_if<ShapeOutlineCall>(&call);
+            if (outline && outline->rect == button.bounds())
+                texts += outline->kind == ShapeKind::Rect ? L"[box]" : L"[contour]";
+            else if (const auto* const text = std::get_if<TextCall>(&call))
+                texts += L"<" + text->text + L">";
         }
         return texts;
     };

@@ -1,7 +1,7 @@
 #include "vela/controls/widgets/designed_popup.h"
 
 #include "tests/controls/tree/fake_window.h"
-#include "tests/support/recording_painter.h"
+#include "tests/support/painted.h"
 #include "vela/controls/tree/accessible_tree.h"
 #include "vela/controls/widgets/chrome_title_bar.h"
 #include "vela/theme/records/style_sheet.h"
@@ -199,6 +199,12 @@ TEST_F(ChromeTest, ArrowKeysGoAlongThePopupsButtons)
 }
 
 #ifndef _WIN32 // there the product's renderer paints
+Rect rectOf(const std::vector<TextCall>& texts, std::wstring_view text)
+{
+    const auto found = std::ranges::find(texts, text, &TextCall::text);
+    return found == texts.end() ? Rect{} : found->rect;
+}
+
 TEST_F(ChromeTest, APopupPaintsItsPartsInsideItself)
 {
     auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 40, 690, 380}));
@@ -206,31 +212,22 @@ TEST_F(ChromeTest, APopupPaintsItsPartsInsideItself)
     popup.setGlyph(L"!");
     popup.setMessage(L"Zprava");
     popup.applyStyle(styles);
-    testing::takePaintCalls();
-    popup.paint(nullptr, {});
-    const auto calls = testing::takePaintCalls();
-    const auto rectOfText = [&calls](const wchar_t* text) {
-        const auto call =
-            std::find_if(calls.begin(), calls.end(), [text](const auto& each) { return each.text == text; });
-        return call == calls.end() ? Rect{} : call->rect;
-    };
     const PopupStyle style;
-    EXPECT_EQ(rectOfText(L"Titul").x, style.paddingX + style.iconSize + 14);
-    EXPECT_EQ(rectOfText(L"Zprava").y, 40 + style.headerHeight + 16); // clear of the header's band
-    EXPECT_EQ(
-        std::count_if(calls.begin(), calls.end(), [](const auto& call) { return call.what == L"glyph"; }),
-        2); // the icon's mark and the close button's
-    for (const auto& call : calls)
-        EXPECT_EQ(intersection(call.rect, popup.bounds()), call.rect);
+    const auto texts = testing::paintedBy<TextCall>(popup);
+    EXPECT_EQ(rectOf(texts, L"Titul").x, style.paddingX + style.iconSize + 14);
+    EXPECT_EQ(rectOf(texts, L"Zprava").y, 40 + style.headerHeight + 16); // clear of the header's band
+    const auto icons = testing::paintedBy<GlyphCall>(popup);
+    ASSERT_EQ(icons.size(), 2u);
+    EXPECT_EQ(icons[0].glyph, Glyph::Warning);
+    EXPECT_EQ(icons[1].glyph, Glyph::Close);
+    for (const PaintCall& call : testing::paintedBy(popup)) {
+        const Rect rect = paintedRect(call).value_or(Rect{});
+        EXPECT_EQ(intersection(rect, popup.bounds()), rect);
+    }
 }
 
 TEST_F(ChromeTest, BitmapInsetsMoveWhatStandsOnASurface)
 {
-    const auto rectOf = [](const std::vector<testing::PaintCall>& calls, std::wstring_view text) {
-        const auto found =
-            std::ranges::find_if(calls, [text](const auto& call) { return call.text == text; });
-        return found == calls.end() ? Rect{} : found->rect;
-    };
     SurfaceGeometry& popupInsets = styles.table<PopupStyle>().defaultRecord().surface.geometry.ensure();
     popupInsets.safeInsets = {10, 20, 30, 40};
     popupInsets.actionRowInsets = {0, 3, 5, 7};
@@ -244,14 +241,11 @@ TEST_F(ChromeTest, BitmapInsetsMoveWhatStandsOnASurface)
     popup.setTitle(L"Hotovo");
     popup.setMessage(L"Zprava");
     popup.setActions({{L"OK", {}, true}});
-    testing::takePaintCalls();
-    window.root.paint(nullptr, {});
-    const auto plain = testing::takePaintCalls();
+    const auto plain = testing::paintedBy<TextCall>(window.root);
     const Rect action = popup.actionButton(0).bounds();
     const Rect popupClose = popup.closeButton().bounds();
     styleTree(window.root, styles);
-    window.root.paint(nullptr, {});
-    const auto moved = testing::takePaintCalls();
+    const auto moved = testing::paintedBy<TextCall>(window.root);
 
     const Rect title = rectOf(plain, L"Hotovo");
     EXPECT_EQ(rectOf(moved, L"Hotovo"),
@@ -275,18 +269,16 @@ TEST_F(ChromeTest, APopupCastsItsShadowOnlyOnGroundThatIsSeen)
     auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 40, 690, 380}));
     const auto shadows = [&] {
         popup.applyStyle(styles);
-        testing::takePaintCalls();
-        popup.paint(nullptr, {});
-        auto calls = testing::takePaintCalls();
-        std::erase_if(calls, [](const auto& call) { return !call.surface.showShadow; });
+        auto calls = testing::paintedBy<SurfaceCall>(popup);
+        std::erase_if(calls, [](const SurfaceCall& call) { return !call.style.showShadow; });
         return calls;
     };
     EXPECT_TRUE(shadows().empty()); // it fills what lies below the title bar
     popup.setBounds({20, 60, 400, 200});
     ASSERT_EQ(shadows().size(), 1u);
     EXPECT_EQ(shadows()[0].rect, popup.bounds());
-    EXPECT_EQ(shadows()[0].surface.shadowOffsetX, 3);
-    EXPECT_EQ(shadows()[0].surface.shadowOffsetY, 5);
+    EXPECT_EQ(shadows()[0].style.shadowOffsetX, 3);
+    EXPECT_EQ(shadows()[0].style.shadowOffsetY, 5);
     window.invalidated.clear();
     popup.setMessage(L"Jina");
     EXPECT_EQ(window.invalidated.back(), (Rect{20, 60, 403, 205}));

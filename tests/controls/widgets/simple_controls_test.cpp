@@ -1,5 +1,5 @@
 #include "tests/controls/tree/fake_window.h"
-#include "tests/support/recording_painter.h"
+#include "tests/support/painted.h"
 #include "vela/controls/widgets/check_box.h"
 #include "vela/controls/widgets/label.h"
 #include "vela/controls/widgets/progress_bar.h"
@@ -199,12 +199,10 @@ TEST_F(SimpleControlsTest, ACaptionStandsInTheContentOfItsSurface)
         window.root.addControl(std::make_unique<ThemedButton>(L"ok", Rect{10, 10, 100, 34}, L"OK"));
     const Size plain = button.minimumSize();
     button.applyStyle(styles);
-    testing::takePaintCalls();
-    button.paint(nullptr, {});
-    EXPECT_EQ(testing::takePaintCalls()[1].rect, (Rect{10 + 20 + 4, 14, 100 - 30 - 8, 28}));
+    const auto caption = [&button] { return testing::paintedBy<TextCall>(button).at(0); };
+    EXPECT_EQ(caption().rect, (Rect{10 + 20 + 4, 14, 100 - 30 - 8, 28}));
     button.setPressed(true);
-    button.paint(nullptr, {});
-    EXPECT_EQ(testing::takePaintCalls()[1].rect, (Rect{10 + 20 + 4, 16, 100 - 30 - 8, 26}));
+    EXPECT_EQ(caption().rect, (Rect{10 + 20 + 4, 16, 100 - 30 - 8, 26}));
     button.setMinimumSize({0, 0});
     EXPECT_EQ(button.minimumSize(), (Size{2 * 8 + 24 + 30, 16 + 6}));
     EXPECT_EQ(plain, (Size{100, 34}));
@@ -218,13 +216,7 @@ TEST_F(SimpleControlsTest, TheFocusRingHasTheSurfacesGlowAndIsRepaintedWithTheCo
         window.root.addControl(std::make_unique<ThemedButton>(L"ok", Rect{10, 10, 100, 34}, L"OK"));
     auto& check = window.root.addControl(std::make_unique<CheckBox>(L"c", Rect{10, 60, 300, 28}, L"Volba"));
     button.applyStyle(styles);
-    const auto ring = [](Control& control) {
-        testing::takePaintCalls();
-        control.paint(nullptr, {});
-        auto calls = testing::takePaintCalls();
-        std::erase_if(calls, [](const auto& call) { return call.what != L"ring"; });
-        return calls;
-    };
+    const auto ring = testing::paintedBy<FocusRingCall>;
     EXPECT_TRUE(ring(button).empty());
     window.focused = &button;
     window.invalidated.clear();
@@ -245,9 +237,7 @@ TEST_F(SimpleControlsTest, ABarTooLowForItsInsetsStillShowsATrack)
     const auto trackHeight = [&](std::int32_t height) {
         ProgressBar bar(L"p", {0, 0, 200, height});
         bar.applyStyle(styles);
-        testing::takePaintCalls();
-        bar.paint(nullptr, {});
-        return testing::takePaintCalls()[2].rect.height; // after frame and track
+        return testing::paintedBy<ProgressFillCall>(bar).at(0).track.height;
     };
     EXPECT_EQ(trackHeight(32), 10);
     EXPECT_EQ(trackHeight(28), 6);

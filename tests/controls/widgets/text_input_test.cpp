@@ -1,7 +1,7 @@
 #include "vela/controls/widgets/text_input.h"
 
 #include "tests/controls/tree/fake_window.h"
-#include "tests/support/recording_painter.h"
+#include "tests/support/painted.h"
 #include "vela/theme/records/style_sheet.h"
 
 #include <algorithm>
@@ -296,37 +296,34 @@ TEST_F(TextInputTest, ChipsStandBeforeTheTextAndCanBeRemoved)
 
 TEST_F(TextInputTest, PaintingShowsStateSelectionAndCaret)
 {
-    const auto painted = [this](const wchar_t* what) {
-        testing::takePaintCalls();
-        input.paint(nullptr, {});
-        std::vector<testing::PaintCall> calls = testing::takePaintCalls();
-        std::erase_if(calls, [what](const auto& call) { return call.what != what; });
-        return calls;
-    };
+    const auto carets = [this] { return testing::paintedBy<ShapeFillCall>(input); };
+    const auto selections = [this] { return testing::paintedBy<SurfaceCall>(input); };
+    const auto texts = [this] { return testing::paintedBy<TextCall>(input); };
     const TextInputStyle style;
-    ASSERT_EQ(painted(L"fill").size(), 1u);
-    EXPECT_EQ(painted(L"fill")[0].rect, (Rect{30 + 80, 48, 1, 16}));
-    EXPECT_EQ(painted(L"text")[0].rect.x, 30);
+    ASSERT_EQ(carets().size(), 1u);
+    EXPECT_EQ(carets()[0].rect, (Rect{30 + 80, 48, 1, 16}));
+    EXPECT_EQ(texts()[0].rect.x, 30);
     press(kKeyLeft, kShift);
-    ASSERT_EQ(painted(L"surface").size(), 2u);
-    EXPECT_EQ(painted(L"surface")[1].rect, (Rect{30 + 72, 46, 8, 20}));
+    EXPECT_EQ(testing::paintedBy<ControlSurfaceCall>(input).size(), 1u);
+    ASSERT_EQ(selections().size(), 1u);
+    EXPECT_EQ(selections()[0].rect, (Rect{30 + 72, 46, 8, 20}));
     // A selection in the text's own colour would hide it: there the text takes the field's.
     StyleSheet inverted;
     auto& record = inverted.table<TextInputStyle>().defaultRecord();
     record.selection.fill = record.text.color = hexColor(0xFFFFFF);
     record.focusedSurface.fill = hexColor(0x000000);
     input.applyStyle(inverted);
-    ASSERT_EQ(painted(L"text").size(), 2u);
-    EXPECT_EQ(painted(L"text")[0].color, hexColor(0xFFFFFF));
-    EXPECT_EQ(painted(L"text")[1].color, hexColor(0x000000));
+    ASSERT_EQ(texts().size(), 2u);
+    EXPECT_EQ(texts()[0].font.color, hexColor(0xFFFFFF));
+    EXPECT_EQ(texts()[1].font.color, hexColor(0x000000));
     input.applyStyle(StyleSheet());
     window.focused = nullptr;
-    EXPECT_TRUE(painted(L"fill").empty());
+    EXPECT_TRUE(carets().empty());
     input.setEnabled(false);
-    EXPECT_EQ(painted(L"text")[0].color, style.text.disabledColor);
+    EXPECT_EQ(texts()[0].font.color, style.text.disabledColor);
     input.setText(L"");
     input.setPlaceholder(L"Slozka");
-    EXPECT_EQ(painted(L"text")[0].text, L"Slozka");
+    EXPECT_EQ(texts()[0].text, L"Slozka");
 }
 #endif
 

@@ -3,7 +3,9 @@
 #include "tools/png_file_win32.h"
 #include "vela/render/bitmaps/image_decoder_win32.h"
 #include "vela/render/bitmaps/surface_bitmaps.h"
+#include "vela/render/paint/paint.h"
 #include "vela/render/surface/surface_painter.h"
+#include "vela/render/surface/surface_shape.h"
 
 #include <gtest/gtest.h>
 

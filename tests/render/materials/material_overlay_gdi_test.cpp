@@ -1,6 +1,7 @@
 #include "vela/render/materials/material_overlay_gdi.h"
 
 #include "tests/support/canvas_gdi.h"
+#include "vela/render/paint/paint.h"
 #include "vela/render/shapes/shape.h"
 #include "vela/render/surface/surface_painter.h"
 

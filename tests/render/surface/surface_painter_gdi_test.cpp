@@ -4,8 +4,10 @@
 #include "tests/support/gdi_objects_gdi.h"
 #include "tests/support/golden_win32.h"
 #include "vela/render/gdi/pixel_layer_gdi.h"
+#include "vela/render/paint/paint.h"
 #include "vela/render/shapes/shape.h"
 #include "vela/render/shapes/shape_rects.h"
+#include "vela/render/surface/surface_shape.h"
 
 #include <gtest/gtest.h>
 

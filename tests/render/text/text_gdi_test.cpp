@@ -3,6 +3,7 @@
 #include "tests/support/canvas_gdi.h"
 #include "tests/support/gdi_objects_gdi.h"
 #include "vela/library_win32.h"
+#include "vela/render/paint/paint.h"
 #include "vela/render/text/fonts.h"
 #include "vela/render/text/text_dwrite.h"
 

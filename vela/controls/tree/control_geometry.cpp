@@ -2,7 +2,7 @@
 #include "vela/controls/tree/control.h"
 #include "vela/controls/tree/panel.h"
 #include "vela/mul_div.h"
-#include "vela/render/surface/control_painter.h"
+#include "vela/render/surface/focus_ring.h"
 
 #include <algorithm>
 

@@ -3,8 +3,7 @@
 
 #include "vela/controls/tree/control.h"
 #include "vela/controls/tree/diagnostics.h"
-#include "vela/render/surface/surface_painter.h"
-#include "vela/render/text/text.h"
+#include "vela/render/paint/paint.h"
 #include "vela/theme/records/spellings.h"
 
 #include <algorithm>

@@ -1,7 +1,6 @@
 #include "vela/controls/tree/panel.h"
 
-#include "vela/render/gdi/paint_clip.h"
-#include "vela/render/surface/surface_painter.h"
+#include "vela/render/paint/paint.h"
 
 namespace vela {
 

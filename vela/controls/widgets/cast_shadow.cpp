@@ -1,7 +1,7 @@
 #include "vela/controls/widgets/cast_shadow.h"
 
 #include "vela/controls/tree/panel.h"
-#include "vela/render/surface/surface_painter.h"
+#include "vela/render/paint/paint.h"
 #include "vela/theme/derive/derive_surfaces.h"
 
 namespace vela {

@@ -1,7 +1,6 @@
 #include "vela/controls/widgets/check_box.h"
 
-#include "vela/render/surface/control_painter.h"
-#include "vela/render/text/text.h"
+#include "vela/render/paint/paint.h"
 #include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
 

@@ -1,8 +1,6 @@
 #include "vela/controls/widgets/chrome_title_bar.h"
 
-#include "vela/render/gdi/program_icon.h"
-#include "vela/render/surface/surface_painter.h"
-#include "vela/render/text/text.h"
+#include "vela/render/paint/paint.h"
 #include "vela/text.h"
 #include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"

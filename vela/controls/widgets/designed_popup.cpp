@@ -2,9 +2,7 @@
 
 #include "vela/controls/widgets/text_services.h"
 #include "vela/mul_div.h"
-#include "vela/render/surface/control_painter.h"
-#include "vela/render/surface/surface_painter.h"
-#include "vela/render/text/text.h"
+#include "vela/render/paint/paint.h"
 #include "vela/text.h"
 #include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
@@ -265,7 +263,7 @@ void DesignedPopup::paintGround(HDC dc, const Rect& box) const
 void DesignedPopup::paintIcon(HDC dc, Point at) const
 {
     const Rect icon = movedBy(iconRect(), at);
-    paintBadge(dc, icon, style_.icon);
+    paintControlFace(dc, icon, style_.icon);
     const auto* const row = std::find_if(std::begin(kIconGlyphs), std::end(kIconGlyphs),
                                          [this](const auto& known) { return known.text == glyph_; });
     const std::int32_t side = icon.width * 9 / 16;

@@ -1,5 +1,6 @@
 #include "vela/controls/widgets/label.h"
 
+#include "vela/render/paint/paint.h"
 #include "vela/theme/records/style_sheet.h"
 
 #include <utility>

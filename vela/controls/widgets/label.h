@@ -2,7 +2,7 @@
 #pragma once
 
 #include "vela/controls/tree/control.h"
-#include "vela/render/text/text.h"
+#include "vela/render/text/text_look.h"
 
 namespace vela {
 

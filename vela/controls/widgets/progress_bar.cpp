@@ -1,9 +1,7 @@
 #include "vela/controls/widgets/progress_bar.h"
 
 #include "vela/render/bitmaps/bitmap_geometry.h"
-#include "vela/render/surface/control_painter.h"
-#include "vela/render/surface/surface_painter.h"
-#include "vela/render/text/text.h"
+#include "vela/render/paint/paint.h"
 #include "vela/text.h"
 #include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"

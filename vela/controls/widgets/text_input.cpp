@@ -1,8 +1,7 @@
 #include "vela/controls/widgets/text_input.h"
 
 #include "vela/controls/tree/command_event.h"
-#include "vela/render/surface/surface_painter.h"
-#include "vela/render/text/text.h"
+#include "vela/render/paint/paint.h"
 #include "vela/text.h"
 #include "vela/text_clusters.h"
 #include "vela/theme/fields/record_scale.h"

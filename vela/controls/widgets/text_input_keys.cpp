@@ -2,7 +2,7 @@
 #include "vela/controls/widgets/text_input.h"
 
 #include "vela/controls/tree/command_event.h"
-#include "vela/render/text/text.h"
+#include "vela/render/paint/paint.h"
 
 #include <algorithm>
 

@@ -1,10 +1,7 @@
 // What a text field looks like.
 #include "vela/controls/widgets/text_input.h"
 
-#include "vela/render/gdi/paint_clip.h"
-#include "vela/render/surface/control_painter.h"
-#include "vela/render/surface/surface_painter.h"
-#include "vela/render/text/text.h"
+#include "vela/render/paint/paint.h"
 #include "vela/theme/color/contrast.h"
 #include "vela/theme/records/surface_tones.h"
 

@@ -1,8 +1,6 @@
 #include "vela/controls/widgets/tooltip.h"
 
-#include "vela/render/surface/control_painter.h"
-#include "vela/render/surface/surface_painter.h"
-#include "vela/render/text/text.h"
+#include "vela/render/paint/paint.h"
 #include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
 
@@ -66,7 +64,7 @@ void TooltipView::paint(HDC dc, Point origin)
     }
     if (style_.showIcon) {
         const Rect icon{x, room.y + style_.paddingY, style_.iconSize, style_.iconSize};
-        paintBadge(dc, icon, style_.icon);
+        paintControlFace(dc, icon, style_.icon);
         const std::int32_t side = style_.iconSize / 2;
         paintGlyph(dc, Glyph::Info,
                    {icon.x + (icon.width - side) / 2, icon.y + (icon.height - side) / 2, side, side}, dpi(),

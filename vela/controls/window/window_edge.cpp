@@ -1,6 +1,6 @@
 #include "vela/controls/window/window_edge.h"
 
-#include "vela/render/surface/surface_painter.h"
+#include "vela/render/paint/paint.h"
 #include "vela/theme/records/style_sheet.h"
 
 namespace vela {

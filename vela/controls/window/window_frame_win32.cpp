@@ -3,7 +3,7 @@
 #include "vela/controls/window/window_win32.h"
 
 #include "vela/library_win32.h"
-#include "vela/render/surface/surface_painter.h"
+#include "vela/render/surface/surface_shape.h"
 #include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
 

@@ -2,9 +2,8 @@
 // size, and from there to the screen.
 #include "vela/controls/window/window_win32.h"
 
-#include "vela/render/gdi/kept_pictures_gdi.h"
 #include "vela/render/gdi/owned_gdi.h"
-#include "vela/render/materials/material_clock.h"
+#include "vela/render/gdi/paint_context.h"
 
 #include <chrono>
 #include <utility>
@@ -33,9 +32,10 @@ void Window::Native::paintAhead()
 {
     if (!backBuffer_ || !*backBuffer_)
         return;
-    const WithoutKeptPictures first; // looking for them takes time
     window_.allDamaged_ = false;
     ::SelectClipRgn(backBuffer_->dc(), nullptr);
+    // Nothing of it was painted before, and looking for pictures of it takes time.
+    const PaintContextBinding first(backBuffer_->dc(), withoutCaching({}));
     paintTree(backBuffer_->dc());
     damage_ = {};
     isDamageScattered_ = false;
@@ -97,7 +97,10 @@ LRESULT Window::Native::onPrintClient(HDC dc)
 
 void Window::Native::paintTree(HDC dc)
 {
-    setMaterialMoment({lights_.time(), lights_.profile()});
+    PaintContext context = paintContext(dc);
+    context.time = lights_.time();
+    context.profile = lights_.profile();
+    const PaintContextBinding binding(dc, context);
     window_.root_.paint(dc, {});
     if (!window_.debugOverlay_.on)
         return;

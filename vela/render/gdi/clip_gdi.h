@@ -4,6 +4,7 @@
 #include "vela/geometry.h"
 
 #include <optional>
+#include <vector>
 
 #include <windows.h>
 
@@ -18,6 +19,11 @@ Rect visiblePart(HDC dc, const Rect& rect) noexcept;
 
 // Whether the clip shows all of its bounding box.
 bool isClipRectangle(HDC dc) noexcept;
+
+// Narrows the clip to what lies in it and in at least one rectangle; restoreClip puts the context back as it
+// was then.
+int narrowClip(HDC dc, const std::vector<Rect>& rects);
+void restoreClip(HDC dc, int saved) noexcept;
 
 inline bool isVisible(HDC dc, const Rect& rect) noexcept { return !isEmpty(visiblePart(dc, rect)); }
 

@@ -4,9 +4,9 @@
 #include "vela/geometry.h"
 #include "vela/platform_handles.h"
 
-namespace vela {
+namespace vela::render {
 
 // Draws nothing in a program without an icon.
 void paintProgramIcon(HDC dc, const Rect& box);
 
-} // namespace vela
+} // namespace vela::render

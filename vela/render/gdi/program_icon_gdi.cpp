@@ -2,7 +2,7 @@
 
 #include "vela/owned_win32.h"
 
-namespace vela {
+namespace vela::render {
 
 namespace {
 
@@ -27,4 +27,4 @@ void paintProgramIcon(HDC dc, const Rect& box)
         ::DrawIconEx(dc, box.x, box.y, icon, box.width, box.height, 0, nullptr, DI_NORMAL);
 }
 
-} // namespace vela
+} // namespace vela::render

@@ -1,15 +1,6 @@
 #include "vela/render/materials/material_clock.h"
 
 namespace vela {
-namespace {
-
-MaterialMoment& moment() noexcept
-{
-    static MaterialMoment now;
-    return now;
-}
-
-} // namespace
 
 bool hasMovingLight(const SurfaceStyle& style) noexcept
 {
@@ -28,9 +19,5 @@ float lightPhase(const SurfaceStyle& style, std::uint64_t time) noexcept
         style.animationSpeed % kOrbit * (static_cast<std::int64_t>(time % kOrbit)) % kOrbit;
     return static_cast<float>(moved > 0 ? moved : moved + kOrbit) / static_cast<float>(kTurn);
 }
-
-const MaterialMoment& materialMoment() noexcept { return moment(); }
-
-void setMaterialMoment(const MaterialMoment& now) noexcept { moment() = now; }
 
 } // namespace vela

@@ -15,14 +15,4 @@ bool hasMovingLight(const SurfaceStyle& style) noexcept;
 // animation does not jump.
 float lightPhase(const SurfaceStyle& style, std::uint64_t time) noexcept;
 
-// What surfaces are painted for. Each window sets its own moment before it paints, so that a part of it that
-// is painted again between two steps of an animation fits the rest.
-struct MaterialMoment {
-    std::uint64_t time = 0;
-    PerformanceProfile profile = PerformanceProfile::Full;
-};
-
-const MaterialMoment& materialMoment() noexcept;
-void setMaterialMoment(const MaterialMoment& moment) noexcept;
-
 } // namespace vela

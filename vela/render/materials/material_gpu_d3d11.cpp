@@ -181,7 +181,7 @@ bool tryDrawMaterialOverlayHlsl(HDC dc, const Rect& rect, const SurfaceStyle& st
 {
     if (isEmpty(rect) || !MaterialGpu::instance())
         return false;
-    const MaterialConstants constants = currentMaterialConstants(style, rect);
+    const MaterialConstants constants = currentMaterialConstants(dc, style, rect);
     const PixelView overlay = materialOverlays().ensure(
         constants, [&constants](const PixelView& pixels) { return renderMaterialOnGpu(constants, pixels); });
     compositeMaterialOverlay(dc, rect, style, overlay);

@@ -3,6 +3,7 @@
 #include "vela/render/bitmaps/surface_bitmaps.h"
 #include "vela/render/bitmaps/surface_outline.h"
 #include "vela/render/gdi/clip_gdi.h"
+#include "vela/render/gdi/paint_context.h"
 #include "vela/render/gdi/pixel_layer_gdi.h"
 #include "vela/render/materials/material_clock.h"
 #include "vela/render/materials/material_light.h"
@@ -62,10 +63,10 @@ MaterialOverlayCache& materialOverlays()
     return overlays;
 }
 
-MaterialConstants currentMaterialConstants(const SurfaceStyle& style, const Rect& rect)
+MaterialConstants currentMaterialConstants(HDC dc, const SurfaceStyle& style, const Rect& rect)
 {
-    const MaterialMoment& now = materialMoment();
-    return materialConstants(style, rect, lightPhase(style, now.time), now.profile);
+    const PaintContext& context = paintContext(dc);
+    return materialConstants(style, rect, lightPhase(style, context.time), context.profile);
 }
 
 void compositeMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style, const PixelView& overlay)
@@ -81,7 +82,7 @@ void compositeMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& styl
 
 void drawSoftwareMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
-    drawInSoftware(dc, rect, style, currentMaterialConstants(style, rect));
+    drawInSoftware(dc, rect, style, currentMaterialConstants(dc, style, rect));
 }
 
 void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style,
@@ -91,7 +92,7 @@ void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceS
         return;
     SurfaceStyle seamless = style;
     seamless.uvMapping = MappingSpace::Global;
-    const float phase = lightPhase(style, materialMoment().time);
+    const float phase = lightPhase(style, paintContext(dc).time);
     drawInSoftware(dc, rect, seamless, materialConstants(seamless, rect, phase, profile));
 }
 

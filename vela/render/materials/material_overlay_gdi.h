@@ -21,8 +21,8 @@ void drawSoftwareMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& s
 void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style,
                                         PerformanceProfile profile);
 
-// The surface's constants at this moment: the light where it is now, the machine as busy as it may be.
-MaterialConstants currentMaterialConstants(const SurfaceStyle& style, const Rect& rect);
+// The surface's constants in this paint: the light where it is now, the machine as busy as it may be.
+MaterialConstants currentMaterialConstants(HDC dc, const SurfaceStyle& style, const Rect& rect);
 
 // Lays the surface's overlay, pixels of the rectangle's size, over it: cut to its shape or to its bitmap's.
 void compositeMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style, const PixelView& overlay);

@@ -35,6 +35,13 @@ void drawGlyph(const LayerTarget& target, Glyph glyph, const Rect& box, std::int
 // The side of a caption glyph's box, in pixels.
 std::int32_t captionGlyphSize(std::int32_t dpi) noexcept;
 
+// Where a mark on a small plate of that shape has air around it and keeps clear of its slopes.
+constexpr Rect markBox(ShapeKind shape, const Rect& plate) noexcept
+{
+    const std::int32_t inset = plate.width / (shape == ShapeKind::Diamond ? 5 : 8);
+    return {plate.x + inset, plate.y + inset, plate.width - 2 * inset, plate.height - 2 * inset};
+}
+
 // A shape filled with a smooth edge: badges, dots, check boxes of any size.
 void fillSmoothShape(const LayerTarget& target, ShapeKind kind, const Rect& rect, Color color,
                      std::uint8_t alpha = 255);

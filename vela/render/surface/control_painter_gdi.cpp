@@ -2,18 +2,18 @@
 
 #include "vela/mul_div.h"
 #include "vela/render/gdi/dib_gdi.h"
-#include "vela/render/gdi/kept_pictures_gdi.h"
+#include "vela/render/gdi/picture_cache_gdi.h"
 #include "vela/render/gdi/pixel_layer_gdi.h"
 #include "vela/render/materials/material_clock.h"
-#include "vela/render/surface/kept_surface.h"
+#include "vela/render/surface/focus_ring.h"
+#include "vela/render/surface/surface_key.h"
 #include "vela/render/surface/surface_painter.h"
 
 #include <algorithm>
 #include <cmath>
 #include <deque>
 
-namespace vela {
-
+namespace vela::render {
 namespace {
 
 // GDI leaves the alpha of what it draws undefined.
@@ -26,7 +26,7 @@ void makeOpaque(const PixelView& pixels)
 
 // The target's coordinates begin at the rectangle's corner.
 template <typename Draw>
-void drawSmooth(HDC dc, const Rect& rect, Draw&& draw)
+void drawAntialiased(HDC dc, const Rect& rect, Draw&& draw)
 {
     renderPixelLayer(dc, rect, [&](const LayerTarget& target) {
         draw(target, Rect{0, 0, rect.width, rect.height});
@@ -48,13 +48,13 @@ public:
     const DibSurface* surface() const noexcept { return surface_; } // null without memory
 
 private:
-    // A progress bar's fill is cut while it is made of surfaces that are cut.
+    // A progress bar's fill is masked while it is made of surfaces that are masked.
     static ScratchBitmap& nextFree()
     {
-        constexpr std::int64_t kMostKeptPixels = 500'000; // 2 MB: any control, not a window
+        constexpr std::int64_t kMostPixels = 500'000; // 2 MB: any control, not a window
         static std::deque<ScratchBitmap> bitmaps;
         if (used_ == bitmaps.size())
-            bitmaps.emplace_back(kMostKeptPixels);
+            bitmaps.emplace_back(kMostPixels);
         return bitmaps[used_++];
     }
     static inline std::size_t used_ = 0;
@@ -63,10 +63,10 @@ private:
     const DibSurface* surface_;
 };
 
-// Paints on a copy of what lies under the rectangle and lays back what `cut` leaves of that picture, so that
-// hard-edged layers get a smooth edge.
-template <typename Paint, typename Cut>
-void paintCut(HDC dc, const Rect& rect, Paint&& paint, Cut&& cut)
+// Paints on a copy of what lies under the rectangle and lays back what `mask` leaves of that picture, so that
+// hard-edged layers get an antialiased edge.
+template <typename Paint, typename Mask>
+void paintMasked(HDC dc, const Rect& rect, Paint&& paint, Mask&& mask)
 {
     const Rect visible = visiblePart(dc, rect);
     if (isEmpty(visible))
@@ -81,27 +81,29 @@ void paintCut(HDC dc, const Rect& rect, Paint&& paint, Cut&& cut)
                         visible.y + visible.height);
     ::BitBlt(copy.dc(), visible.x, visible.y, visible.width, visible.height, dc, visible.x, visible.y,
              SRCCOPY);
-    paint(copy.dc());
+    {
+        const PaintContextBinding inherited(copy.dc(), paintContext(dc));
+        paint(copy.dc());
+    }
     const PixelView all = copy.pixels();
     const PixelView pixels{all.pixels, sizeOf(visible), all.stride};
     makeOpaque(pixels);
-    cut(LayerTarget{pixels, {visible.x - rect.x, visible.y - rect.y}});
+    mask(LayerTarget{pixels, {visible.x - rect.x, visible.y - rect.y}});
     compositePixelBuffer(dc, visible, pixels);
 }
 
-// Fill or gradient on the whole rectangle, for the cut to find colour up to the very edge.
-SurfaceStyle groundOf(const SurfaceStyle& style)
+// Fill or gradient on the whole rectangle, for the mask to find colour up to the very edge.
+SurfaceStyle fillLayersOf(const SurfaceStyle& style)
 {
-    SurfaceStyle ground = style;
-    ground.shape = ShapeKind::Rect;
-    ground.materialEnabled = ground.drawBorder = ground.showOutline = ground.showGlow = ground.showShadow =
-        false;
-    ground.showInnerShadow = ground.useNoise = false;
-    ground.materialDepth = 0;
-    return ground;
+    SurfaceStyle fill = style;
+    fill.shape = ShapeKind::Rect;
+    fill.materialEnabled = fill.drawBorder = fill.showOutline = fill.showGlow = fill.showShadow = false;
+    fill.showInnerShadow = fill.useNoise = false;
+    fill.materialDepth = 0;
+    return fill;
 }
 
-SurfaceStyle lightOf(const SurfaceStyle& style)
+SurfaceStyle lightLayersOf(const SurfaceStyle& style)
 {
     SurfaceStyle light = style;
     light.drawFill = light.useGradient = light.drawBorder = light.showOutline = light.showGlow =
@@ -110,30 +112,30 @@ SurfaceStyle lightOf(const SurfaceStyle& style)
 }
 
 // What lies around a surface rather than on it.
-SurfaceStyle haloOf(const SurfaceStyle& style)
+SurfaceStyle outerLayersOf(const SurfaceStyle& style)
 {
-    SurfaceStyle halo = style;
-    halo.drawFill = halo.useGradient = halo.drawBorder = halo.showOutline = halo.showInnerShadow =
-        halo.useNoise = halo.materialEnabled = false;
-    halo.materialDepth = 0;
-    return halo;
+    SurfaceStyle outer = style;
+    outer.drawFill = outer.useGradient = outer.drawBorder = outer.showOutline = outer.showInnerShadow =
+        outer.useNoise = outer.materialEnabled = false;
+    outer.materialDepth = 0;
+    return outer;
 }
 
 // The surface itself, without what lies around it.
 void paintFace(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
-    paintCut(
+    paintMasked(
         dc, rect,
         [&](HDC copy) {
-            paintSurface(copy, rect, groundOf(style));
-            paintSurface(copy, rect, lightOf(style));
+            paintSurface(copy, rect, fillLayersOf(style));
+            paintSurface(copy, rect, lightLayersOf(style));
         },
         [&](const LayerTarget& target) {
             cutToProgress(target, style.shape, {0, 0, rect.width, rect.height},
                           static_cast<float>(rect.width));
         });
     const auto stroke = [&](float width, Color color) {
-        drawSmooth(dc, rect, [&](const LayerTarget& target, const Rect& local) {
+        drawAntialiased(dc, rect, [&](const LayerTarget& target, const Rect& local) {
             strokeSmoothShape(target, style.shape, local, width, color);
         });
     };
@@ -144,10 +146,10 @@ void paintFace(HDC dc, const Rect& rect, const SurfaceStyle& style)
 }
 
 // A button under the pointer is painted again and again in two or three states.
-KeptPictures<KeptSurface>& keptFaces()
+PictureCache<SurfaceKey>& facePictures()
 {
     constexpr std::size_t kMostPixels = 1'000'000; // 4 MB
-    static KeptPictures<KeptSurface> pictures(kMostPixels);
+    static PictureCache<SurfaceKey> pictures(kMostPixels);
     return pictures;
 }
 
@@ -155,7 +157,7 @@ KeptPictures<KeptSurface>& keptFaces()
 
 void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color)
 {
-    drawSmooth(dc, box, [&](const LayerTarget& target, const Rect& local) {
+    drawAntialiased(dc, box, [&](const LayerTarget& target, const Rect& local) {
         drawGlyph(target, glyph, local, dpi, color);
     });
 }
@@ -168,19 +170,12 @@ void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi,
     const std::int32_t growth = shape == ShapeKind::Rect ? reach : 0;
     const Rect from = grownBy(movedBy(rect, {-bounds.x, -bounds.y}), growth);
     const auto width = static_cast<float>(mulDiv(kFocusRingWidth, dpi, kDesignDpi));
-    drawSmooth(dc, bounds, [&](const LayerTarget& target, const Rect&) {
+    drawAntialiased(dc, bounds, [&](const LayerTarget& target, const Rect&) {
         strokeSmoothShape(target, shape, from, width, color, static_cast<float>(growth - reach));
     });
 }
 
-void paintBadge(HDC dc, const Rect& rect, ShapeKind shape, Color color)
-{
-    drawSmooth(dc, rect, [&](const LayerTarget& target, const Rect& local) {
-        fillSmoothShape(target, shape, local, color);
-    });
-}
-
-void paintBadge(HDC dc, const Rect& rect, const SurfaceStyle& style)
+void paintControlFace(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
     if (style.image) // a bitmap has its own edges
         return paintSurface(dc, rect, style);
@@ -189,15 +184,16 @@ void paintBadge(HDC dc, const Rect& rect, const SurfaceStyle& style)
         return;
     if (hasMovingLight(style))
         return paintFace(dc, rect, style);
+    const PaintContext& context = paintContext(dc);
     const auto paint = [&] {
-        const WithoutKeptPictures whole; // its layers need not be kept as well
+        const PaintContextBinding whole(dc, withoutCaching(context)); // not its layers as well
         paintFace(dc, rect, style);
         return true;
     };
-    paintKept(dc, area, keptFaces(),
-              SurfaceView{style, LoadedBitmaps(), rect, area, // no image, no bitmaps
-                          static_cast<std::uint8_t>(materialMoment().profile)},
-              paint);
+    paintCached(dc, area, facePictures(),
+                SurfaceKeyView{style, LoadedBitmaps(), rect, area, // no image, no bitmaps
+                               static_cast<std::uint8_t>(context.profile)},
+                paint);
 }
 
 void paintControlSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
@@ -205,21 +201,21 @@ void paintControlSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
     if (style.image || style.shape == ShapeKind::Rect)
         return paintSurface(dc, rect, style);
     if (style.showShadow || style.showGlow)
-        paintSurface(dc, rect, haloOf(style));
+        paintSurface(dc, rect, outerLayersOf(style));
     const bool hasFace = style.drawFill || style.useGradient || style.materialEnabled;
     if (hasFace || style.drawBorder || style.showOutline)
-        paintBadge(dc, rect, style);
+        paintControlFace(dc, rect, style);
 }
 
 void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end)
 {
     const float reach = std::clamp(end, 0.0F, static_cast<float>(std::max(track.width, 0)));
     const Rect filled{track.x, track.y, static_cast<std::int32_t>(std::ceil(reach)), track.height};
-    paintCut(
+    paintMasked(
         dc, filled, [&](HDC copy) { paintControlSurface(copy, track, fill); },
         [&](const LayerTarget& target) {
             cutToProgress(target, fill.shape, {0, 0, track.width, track.height}, reach);
         });
 }
 
-} // namespace vela
+} // namespace vela::render

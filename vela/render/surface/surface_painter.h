@@ -5,13 +5,9 @@
 #include "vela/geometry.h"
 #include "vela/platform_handles.h"
 #include "vela/render/bitmaps/bitmap_geometry.h"
-#include "vela/render/surface/surface_shape.h"
 #include "vela/theme/records/surface_style.h"
 
 namespace vela {
-
-// All layers of the style, in their order. Costs nothing when the clip hides the surface.
-void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style);
 
 // One layer alone, whatever the style's switches say.
 void drawGradientShape(HDC dc, const Rect& rect, const SurfaceStyle& style);
@@ -20,11 +16,12 @@ void drawSpatialSurfaceShading(HDC dc, const Rect& rect, const SurfaceStyle& sty
 void drawInnerShadow(HDC dc, const Rect& rect, const SurfaceStyle& style);
 void drawNoise(HDC dc, const Rect& rect, const SurfaceStyle& style);
 
-// Whether the pointer is on what is painted: by the surface's bitmap where the style says so, else by the
-// shape that a control names for its hits.
-bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point);
+// What paint.h promises about surfaces.
+namespace render {
 
-// The part of the surface that its bitmap leaves for its text, or for another part of what stands on it.
+void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style);
+bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point);
 Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi);
 
+} // namespace render
 } // namespace vela

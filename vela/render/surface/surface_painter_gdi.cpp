@@ -4,13 +4,14 @@
 #include "vela/render/bitmaps/surface_bitmaps.h"
 #include "vela/render/bitmaps/surface_outline.h"
 #include "vela/render/gdi/clip_gdi.h"
-#include "vela/render/gdi/kept_pictures_gdi.h"
+#include "vela/render/gdi/picture_cache_gdi.h"
 #include "vela/render/gdi/pixel_layer_gdi.h"
 #include "vela/render/layers/layer_parts.h"
 #include "vela/render/layers/paint_plan.h"
 #include "vela/render/materials/material_gpu_d3d11.h"
 #include "vela/render/materials/material_overlay_gdi.h"
-#include "vela/render/surface/kept_surface.h"
+#include "vela/render/surface/surface_key.h"
+#include "vela/render/surface/surface_shape.h"
 
 #include <algorithm>
 
@@ -48,38 +49,31 @@ void paintStep(const Surface& surface, const PaintStep& step)
 {
     const ShapeKind shape = surface.style.shape;
     switch (step.layer) {
-    case SurfaceLayer::Fill: return fillShape(surface.dc, step.rect, shape, step.color);
+    case SurfaceLayer::Fill: return render::fillShape(surface.dc, step.rect, shape, step.color);
     case SurfaceLayer::Border:
     case SurfaceLayer::Outline:
-        return strokeShapeOutline(surface.dc, step.rect, shape, step.color, step.penWidth);
+        return render::strokeShapeOutline(surface.dc, step.rect, shape, step.color, step.penWidth);
     case SurfaceLayer::Material: return drawMaterialOverlay(surface.dc, step.rect, surface.style);
     default: return paintPixels(surface, step);
     }
 }
 
-KeptPictures<KeptSurface>& keptLayers()
+PictureCache<SurfaceKey>& layerPictures()
 {
     constexpr std::size_t kMostPixels = 4'000'000; // 16 MB: some dialogs in several states, or a full screen
-    static KeptPictures<KeptSurface> pictures(kMostPixels);
+    static PictureCache<SurfaceKey> pictures(kMostPixels);
     return pictures;
 }
 
 Rect boundsOf(const PaintStep* first, const PaintStep* last) noexcept
 {
-    std::int32_t left = first->rect.x;
-    std::int32_t top = first->rect.y;
-    std::int32_t right = left + first->rect.width;
-    std::int32_t bottom = top + first->rect.height;
-    for (const PaintStep* step = first + 1; step != last; ++step) {
-        left = std::min(left, step->rect.x);
-        top = std::min(top, step->rect.y);
-        right = std::max(right, step->rect.x + step->rect.width);
-        bottom = std::max(bottom, step->rect.y + step->rect.height);
-    }
-    return {left, top, right - left, bottom - top};
+    Rect bounds = first->rect;
+    for (const PaintStep* step = first + 1; step != last; ++step)
+        bounds = united(bounds, step->rect);
+    return bounds;
 }
 
-// Layers between which there is no material: that one may move, and keeps itself.
+// Layers between which there is no material: that one may move, and has a cache of its own.
 void paintLayers(const Surface& surface, const PaintStep* first, const PaintStep* last)
 {
     const auto paint = [&] {
@@ -93,10 +87,10 @@ void paintLayers(const Surface& surface, const PaintStep* first, const PaintStep
         return;
     }
     const Rect area = visiblePart(surface.dc, boundsOf(first, last));
-    paintKept(surface.dc, area, keptLayers(),
-              SurfaceView{surface.style, surface.bitmaps, surface.rect, area,
-                          static_cast<std::uint8_t>(first->layer)},
-              paint);
+    paintCached(surface.dc, area, layerPictures(),
+                SurfaceKeyView{surface.style, surface.bitmaps, surface.rect, area,
+                               static_cast<std::uint8_t>(first->layer)},
+                paint);
 }
 
 void drawLayer(HDC dc, SurfaceLayer layer, const Rect& rect, const SurfaceStyle& style)
@@ -106,7 +100,7 @@ void drawLayer(HDC dc, SurfaceLayer layer, const Rect& rect, const SurfaceStyle&
 
 } // namespace
 
-void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
+void render::paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
     if (!isVisible(dc, rect))
         return; // before any bitmap is loaded for it
@@ -124,13 +118,13 @@ void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
     }
 }
 
-bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point)
+bool render::isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point)
 {
     const LoadedBitmaps bitmaps = surfaceBitmaps(style);
     return hitSurface(style, hitShape, size, point, bitmaps.view());
 }
 
-Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi)
+Rect render::surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi)
 {
     const bool mayHaveOutline = style.geometry && !isEmpty(surface);
     return roomOn(style, surface, part, dpi,

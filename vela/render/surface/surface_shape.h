@@ -10,13 +10,15 @@
 
 namespace vela {
 
-// Fill and stroke cover exactly pixels of the shape's mask. The stroke lies inside the rectangle, the pen's
-// width deep.
-void fillShape(HDC dc, const Rect& rect, ShapeKind kind, Color color);
-void strokeShapeOutline(HDC dc, const Rect& rect, ShapeKind kind, Color color, std::int32_t penWidth);
-
 // The region that gives a window of that size the style's shape, from (0, 0); null for a plain rectangle. The
 // caller owns it.
 HRGN createShapeRegion(const SurfaceStyle& style, Size size);
 
+// What paint.h promises about shapes.
+namespace render {
+
+void fillShape(HDC dc, const Rect& rect, ShapeKind kind, Color color);
+void strokeShapeOutline(HDC dc, const Rect& rect, ShapeKind kind, Color color, std::int32_t penWidth);
+
+} // namespace render
 } // namespace vela

@@ -69,12 +69,12 @@ HRGN runRegion(const RunMask& outline)
 
 } // namespace
 
-void fillShape(HDC dc, const Rect& rect, ShapeKind kind, Color color)
+void render::fillShape(HDC dc, const Rect& rect, ShapeKind kind, Color color)
 {
     visitFill(kind, sizeOf(rect), SolidFiller(dc, {rect.x, rect.y}, color));
 }
 
-void strokeShapeOutline(HDC dc, const Rect& rect, ShapeKind kind, Color color, std::int32_t penWidth)
+void render::strokeShapeOutline(HDC dc, const Rect& rect, ShapeKind kind, Color color, std::int32_t penWidth)
 {
     visitStroke(kind, sizeOf(rect), penWidth, SolidFiller(dc, {rect.x, rect.y}, color));
 }

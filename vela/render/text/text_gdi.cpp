@@ -137,8 +137,8 @@ bool tryDrawText(HDC dc, const Rect& rect, const TextRequest& request, PreparedT
 
 } // namespace
 
-void drawText(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font, std::int32_t dpi,
-              TextLook look)
+void render::drawText(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font,
+                      std::int32_t dpi, TextLook look)
 {
     if (text.empty() || !isVisible(dc, rect))
         return;
@@ -160,8 +160,8 @@ void drawCenteredText(HDC dc, const Rect& rect, std::wstring_view text, const Fo
             flagsFor(TextWrap::SingleLine, TextAlign::Center), colorFor(font, tone));
 }
 
-void drawUnclippedLine(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font,
-                       std::int32_t dpi, Color color)
+void render::drawUnclippedLine(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font,
+                               std::int32_t dpi, Color color)
 {
     if (text.empty())
         return;
@@ -176,7 +176,8 @@ void drawUnclippedLine(HDC dc, const Rect& rect, std::wstring_view text, const F
                   reinterpret_cast<const INT*>(advances.data()));
 }
 
-std::int32_t measureText(std::wstring_view text, const FontSpec& font, std::int32_t dpi, std::int32_t width)
+std::int32_t render::measureText(std::wstring_view text, const FontSpec& font, std::int32_t dpi,
+                                 std::int32_t width)
 {
     const Font& made = ensureFont(font, dpi);
     // Unlike DrawTextW, drawing breaks words that are longer than a line: so the lines are broken first.
@@ -189,17 +190,20 @@ std::int32_t measureText(std::wstring_view text, const FontSpec& font, std::int3
     return room.bottom;
 }
 
-std::int32_t lineHeight(const FontSpec& font, std::int32_t dpi) { return ensureFont(font, dpi).lineHeight; }
+std::int32_t render::lineHeight(const FontSpec& font, std::int32_t dpi)
+{
+    return ensureFont(font, dpi).lineHeight;
+}
 
-std::int32_t measureTextWidth(std::wstring_view text, const FontSpec& font, std::int32_t dpi)
+std::int32_t render::measureTextWidth(std::wstring_view text, const FontSpec& font, std::int32_t dpi)
 {
     std::vector<std::int32_t> ends;
-    measureTextEnds(text, font, dpi, ends);
+    render::measureTextEnds(text, font, dpi, ends);
     return ends.empty() ? 0 : ends.back();
 }
 
-void measureTextEnds(std::wstring_view text, const FontSpec& font, std::int32_t dpi,
-                     std::vector<std::int32_t>& ends)
+void render::measureTextEnds(std::wstring_view text, const FontSpec& font, std::int32_t dpi,
+                             std::vector<std::int32_t>& ends)
 {
     GdiRuler(ensureFont(font, dpi)).measure(text, ends);
 }

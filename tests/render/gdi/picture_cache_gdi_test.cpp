@@ -1,11 +1,9 @@
-// Painting with kept pictures against painting without: the same pixels, whatever lies beneath and is
+// Painting with cached pictures against painting without: the same pixels, whatever lies beneath and is
 // clipped.
-#include "vela/render/gdi/kept_pictures_gdi.h"
+#include "vela/render/gdi/picture_cache_gdi.h"
 
 #include "tests/support/canvas_gdi.h"
-#include "vela/render/surface/control_painter.h"
-#include "vela/render/surface/surface_painter.h"
-#include "vela/render/text/text.h"
+#include "vela/render/paint/paint.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -69,7 +67,7 @@ void clipCross(HDC dc)
 void clipLeft(HDC dc) { ::IntersectClipRect(dc, 0, 0, 50, 80); }
 void shiftOrigin(HDC dc) { ::SetViewportOrgEx(dc, 7, 3, nullptr); }
 
-TEST(KeptPicturesPaintingTest, EveryPixelIsTheSameWithAndWithout)
+TEST(PictureCachePaintingTest, EveryPixelIsTheSameWithAndWithout)
 {
     const Step steps[] = {
         {hexColor(0x304050), {10, 10}, {}},          {hexColor(0x304050), {10, 10}, clipCross},
@@ -78,13 +76,13 @@ TEST(KeptPicturesPaintingTest, EveryPixelIsTheSameWithAndWithout)
         {hexColor(0x304050), {10, 10}, shiftOrigin}, {hexColor(0x304050), {60, 50}, {}},
         {hexColor(0x304050), {-20, -8}, {}},
     };
-    // Thrice: once seen, once kept, once used.
+    // Thrice: once seen, once stored, once used.
     for (int round = 0; round < 3; ++round) {
         for (const Step& step : steps) {
             Canvas with(kCanvas, step.ground);
             Canvas without(kCanvas, step.ground);
             for (Canvas* canvas : {&without, &with}) {
-                setPicturesKept(canvas == &with);
+                const PaintContextBinding context(canvas->dc(), {.cachesPictures = canvas == &with});
                 if (step.clip)
                     step.clip(canvas->dc());
                 paintScene(canvas->dc(), step.at);
@@ -93,17 +91,16 @@ TEST(KeptPicturesPaintingTest, EveryPixelIsTheSameWithAndWithout)
                 << "round " << round << ", step " << &step - std::begin(steps);
         }
     }
-    setPicturesKept(true);
 }
 
-TEST(KeptPicturesPaintingTest, WhatIsPaintedAThirdTimeIsCopied)
+TEST(PictureCachePaintingTest, WhatIsPaintedAThirdTimeIsCopied)
 {
-    KeptPictures<int> pictures(10'000);
+    PictureCache<int> pictures(10'000);
     const Rect area{5, 5, 30, 20};
     int painted = 0;
     bool succeeds = true;
     const auto paint = [&](Canvas& canvas) {
-        return paintKept(canvas.dc(), area, pictures, 1, [&] {
+        return paintCached(canvas.dc(), area, pictures, 1, [&] {
             ++painted;
             fillShape(canvas.dc(), area, ShapeKind::Rect, hexColor(0xFF8000));
             return succeeds;
@@ -116,7 +113,7 @@ TEST(KeptPicturesPaintingTest, WhatIsPaintedAThirdTimeIsCopied)
         EXPECT_EQ(canvas.at(20, 15), 0xFF8000u);
         EXPECT_EQ(canvas.at(35, 15), 0x304050u);
     }
-    // Where painting fails, nothing is kept of it.
+    // Where painting fails, nothing is stored of it.
     succeeds = false;
     for (int time = 0; time < 3; ++time) {
         Canvas canvas(kCanvas, hexColor(0x111111));

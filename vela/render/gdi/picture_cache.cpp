@@ -1,4 +1,4 @@
-#include "vela/render/gdi/kept_pictures.h"
+#include "vela/render/gdi/picture_cache.h"
 
 #include <cstring>
 
@@ -8,7 +8,7 @@ namespace {
 constexpr std::uint64_t kOdd = 0x9E3779B97F4A7C15;
 constexpr std::uint64_t kColors = 0x00FFFFFF00FFFFFF;
 
-constexpr std::uint64_t mixed(std::uint64_t digest, std::uint64_t value) noexcept
+constexpr std::uint64_t hashed(std::uint64_t digest, std::uint64_t value) noexcept
 {
     digest = (digest ^ value) * kOdd;
     return digest ^ digest >> 32;
@@ -32,15 +32,15 @@ Backdrop backdropOf(const PixelView& pixels) noexcept
         const Pixel* const row = pixels.row(y);
         std::int32_t x = 0;
         for (; x + 8 <= width; x += 8) {
-            sums[0] = mixed(sums[0], twoPixels(row + x));
-            sums[1] = mixed(sums[1], twoPixels(row + x + 2));
-            sums[2] = mixed(sums[2], twoPixels(row + x + 4));
-            sums[3] = mixed(sums[3], twoPixels(row + x + 6));
+            sums[0] = hashed(sums[0], twoPixels(row + x));
+            sums[1] = hashed(sums[1], twoPixels(row + x + 2));
+            sums[2] = hashed(sums[2], twoPixels(row + x + 4));
+            sums[3] = hashed(sums[3], twoPixels(row + x + 6));
         }
         for (; x < width; ++x)
-            sums[x % 4] = mixed(sums[x % 4], row[x] & 0xFFFFFF);
+            sums[x % 4] = hashed(sums[x % 4], row[x] & 0xFFFFFF);
     }
-    return {pixels.size, mixed(mixed(mixed(sums[0], sums[1]), sums[2]), sums[3])};
+    return {pixels.size, hashed(hashed(hashed(sums[0], sums[1]), sums[2]), sums[3])};
 }
 
 } // namespace vela

@@ -1,5 +1,5 @@
-// What painting made of a piece of the picture, kept by value: the same thing painted over the same pixels is
-// copied instead of painted again. With kept pictures and without them every pixel is the same.
+// What painting made of a piece of the picture, cached by value: the same thing painted over the same pixels
+// is copied instead of painted again. With the cache and without it every pixel is the same.
 #pragma once
 
 #include "vela/render/pixels/bounded_cache.h"
@@ -24,13 +24,13 @@ Backdrop backdropOf(const PixelView& pixels) noexcept;
 
 // What: a value that says everything a picture depends on beside its backdrop.
 template <typename What>
-class KeptPictures {
+class PictureCache {
 public:
-    explicit KeptPictures(std::size_t mostPixels) : most_(mostPixels), pictures_(mostPixels) {}
+    explicit PictureCache(std::size_t mostPixels) : most_(mostPixels), pictures_(mostPixels) {}
 
     bool hasRoomFor(Size size) const noexcept { return !isEmpty(size) && areaOf(size) <= most_; }
 
-    // The picture, empty when it is not kept; valid until the next call. `what` is anything that compares
+    // The picture, empty when it is not cached; valid until the next call. `what` is anything that compares
     // with a What and converts to one.
     template <typename View>
     PixelView find(const View& what, const Backdrop& backdrop)
@@ -39,9 +39,10 @@ public:
         return picture ? picture->view() : PixelView{};
     }
 
-    // Most things are painted once in a place, as while a window is resized or a light moves: only where
-    // something is painted a second time, a copy is worth while. Notes that it was painted once more.
-    bool isWorthKeeping(const Backdrop& backdrop) noexcept
+    // Notes that something was painted there once more; true when it is not for the first time. Most things
+    // are painted once in a place, as while a window is resized or a light moves: only where something is
+    // painted a second time, a copy is worth while.
+    bool noteAndIsRepeated(const Backdrop& backdrop) noexcept
     {
         if (std::find(lately_.begin(), lately_.end(), backdrop.digest) != lately_.end())
             return true;
@@ -50,7 +51,7 @@ public:
     }
 
     template <typename View>
-    void keep(const View& what, const Backdrop& backdrop, const PixelView& pixels)
+    void store(const View& what, const Backdrop& backdrop, const PixelView& pixels)
     {
         if (pixels.pixels)
             pictures_.ensure(Request<View>{what, backdrop}, [&pixels] { return Picture(pixels); });

@@ -1,4 +1,5 @@
-// What the look of a painted surface depends on, beside the pixels beneath it: the key of its kept pictures.
+// What the look of a painted surface depends on, beside the pixels beneath it: the key of its cached
+// pictures.
 #pragma once
 
 #include "vela/render/bitmaps/surface_bitmaps.h"
@@ -8,7 +9,8 @@
 
 namespace vela {
 
-struct SurfaceView {
+// The same without copies, to look a picture up by.
+struct SurfaceKeyView {
     const SurfaceStyle& style;
     const LoadedBitmaps& bitmaps;
     Rect rect;
@@ -16,15 +18,15 @@ struct SurfaceView {
     std::uint8_t part; // tells apart what is painted of one surface
 };
 
-struct KeptSurface {
-    explicit KeptSurface(const SurfaceView& view)
+struct SurfaceKey {
+    explicit SurfaceKey(const SurfaceKeyView& view)
         : style(view.style), bitmaps(view.bitmaps), rect(view.rect), area(view.area), part(view.part)
     {
     }
-    friend bool operator==(const SurfaceView& view, const KeptSurface& kept)
+    friend bool operator==(const SurfaceKeyView& view, const SurfaceKey& key)
     {
-        return view.rect == kept.rect && view.area == kept.area && view.part == kept.part &&
-               view.bitmaps == kept.bitmaps && view.style == kept.style;
+        return view.rect == key.rect && view.area == key.area && view.part == key.part &&
+               view.bitmaps == key.bitmaps && view.style == key.style;
     }
 
     SurfaceStyle style;

@@ -1,4 +1,4 @@
-#include "vela/render/gdi/kept_pictures.h"
+#include "vela/render/gdi/picture_cache.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -18,7 +18,7 @@ struct Painted {
     std::vector<Pixel> pixels;
 };
 
-TEST(KeptPicturesTest, BackdropsAreToldApartByEveryColourAndTheSize)
+TEST(PictureCacheTest, BackdropsAreToldApartByEveryColourAndTheSize)
 {
     const Size size{13, 3}; // no multiple of what is read at once
     Painted ground(size);
@@ -40,33 +40,33 @@ TEST(KeptPicturesTest, BackdropsAreToldApartByEveryColourAndTheSize)
     EXPECT_FALSE(backdropOf(ground.view()) == backdropOf(Painted(size).view()));
 }
 
-TEST(KeptPicturesTest, APictureComesBackForTheSameThingOnTheSameBackdrop)
+TEST(PictureCacheTest, APictureComesBackForTheSameThingOnTheSameBackdrop)
 {
-    KeptPictures<int> pictures(1000);
+    PictureCache<int> pictures(1000);
     const Size size{10, 5};
     const Backdrop backdrop = backdropOf(Painted(size).view());
     EXPECT_FALSE(pictures.find(7, backdrop).pixels);
-    EXPECT_FALSE(pictures.isWorthKeeping(backdrop));
-    EXPECT_TRUE(pictures.isWorthKeeping(backdrop));
+    EXPECT_FALSE(pictures.noteAndIsRepeated(backdrop));
+    EXPECT_TRUE(pictures.noteAndIsRepeated(backdrop));
     Painted result(size, 0xABCDEF);
-    pictures.keep(7, backdrop, result.view());
-    const PixelView kept = pictures.find(7, backdrop);
-    ASSERT_TRUE(kept.pixels);
-    EXPECT_EQ(std::vector<Pixel>(kept.pixels, kept.pixels + 50), result.pixels);
+    pictures.store(7, backdrop, result.view());
+    const PixelView cached = pictures.find(7, backdrop);
+    ASSERT_TRUE(cached.pixels);
+    EXPECT_EQ(std::vector<Pixel>(cached.pixels, cached.pixels + 50), result.pixels);
     EXPECT_FALSE(pictures.find(8, backdrop).pixels);
     EXPECT_FALSE(pictures.find(7, backdropOf(Painted(size, 1).view())).pixels);
 }
 
-TEST(KeptPicturesTest, RoomIsBounded)
+TEST(PictureCacheTest, RoomIsBounded)
 {
-    KeptPictures<int> pictures(100);
+    PictureCache<int> pictures(100);
     EXPECT_TRUE(pictures.hasRoomFor({10, 10}));
     EXPECT_FALSE(pictures.hasRoomFor({101, 1}));
     EXPECT_FALSE(pictures.hasRoomFor({0, 5}));
     Painted result({5, 8});
     const Backdrop backdrop = backdropOf(result.view());
     for (int what = 0; what < 50; ++what) {
-        pictures.keep(what, backdrop, result.view());
+        pictures.store(what, backdrop, result.view());
         EXPECT_TRUE(pictures.find(0, backdrop).pixels) << "asked for all the time";
         EXPECT_LE(pictures.size(), 2u);
     }

@@ -1,0 +1,26 @@
+// Texts and icons, as the product paints them: what there is to be read or recognised. Apart from the rest,
+// so that a tool that looks at just these can take their place.
+#include "vela/render/paint/paint.h"
+#include "vela/render/surface/control_painter.h"
+#include "vela/render/text/text.h"
+
+namespace vela {
+
+void drawText(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font, std::int32_t dpi,
+              TextLook look)
+{
+    render::drawText(dc, rect, text, font, dpi, look);
+}
+
+void drawUnclippedLine(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font,
+                       std::int32_t dpi, Color color)
+{
+    render::drawUnclippedLine(dc, rect, text, font, dpi, color);
+}
+
+void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color)
+{
+    render::paintGlyph(dc, glyph, box, dpi, color);
+}
+
+} // namespace vela
