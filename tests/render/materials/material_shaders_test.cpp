@@ -1,5 +1,5 @@
 #include "tests/support/sha256.h"
-#include "vela/render/materials/shaders/material_shaders.h"
+#include "vela/render/materials/material_shaders.h"
 
 #include <gtest/gtest.h>
 

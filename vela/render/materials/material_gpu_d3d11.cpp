@@ -4,7 +4,7 @@
 #include "vela/library_win32.h"
 #include "vela/render/materials/material_overlay_gdi.h"
 #include "vela/render/materials/shader_compiler_d3d11.h"
-#include "vela/render/materials/shaders/material_shaders.h"
+#include "vela/render/materials/material_shaders.h"
 
 #include <cstring>
 #include <iterator>
