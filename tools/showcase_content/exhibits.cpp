@@ -29,16 +29,10 @@ public:
 
     bool isAlive() const override { return window_ && window_->isAlive(); }
     Rect clientRect() const override { return window_ ? window_->clientRect() : Rect{}; }
-    std::int32_t dpi() const override { return window_ ? window_->dpi() : 96; }
     void invalidateClient(const Rect& rect, vela::InvalidationReason reason) override
     {
         if (window_)
             window_->invalidateClient(rect, reason);
-    }
-    void minimumSizeChanged() override
-    {
-        if (window_)
-            window_->minimumSizeChanged();
     }
     void dispatchCommand(vela::CommandEvent&) override {} // nothing here is ever pressed
     void captureMouse(Control*) override {}

@@ -89,6 +89,19 @@ TEST(ControlTree, OnlyChangesThatShowRepaintAndOnlyTheVisiblePart)
     EXPECT_TRUE(window.invalidated.empty());
 }
 
+TEST(ControlTree, AMoveIsToldFromAChangeOfState)
+{
+    static_assert(static_cast<int>(InvalidationReason::State) == 8);
+    static_assert(static_cast<int>(InvalidationReason::Geometry) == 16);
+    FakeWindow window({100, 100});
+    Control* const child = window.root.add(control(L"c", {5, 5, 30, 10}));
+    window.reasons.clear();
+    child->setEnabled(false);
+    child->setBounds({6, 5, 30, 10});
+    EXPECT_EQ(window.reasons, (std::vector{InvalidationReason::State, InvalidationReason::Geometry,
+                                           InvalidationReason::Geometry}));
+}
+
 TEST(ControlTree, MinimumSizesCountWhatIsVisible)
 {
     FakeWindow window({400, 300});
@@ -106,6 +119,37 @@ TEST(ControlTree, MinimumSizesCountWhatIsVisible)
     wide->setVisible(false);
     EXPECT_EQ(panel.settledMinimumSize(), (Size{10, 10}));
     EXPECT_EQ(window.root.settledMinimumSize(), (Size{10, 10}));
+}
+
+TEST(ControlTree, AMinimumSizeReplacesTheDesignAndGrowsWithTheScale)
+{
+    Control alone(L"c", {0, 0, 80, 20});
+    EXPECT_EQ(alone.minimumSize(), (Size{80, 20}));
+    alone.setMinimumSize({30, 10});
+    EXPECT_EQ(alone.minimumSize(), (Size{30, 10}));
+    alone.rescale(192);
+    EXPECT_EQ(alone.minimumSize(), (Size{60, 20}));
+    alone.setMinimumSize({-5, 7});
+    EXPECT_EQ(alone.minimumSize(), (Size{0, 7}));
+}
+
+TEST(ControlTree, ConstraintsTakeThePlaceOfAnchors)
+{
+    FakeWindow window({400, 300});
+    Control* const child = window.root.add(control(L"c", {10, 12, 80, 20}));
+    Constraints constraints;
+    constraints.right = {1.0, -20, true};
+    constraints.width = {100, true};
+    child->setConstraints(constraints);
+    window.root.setBounds({0, 0, 500, 300});
+    EXPECT_EQ(child->bounds(),
+              (Rect{380, 12, 100, 20})); // nothing set from top to bottom: there anchors hold
+    child->setMinimumSize({150, 20});
+    window.root.setBounds({0, 0, 600, 300});
+    EXPECT_EQ(child->bounds(), (Rect{430, 12, 150, 20}));
+    window.root.rescale(192);
+    window.root.setBounds({0, 0, 1200, 600});
+    EXPECT_EQ(child->bounds(), (Rect{860, 24, 300, 40}));
 }
 
 TEST(ControlTree, AHiddenChildCatchesUpWhenItIsShown)

@@ -21,9 +21,11 @@ public:
 
     bool isAlive() const override { return alive; }
     Rect clientRect() const override { return root.localBounds(); }
-    std::int32_t dpi() const override { return 96; }
-    void invalidateClient(const Rect& rect, InvalidationReason) override { invalidated.push_back(rect); }
-    void minimumSizeChanged() override { ++minimumChanges; }
+    void invalidateClient(const Rect& rect, InvalidationReason reason) override
+    {
+        invalidated.push_back(rect);
+        reasons.push_back(reason);
+    }
     void dispatchCommand(CommandEvent& event) override
     {
         commands.push_back(event);
@@ -40,10 +42,10 @@ public:
     bool alive = true;
     bool diagnostics = false;
     bool handlesCommands = false;
-    int minimumChanges = 0;
     Control* captured = nullptr;
     Control* focused = nullptr;
     std::vector<Rect> invalidated;
+    std::vector<InvalidationReason> reasons;
     std::vector<CommandEvent> commands;
     std::vector<std::wstring> detached;
     std::vector<std::wstring> lines;

@@ -116,17 +116,13 @@ public:
     // The design is taken afresh from the current bounds.
     void setAnchors(Anchors anchors);
     void setConstraints(const Constraints& constraints);
-    void clearConstraints();
     void setMinimumSize(Size size);
-    void clearMinimumSize();
     void setStyleKey(std::wstring key) { styleKey_ = std::move(key); }
     void setTextStyle(const FontSpec& style) { textStyle_ = style; }
     void setHint(std::wstring hint) { hint_ = std::move(hint); }
     void setVisible(bool visible);
     void setEnabled(bool enabled) { setFlag(enabled_, enabled); }
     void setCollapsed(bool collapsed);
-    void addDamage(const Rect& rect) { damage_.push_back(rect); }
-    void clearDamage() { damage_.clear(); }
 
     // A plain sub-control, not owned; it must outlive this control or be removed before it goes.
     void addChild(Control& child);
@@ -188,6 +184,9 @@ private:
     std::vector<Control*> children_;
     mutable bool childOrderDirty_ = true;
     mutable std::vector<Control*> visibleChildren_;
+    // For controls that note what of them is to be repainted, and for controls that scroll. There are none of
+    // either yet: a panel without noted damage paints all of itself, and content begins where the control
+    // does.
     std::vector<Rect> damage_;
     std::int32_t viewportMode_ = 1;
     Rect viewportRect_;

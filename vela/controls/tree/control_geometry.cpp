@@ -89,23 +89,11 @@ void Control::setConstraints(const Constraints& constraints)
     rememberSource();
 }
 
-void Control::clearConstraints()
-{
-    request_.constraintsEnabled = false;
-    rememberSource();
-}
-
 void Control::setMinimumSize(Size size)
 {
     minimum_ = size;
     hasMinimum_ = true;
     rememberSource();
-    minimumSizeMayHaveChanged();
-}
-
-void Control::clearMinimumSize()
-{
-    hasMinimum_ = false;
     minimumSizeMayHaveChanged();
 }
 
@@ -131,13 +119,12 @@ Size Control::settledMinimumSize() const
 }
 
 // Whoever is unsettled has unsettled containers, or containers that do not count it: the walk can stop there.
+// The window needs no notice: it asks the root whenever Windows wants to know its least size.
 void Control::minimumSizeMayHaveChanged()
 {
     settledMinimum_.reset();
     for (Control* above = container_; above && above->settledMinimum_; above = above->container_)
         above->settledMinimum_.reset();
-    if (window_)
-        window_->minimumSizeChanged();
 }
 
 void Control::layoutInside(const Rect& content)
@@ -151,8 +138,6 @@ void Control::layoutInside(const Rect& content)
     invalidate(InvalidationReason::Geometry);
     bounds_ = rect;
     onBoundsChanged();
-    if (window_)
-        window_->minimumSizeChanged();
     invalidate(InvalidationReason::Geometry);
 }
 

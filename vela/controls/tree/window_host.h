@@ -12,6 +12,8 @@ class Control;
 class TextServices;
 struct CommandEvent;
 
+// What has changed: how something looks, or where it is. Both are painted alike; programs that read a window
+// out to its user will be told of each in its own way.
 enum class InvalidationReason : std::uint8_t { State = 8, Geometry = 16 };
 
 class WindowHost {
@@ -24,13 +26,9 @@ public:
     // False once the window is gone: then nothing is invalidated any more.
     virtual bool isAlive() const = 0;
     virtual Rect clientRect() const = 0;
-    virtual std::int32_t dpi() const = 0;
 
     // Client pixels, without erasing.
     virtual void invalidateClient(const Rect& rect, InvalidationReason reason) = 0;
-
-    // Some minimum size in the tree changed; the window settles its tracking size once, later.
-    virtual void minimumSizeChanged() = 0;
 
     // Offers the event to the handlers subscribed at the window.
     virtual void dispatchCommand(CommandEvent& event) = 0;

@@ -21,7 +21,7 @@ bool Label::applyStyle(const StyleSheet& styles)
 void Label::paint(HDC dc, Point origin)
 {
     const TextTone tone = isEnabled() ? TextTone::Enabled : TextTone::Disabled;
-    drawText(dc, movedBy(bounds(), origin), text_, textStyle(), dpi(), {tone, align_, wrap_});
+    drawText(dc, movedBy(bounds(), origin), text_, textStyle(), dpi(), {tone, align_});
 }
 
 bool Label::containsLocal(Point point) const { return !hint().empty() && Control::containsLocal(point); }
@@ -44,12 +44,6 @@ void Label::setText(std::wstring text)
 void Label::setAlign(TextAlign align)
 {
     if (std::exchange(align_, align) != align)
-        invalidate(InvalidationReason::State);
-}
-
-void Label::setWrap(TextWrap wrap)
-{
-    if (std::exchange(wrap_, wrap) != wrap)
         invalidate(InvalidationReason::State);
 }
 

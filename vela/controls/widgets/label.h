@@ -19,12 +19,10 @@ public:
 
     void setText(std::wstring text);
     void setAlign(TextAlign align);
-    void setWrap(TextWrap wrap);
 
 private:
     std::wstring text_;
     TextAlign align_ = TextAlign::Left;
-    TextWrap wrap_ = TextWrap::SingleLine;
 };
 
 } // namespace vela

@@ -54,6 +54,7 @@ public:
     void destroy();
 
     HWND handle() const noexcept { return handle_; }
+    std::int32_t dpi() const noexcept { return dpi_; } // the scale of all that is drawn
     Panel& root() noexcept { return root_; }
     const std::wstring& title() const noexcept { return title_; }
 
@@ -105,9 +106,7 @@ public:
 
     bool isAlive() const override;
     Rect clientRect() const override;
-    std::int32_t dpi() const override { return dpi_; }
     void invalidateClient(const Rect& rect, InvalidationReason reason) override;
-    void minimumSizeChanged() override {} // settled when Windows next asks
     void dispatchCommand(CommandEvent& event) override { commands_.dispatch(event); }
     void captureMouse(Control* control) override;
     const Control* focusedControl() const override;

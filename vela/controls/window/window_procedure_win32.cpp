@@ -115,6 +115,7 @@ LRESULT Window::Native::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_LBUTTONUP:
     case WM_MBUTTONDOWN:
     case WM_MBUTTONUP:
+    // The press only takes the tooltip away; what it asks for comes as WM_CONTEXTMENU.
     case WM_RBUTTONDOWN: return onMouseButton(message, lParam);
     case WM_MOUSEWHEEL: return onMouseWheel(wParam, lParam);
     case WM_CONTEXTMENU: return onContextMenu(wParam, lParam);
