@@ -1,4 +1,5 @@
 // Entry of TamberSetup.exe.
+#include "app/dialogs/toolkit_texts.h"
 #include "app/exit_code.h"
 #include "app/identity.h"
 #include "app/instance_guard_win32.h"
@@ -20,6 +21,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int)
 {
     using namespace setup;
     hardenProcess();
+    vela::setToolkitTexts(kToolkitTexts);
     const CommandLine commandLine = parseCommandLine(processArguments());
     const SetupInstanceGuard guard(kMutexName.data());
     WindowsEffects effects(instance);

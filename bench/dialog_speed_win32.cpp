@@ -5,6 +5,7 @@
 //
 // Usage: dialog_speed SKIN_FOLDER [SKIN...], without skins all of the folder's.
 #include "app/dialogs/choice_dialog.h"
+#include "app/dialogs/toolkit_texts.h"
 
 #include "vela/render/gdi/dib_gdi.h"
 #include "vela/render/gdi/paint_context.h"
@@ -131,6 +132,7 @@ int wmain(int count, wchar_t** arguments)
 {
     if (count < 2)
         return 2;
+    vela::setToolkitTexts(setup::kToolkitTexts);
     vela::setSkinFolders({arguments[1]});
     const vela::SkinCatalog& catalog = vela::skinCatalog();
     std::printf("goals: a dialog of 690 x 420 within %.1f ms, a button within %.1f ms\n", kDialogGoal,

@@ -2,6 +2,7 @@
 // and with its lights at rest. Under Wine that is Wine's GDI as much as this program's own work.
 // Usage: moving_light SKIN_FOLDER SKIN [SECONDS]
 #include "app/dialogs/choice_dialog.h"
+#include "app/dialogs/toolkit_texts.h"
 
 #include "vela/render/materials/material_overlay_gdi.h"
 #include "vela/theme/skins/skin_host_win32.h"
@@ -66,6 +67,7 @@ int wmain(int count, wchar_t** arguments)
 {
     if (count < 3)
         return 2;
+    vela::setToolkitTexts(setup::kToolkitTexts);
     vela::setSkinFolders({arguments[1]});
     const DWORD seconds = count > 3 ? static_cast<DWORD>(std::wcstoul(arguments[3], nullptr, 10)) : 10;
     const auto styles =

@@ -1,5 +1,6 @@
 // What whole surfaces and texts cost on a device context: one line for each, in microseconds a paint. Run it
 // under Wine with scripts/wine; there a paint is Wine's GDI as much as this program's own work.
+#include "app/dialogs/toolkit_texts.h"
 #include "vela/render/gdi/dib_gdi.h"
 #include "vela/render/paint/paint.h"
 #include "vela/render/text/text.h"
@@ -83,6 +84,7 @@ void measureText(const vela::DibSurface& target)
 
 int main()
 {
+    vela::setToolkitTexts(setup::kToolkitTexts);
     const vela::DibSurface target({1960, 1120});
     for (const auto& [name, mode] :
          {std::pair{"flat", vela::SurfaceMode::Flat2d}, {"sculpted", vela::SurfaceMode::Sculpted3d}}) {

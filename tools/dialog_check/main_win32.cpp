@@ -5,6 +5,8 @@
 #include "tools/dialog_check/paint_witness_gdi.h"
 #include "tools/dialog_stage/dialog_stage_win32.h"
 
+#include "app/dialogs/toolkit_texts.h"
+
 #include "vela/mul_div.h"
 #include "vela/render/surface/focus_ring.h"
 #include "vela/theme/document/json.h"
@@ -188,6 +190,7 @@ std::vector<vela::SkinDefinition> readSkins(const wchar_t* path)
 
 int wmain(int count, wchar_t** arguments)
 {
+    vela::setToolkitTexts(setup::kToolkitTexts);
     if (count != 2) {
         std::fputs("dialog_check SKINS-DOCUMENT\n", stderr);
         return 2;

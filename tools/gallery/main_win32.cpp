@@ -1,5 +1,6 @@
 // Draws the gallery: every sheet of it, or those whose names contain a given word.
 //   gallery OUTPUT-FOLDER SKINS-DOCUMENT [WORD]
+#include "app/dialogs/toolkit_texts.h"
 #include "tools/gallery/gallery_gdi.h"
 #include "tools/gallery/showcase_camera_gdi.h"
 #include "tools/showcase_content/contrast_themes.h"
@@ -85,6 +86,7 @@ void drawShowcase(const std::vector<vela::SkinDefinition>& skins, const Draw& dr
 
 int wmain(int count, wchar_t** arguments)
 {
+    vela::setToolkitTexts(setup::kToolkitTexts);
     if (count < 3 || FAILED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {
         std::fputs("gallery OUTPUT-FOLDER SKINS-DOCUMENT [WORD]\n", stderr);
         return 2;

@@ -2,6 +2,8 @@
 //   showcase [SKIN-ID] [SKIN-FILE.json] [DPI]
 #include "tools/showcase/live_showcase_win32.h"
 
+#include "app/dialogs/toolkit_texts.h"
+
 #include "vela/render/text/fonts.h"
 #include "vela/theme/skins/skin_host_win32.h"
 
@@ -32,6 +34,7 @@ int runMessages()
 
 int wmain(int count, wchar_t** words)
 {
+    vela::setToolkitTexts(setup::kToolkitTexts);
     const std::vector<std::wstring_view> given(words + 1, words + count);
     const std::optional<showcase::Arguments> arguments = showcase::parseArguments(given);
     if (!arguments) {

@@ -4,6 +4,7 @@
 #include "vela/text.h"
 #include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
+#include "vela/toolkit_texts.h"
 
 #include <algorithm>
 #include <utility>
@@ -19,20 +20,21 @@ public:
     bool acceptsFocus() const override { return false; }
 };
 
-constexpr struct {
+struct Caption {
     const wchar_t* id;
     const wchar_t* action;
-    const wchar_t* name;
+    const wchar_t* ToolkitTexts::*hint;
     Glyph glyph;
-} kCaptions[kCaptionButtonCount] = {
-    {L"chrome-reset-size", L"reset-size", L"Puvodni velikost", Glyph::ResetSize},
-    {L"chrome-minimize", L"minimize", L"Minimalizovat", Glyph::Minimize},
-    {L"chrome-maximize", L"maximize", L"Maximalizovat", Glyph::Maximize},
-    {L"chrome-close", L"close", L"Zavrit", Glyph::Close},
+};
+constexpr Caption kCaptions[kCaptionButtonCount] = {
+    {L"chrome-reset-size", L"reset-size", &ToolkitTexts::resetSize, Glyph::ResetSize},
+    {L"chrome-minimize", L"minimize", &ToolkitTexts::minimize, Glyph::Minimize},
+    {L"chrome-maximize", L"maximize", &ToolkitTexts::maximize, Glyph::Maximize},
+    {L"chrome-close", L"close", &ToolkitTexts::close, Glyph::Close},
 };
 
-constexpr const wchar_t* kRestoreAction = L"restore";
-constexpr const wchar_t* kRestoreName = L"Obnovit";
+// What the button to maximise is while the window is maximised.
+constexpr Caption kRestore{L"chrome-maximize", L"restore", &ToolkitTexts::restore, Glyph::Restore};
 
 // The close button is one of the others until the pointer comes.
 ButtonStyle closeButtonStyle(const ChromeTitleBarStyle& style)
@@ -67,7 +69,7 @@ ChromeTitleBar::ChromeTitleBar(std::wstring id, Rect bounds, std::wstring title,
         made = std::make_unique<UnfocusedButton>(kCaptions[i].id, Rect{}, L"");
         made->setAction(kCaptions[i].action);
         made->setGlyph(kCaptions[i].glyph);
-        made->setHint(kCaptions[i].name);
+        made->setHint(toolkitTexts().*kCaptions[i].hint);
         made->setVisible(i == static_cast<int>(CaptionButton::Close));
         addChild(*made);
     }
@@ -155,12 +157,11 @@ void ChromeTitleBar::showMaximisedState()
 {
     ThemedButton& maximise = button(CaptionButton::Maximize);
     const bool restores = window() && window()->isMaximised();
-    const auto& caption = kCaptions[static_cast<int>(CaptionButton::Maximize)];
-    const std::wstring action = restores ? kRestoreAction : caption.action;
-    maximise.setAction(action);
-    maximise.setGlyph(restores ? Glyph::Restore : caption.glyph);
-    maximise.setHint(restores ? kRestoreName : caption.name);
-    dragArea_.setDoubleClickAction(maximise.isVisible() ? action : std::wstring());
+    const Caption& caption = restores ? kRestore : kCaptions[static_cast<int>(CaptionButton::Maximize)];
+    maximise.setAction(caption.action);
+    maximise.setGlyph(caption.glyph);
+    maximise.setHint(toolkitTexts().*caption.hint);
+    dragArea_.setDoubleClickAction(maximise.isVisible() ? caption.action : L"");
 }
 
 Rect ChromeTitleBar::titleRect() const noexcept

@@ -6,6 +6,7 @@
 #include "vela/text.h"
 #include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
+#include "vela/toolkit_texts.h"
 
 #include <algorithm>
 #include <utility>
@@ -33,7 +34,7 @@ public:
     {
         setAction(L"close");
         setGlyph(Glyph::Close);
-        setHint(L"Zavrit");
+        setHint(toolkitTexts().close);
     }
     void activate() override
     {

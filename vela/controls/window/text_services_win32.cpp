@@ -1,6 +1,7 @@
 #include "vela/controls/window/text_services_win32.h"
 
 #include "vela/owned_win32.h"
+#include "vela/toolkit_texts.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -52,12 +53,12 @@ private:
 // In the menu's order; a row without a text is a separator.
 constexpr struct {
     TextCommand command;
-    const wchar_t* text;
+    const wchar_t* ToolkitTexts::*text;
 } kMenuRows[] = {
-    {TextCommand::Undo, L"Zpet"},      {TextCommand::Undo, nullptr},
-    {TextCommand::Cut, L"Vyjmout"},    {TextCommand::Copy, L"Kopirovat"},
-    {TextCommand::Paste, L"Vlozit"},   {TextCommand::Erase, L"Odstranit"},
-    {TextCommand::SelectAll, nullptr}, {TextCommand::SelectAll, L"Vybrat vse"},
+    {TextCommand::Undo, &ToolkitTexts::undo},   {TextCommand::Undo, nullptr},
+    {TextCommand::Cut, &ToolkitTexts::cut},     {TextCommand::Copy, &ToolkitTexts::copy},
+    {TextCommand::Paste, &ToolkitTexts::paste}, {TextCommand::Erase, &ToolkitTexts::erase},
+    {TextCommand::SelectAll, nullptr},          {TextCommand::SelectAll, &ToolkitTexts::selectAll},
 };
 
 // 0 is what a menu answers when nothing was chosen.
@@ -111,7 +112,8 @@ std::optional<TextCommand> WindowsTextServices::chooseCommand(Point client, cons
     for (const auto& row : kMenuRows) {
         const bool on = enabled[static_cast<std::size_t>(row.command)];
         if (row.text)
-            ::AppendMenuW(menu.get(), on ? MF_STRING : MF_STRING | MF_GRAYED, menuId(row.command), row.text);
+            ::AppendMenuW(menu.get(), on ? MF_STRING : MF_STRING | MF_GRAYED, menuId(row.command),
+                          toolkitTexts().*row.text);
         else
             ::AppendMenuW(menu.get(), MF_SEPARATOR, 0, nullptr);
     }

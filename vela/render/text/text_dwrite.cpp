@@ -4,6 +4,7 @@
 #include "vela/owned_win32.h"
 #include "vela/render/text/glyph_store_dwrite.h"
 #include "vela/text_clusters.h"
+#include "vela/toolkit_texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,9 +16,6 @@
 
 namespace vela {
 namespace {
-
-// Measured with this locale, drawn with it: it decides nothing but the shapes of a few letters.
-constexpr wchar_t kLocale[] = L"cs-cz";
 
 // What DirectWrite has for a font of ours.
 struct Typeface {
@@ -187,7 +185,7 @@ ComPointer<IDWriteTextFormat> Engine::makeFormat(const Typeface& typeface)
                                         : face->GetStyle();
     if (!fonts ||
         FAILED(factory_->CreateTextFormat(family.c_str(), fonts, face->GetWeight(), style, face->GetStretch(),
-                                          typeface.face->em, kLocale, format.put())) ||
+                                          typeface.face->em, toolkitTexts().locale, format.put())) ||
         !setLines(*format.get(), *typeface.font))
         format.reset();
     return format;
