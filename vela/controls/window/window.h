@@ -4,21 +4,14 @@
 #pragma once
 
 #include "vela/controls/tree/command_handlers.h"
-#include "vela/controls/tree/debug_overlay.h"
-#include "vela/controls/tree/input_router.h"
-#include "vela/controls/tree/panel.h"
-#include "vela/controls/tree/pointer_clock.h"
 #include "vela/controls/tree/window_host.h"
-#include "vela/controls/window/taskbar_progress.h"
+#include "vela/controls/window/window_state.h"
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 
 namespace vela {
-
-class StyleSheet;
 
 // What `create` takes from Windows' own vocabulary.
 struct WindowStyle {
@@ -26,22 +19,13 @@ struct WindowStyle {
     std::uint32_t extended = 0; // WS_EX_
 };
 
-#ifdef NDEBUG
-inline constexpr bool kDiagnosticsByDefault = false;
-#else
-inline constexpr bool kDiagnosticsByDefault = true;
-#endif
-
 // The panel that a window's ground is, for skins whose panels have a shape that no window could have.
 inline constexpr std::wstring_view kWindowVariant = L"window";
 
 class Window : public WindowHost {
 public:
-    // Sees every message first; true when it handled the message, with the answer in the last argument.
-    using MessageHook =
-        std::function<bool(HWND, unsigned message, std::uintptr_t, std::intptr_t, std::intptr_t& result)>;
-    // Gives the styles for the system's present light or dark and high-contrast mode.
-    using StyleSource = std::function<std::shared_ptr<const StyleSheet>()>;
+    using MessageHook = WindowState::MessageHook;
+    using StyleSource = WindowState::StyleSource;
 
     Window();
     Window(const Window&) = delete;
@@ -53,27 +37,27 @@ public:
     bool create(HINSTANCE instance, std::wstring title, Size client, WindowStyle style, HWND owner = nullptr);
     void destroy();
 
-    HWND handle() const noexcept { return handle_; }
-    std::int32_t dpi() const noexcept { return dpi_; } // the scale of all that is drawn
-    Panel& root() noexcept { return root_; }
-    const std::wstring& title() const noexcept { return title_; }
+    HWND handle() const noexcept { return state_.handle; }
+    std::int32_t dpi() const noexcept { return state_.dpi; }
+    Panel& root() noexcept { return state_.root; }
+    const std::wstring& title() const noexcept { return state_.title; }
 
     // Before `create`. A custom frame has no standard non-client area; its resize band lies inside the client
     // edge, in 96-DPI pixels, and 0 means that the frame cannot be dragged.
-    void setCustomFrame(bool custom) noexcept { customFrame_ = custom; }
-    void setResizeBorder(std::int32_t pixels) noexcept { resizeBorder_ = pixels; }
+    void setCustomFrame(bool custom) noexcept { state_.customFrame = custom; }
+    void setResizeBorder(std::int32_t pixels) noexcept { state_.resizeBorder = pixels; }
     // Before `create`. Where the client area does not fit the work area at the monitor's DPI, everything is
     // drawn at a smaller scale until it does; `dpi` is that scale.
-    void setShrinkToFit(bool shrinks) noexcept { shrinkToFit_ = shrinks; }
+    void setShrinkToFit(bool shrinks) noexcept { state_.shrinkToFit = shrinks; }
     // Before `create`. Everything is drawn at this DPI, whatever the monitor's is.
-    void setFixedScale(std::int32_t dpi) noexcept { fixedScale_ = dpi; }
-    void setQuitOnDestroy(bool quits) noexcept { quitOnDestroy_ = quits; }
-    void setCloseOnDeactivate(bool closes) noexcept { closeOnDeactivate_ = closes; }
-    void setTooltipDelay(std::uint32_t milliseconds) noexcept { tooltipDelay_ = milliseconds; }
-    void setDiagnostics(bool on) noexcept { diagnostics_ = on; }
-    void setMessageHook(MessageHook hook) { messageHook_ = std::move(hook); }
-    bool isInSizeMove() const noexcept { return inSizeMove_; }
-    const DebugOverlay& debugOverlay() const noexcept { return debugOverlay_; }
+    void setFixedScale(std::int32_t dpi) noexcept { state_.fixedScale = dpi; }
+    void setQuitOnDestroy(bool quits) noexcept { state_.quitOnDestroy = quits; }
+    void setCloseOnDeactivate(bool closes) noexcept { state_.closeOnDeactivate = closes; }
+    void setTooltipDelay(std::uint32_t milliseconds) noexcept { state_.tooltipDelay = milliseconds; }
+    void setDiagnostics(bool on) noexcept { state_.diagnostics = on; }
+    void setMessageHook(MessageHook hook) { state_.messageHook = std::move(hook); }
+    bool isInSizeMove() const noexcept { return state_.inSizeMove; }
+    const DebugOverlay& debugOverlay() const noexcept { return state_.debugOverlay; }
 
     // Gives every control of the tree its record at the window's DPI, and the root the panel surface; kept
     // for a later change of DPI. Controls added afterwards need another call.
@@ -110,12 +94,12 @@ public:
     void dispatchCommand(CommandEvent& event) override { commands_.dispatch(event); }
     void captureMouse(Control* control) override;
     const Control* focusedControl() const override;
-    void focusControl(Control* control) override { input_.focus(control); }
-    bool showsFocus() const override { return input_.showsFocus(); }
+    void focusControl(Control* control) override { state_.input.focus(control); }
+    bool showsFocus() const override { return state_.input.showsFocus(); }
     void controlDetached(Control& control) override;
     TextServices* textServices() override;
-    bool isMaximised() const override { return maximised_; }
-    bool diagnosticsEnabled() const override { return diagnostics_; }
+    bool isMaximised() const override { return state_.maximised; }
+    bool diagnosticsEnabled() const override { return state_.diagnostics; }
     void writeDiagnostic(std::wstring_view line) override;
 
 protected:
@@ -128,37 +112,9 @@ protected:
 
 private:
     class Native; // the side that talks to Windows
-    friend class Native;
 
-    void invalidateAll();
-
-    HWND handle_ = nullptr;
-    std::wstring title_;
-    Panel root_;
-    bool customFrame_ = false;
-    std::int32_t resizeBorder_ = 0;
-    bool quitOnDestroy_ = true;
-    MessageHook messageHook_;
-    bool maximised_ = false;
-    bool inSizeMove_ = false;
-    bool diagnostics_ = kDiagnosticsByDefault;
-    bool closeOnDeactivate_ = false;
-    std::uint32_t tooltipDelay_ = 650;
-    Size lastClientSize_;
-    bool allDamaged_ = true; // until the next paint: nothing more can be damaged
-    Size designClient_;      // 96-DPI pixels, as given to `create`
-    bool shrinkToFit_ = false;
-    std::int32_t fixedScale_ = 0;  // 0 for none
-    std::int32_t dpi_ = 96;        // the scale of all that is drawn
-    std::int32_t monitorDpi_ = 96; // the system's; of the standard frame and the icons
-    std::wstring shutdownBlockReason_;
-    TaskbarStatus taskbarStatus_;
-    InputRouter input_;
+    WindowState state_;
     CommandHandlers commands_;
-    TooltipClock tooltipClock_;
-    DebugOverlay debugOverlay_;
-    std::shared_ptr<const StyleSheet> styles_;
-    StyleSource styleSource_;
     std::unique_ptr<Native> native_;
 };
 

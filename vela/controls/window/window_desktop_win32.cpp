@@ -22,20 +22,20 @@ UINT taskbarButtonCreated() noexcept
 
 void Window::setShutdownBlockReason(std::wstring reason)
 {
-    shutdownBlockReason_ = std::move(reason);
+    state_.shutdownBlockReason = std::move(reason);
     native_->blockShutdown();
 }
 
 void Window::setTaskbarProgress(TaskbarProgress state, std::int32_t percent)
 {
     const TaskbarStatus status{state, std::clamp(percent, 0, 100)};
-    if (std::exchange(taskbarStatus_, status) != status)
+    if (std::exchange(state_.taskbarStatus, status) != status)
         native_->refreshTaskbar();
 }
 
 void Window::requestAttention()
 {
-    if (isAlive() && ::GetForegroundWindow() != handle_)
+    if (isAlive() && ::GetForegroundWindow() != state_.handle)
         flashTaskbarButton();
 }
 
@@ -43,7 +43,7 @@ void Window::showTaskbarStatus(const TaskbarStatus& status) { native_->showTaskb
 
 void Window::flashTaskbarButton()
 {
-    FLASHWINFO flash{sizeof flash, handle_, FLASHW_TRAY | FLASHW_TIMERNOFG, 0, 0};
+    FLASHWINFO flash{sizeof flash, state_.handle, FLASHW_TRAY | FLASHW_TIMERNOFG, 0, 0};
     ::FlashWindowEx(&flash);
 }
 
@@ -51,21 +51,21 @@ void Window::Native::blockShutdown() const noexcept
 {
     if (!window_.isAlive())
         return;
-    if (window_.shutdownBlockReason_.empty())
-        ::ShutdownBlockReasonDestroy(window_.handle_);
+    if (state_.shutdownBlockReason.empty())
+        ::ShutdownBlockReasonDestroy(state_.handle);
     else
-        ::ShutdownBlockReasonCreate(window_.handle_, window_.shutdownBlockReason_.c_str());
+        ::ShutdownBlockReasonCreate(state_.handle, state_.shutdownBlockReason.c_str());
 }
 
 LRESULT Window::Native::onQueryEndSession(WPARAM wParam, LPARAM lParam) const
 {
-    return window_.shutdownBlockReason_.empty() ? passOn(WM_QUERYENDSESSION, wParam, lParam) : FALSE;
+    return state_.shutdownBlockReason.empty() ? passOn(WM_QUERYENDSESSION, wParam, lParam) : FALSE;
 }
 
 // An elevated program hears nothing from the taskbar, which is not, unless it asks to.
 void Window::Native::admitTaskbar() const noexcept
 {
-    ::ChangeWindowMessageFilterEx(window_.handle_, taskbarButtonCreated(), MSGFLT_ALLOW, nullptr);
+    ::ChangeWindowMessageFilterEx(state_.handle, taskbarButtonCreated(), MSGFLT_ALLOW, nullptr);
 }
 
 LRESULT Window::Native::onRegisteredMessage(UINT message, WPARAM wParam, LPARAM lParam)
@@ -73,7 +73,7 @@ LRESULT Window::Native::onRegisteredMessage(UINT message, WPARAM wParam, LPARAM 
     if (message != taskbarButtonCreated())
         return passOn(message, wParam, lParam);
     hasTaskbarButton_ = true;
-    if (window_.taskbarStatus_.state != TaskbarProgress::None)
+    if (state_.taskbarStatus.state != TaskbarProgress::None)
         refreshTaskbar();
     return 0;
 }
@@ -81,14 +81,14 @@ LRESULT Window::Native::onRegisteredMessage(UINT message, WPARAM wParam, LPARAM 
 void Window::Native::refreshTaskbar()
 {
     if (hasTaskbarButton_ && window_.isAlive())
-        window_.showTaskbarStatus(window_.taskbarStatus_);
+        window_.showTaskbarStatus(state_.taskbarStatus);
 }
 
 void Window::Native::showTaskbarStatus(const TaskbarStatus& status)
 {
     if (!taskbar_)
         taskbar_ = std::make_unique<TaskbarList>();
-    taskbar_->show(window_.handle_, status);
+    taskbar_->show(state_.handle, status);
 }
 
 } // namespace vela

@@ -120,20 +120,19 @@ bool Window::Native::create(HINSTANCE instance, Size client, WindowStyle style, 
     if (!registerClass(instance))
         return false;
     const MonitorAreas areas = monitorAreas(monitorForNewWindow(owner));
-    const Size frame = window_.customFrame_ ? Size{} : standardFrame(style, areas.dpi);
-    window_.designClient_ = client;
+    const Size frame = state_.customFrame ? Size{} : standardFrame(style, areas.dpi);
+    designClient_ = client;
     const std::int32_t scale = scaleFor(areas.work, areas.dpi, frame);
     const Size outer{scaledLength(client.width, scale) + frame.width,
                      scaledLength(client.height, scale) + frame.height};
     const Rect place = initialPlacement(outer, areas.work);
-    return ::CreateWindowExW(style.extended, kWindowClass, window_.title_.c_str(), style.style, place.x,
+    return ::CreateWindowExW(style.extended, kWindowClass, state_.title.c_str(), style.style, place.x,
                              place.y, place.width, place.height, owner, nullptr, instance, this) != nullptr;
 }
 
 void Window::Native::dressFrame()
 {
-    setCompositorAttribute(window_.handle_, kBorderColor,
-                           window_.customFrame_ ? kBorderNone : kBorderDefault);
+    setCompositorAttribute(state_.handle, kBorderColor, state_.customFrame ? kBorderNone : kBorderDefault);
     applyShape();
 }
 
@@ -141,17 +140,17 @@ void Window::Native::dressFrame()
 // a region, and a window with a region has neither.
 void Window::Native::applyShape()
 {
-    if (!window_.isAlive() || !window_.customFrame_)
+    if (!window_.isAlive() || !state_.customFrame)
         return;
     HRGN region = nullptr;
-    if (window_.styles_ && !window_.maximised_) {
-        const auto& ground = window_.styles_->find<PanelStyle>(window_.root_.styleKey());
-        region = createShapeRegion(scaledToDpi(ground.surface, window_.dpi_), window_.lastClientSize_);
+    if (state_.styles && !state_.maximised) {
+        const auto& ground = state_.styles->find<PanelStyle>(state_.root.styleKey());
+        region = createShapeRegion(scaledToDpi(ground.surface, state_.dpi), state_.lastClientSize);
     }
-    const DWORD corners = region ? kCornersSquare : window_.customFrame_ ? kCornersRound : kCornersAsUsual;
-    setCompositorAttribute(window_.handle_, kCornerPreference, corners);
+    const DWORD corners = region ? kCornersSquare : state_.customFrame ? kCornersRound : kCornersAsUsual;
+    setCompositorAttribute(state_.handle, kCornerPreference, corners);
     if (region || shaped_)
-        ::SetWindowRgn(window_.handle_, region, TRUE); // which takes the region over
+        ::SetWindowRgn(state_.handle, region, TRUE); // which takes the region over
     shaped_ = region != nullptr;
 }
 
@@ -164,7 +163,7 @@ void Window::Native::loadIcons(HINSTANCE instance)
         int height;
     } kIcons[] = {{&Native::smallIcon_, ICON_SMALL, SM_CXSMICON, SM_CYSMICON},
                   {&Native::largeIcon_, ICON_BIG, SM_CXICON, SM_CYICON}};
-    const auto dpi = static_cast<UINT>(window_.monitorDpi_);
+    const auto dpi = static_cast<UINT>(monitorDpi_);
     for (const auto& row : kIcons) {
         // The program's first icon, at this monitor's size; without one the class's stays.
         OwnedIcon icon(static_cast<HICON>(
@@ -172,7 +171,7 @@ void Window::Native::loadIcons(HINSTANCE instance)
                          ::GetSystemMetricsForDpi(row.height, dpi), LR_DEFAULTCOLOR)));
         if (!icon)
             continue;
-        ::SendMessageW(window_.handle_, WM_SETICON, row.kind, reinterpret_cast<LPARAM>(icon.get()));
+        ::SendMessageW(state_.handle, WM_SETICON, row.kind, reinterpret_cast<LPARAM>(icon.get()));
         this->*row.icon = std::move(icon);
     }
 }
@@ -180,22 +179,22 @@ void Window::Native::loadIcons(HINSTANCE instance)
 void Window::Native::readClientSize()
 {
     RECT client{};
-    if (window_.isAlive() && ::GetClientRect(window_.handle_, &client))
-        window_.lastClientSize_ = sizeOf(toRect(client));
+    if (window_.isAlive() && ::GetClientRect(state_.handle, &client))
+        state_.lastClientSize = sizeOf(toRect(client));
 }
 
 Size Window::Native::frameExtra() const noexcept
 {
-    if (window_.customFrame_ || !window_.handle_)
+    if (state_.customFrame || !state_.handle)
         return {};
-    return standardFrame({static_cast<std::uint32_t>(::GetWindowLongPtrW(window_.handle_, GWL_STYLE)),
-                          static_cast<std::uint32_t>(::GetWindowLongPtrW(window_.handle_, GWL_EXSTYLE))},
-                         window_.monitorDpi_);
+    return standardFrame({static_cast<std::uint32_t>(::GetWindowLongPtrW(state_.handle, GWL_STYLE)),
+                          static_cast<std::uint32_t>(::GetWindowLongPtrW(state_.handle, GWL_EXSTYLE))},
+                         monitorDpi_);
 }
 
 LRESULT Window::Native::onMove()
 {
-    window_.root_.afterAttach();
+    state_.root.afterAttach();
     return 0;
 }
 
@@ -206,26 +205,26 @@ LRESULT Window::Native::onSize(WPARAM wParam)
         return 0;
     if (wasMinimised)
         refreshMetrics();
-    const Size before = window_.lastClientSize_;
-    window_.maximised_ = wParam == SIZE_MAXIMIZED;
+    const Size before = state_.lastClientSize;
+    state_.maximised = wParam == SIZE_MAXIMIZED;
     window_.layoutTree();
-    if (before == window_.lastClientSize_)
+    if (before == state_.lastClientSize)
         return 0;
-    window_.invalidateAll();
+    invalidateAll();
     applyShape();
     return 0;
 }
 
 LRESULT Window::Native::onSizeMove(bool inside) noexcept
 {
-    window_.inSizeMove_ = inside;
+    state_.inSizeMove = inside;
     return 0;
 }
 
 FrameFacts Window::Native::frameFacts(Point cursorScreen) const
 {
     POINT cursor{cursorScreen.x, cursorScreen.y};
-    ::ScreenToClient(window_.handle_, &cursor);
+    ::ScreenToClient(state_.handle, &cursor);
     return {cursorScreen,
             {cursor.x, cursor.y},
             window_.clientRect(),
@@ -235,7 +234,7 @@ FrameFacts Window::Native::frameFacts(Point cursorScreen) const
 
 LRESULT Window::Native::onMinMaxInfo(MINMAXINFO& info) const
 {
-    const MonitorAreas areas = monitorAreas(::MonitorFromWindow(window_.handle_, MONITOR_DEFAULTTONEAREST));
+    const MonitorAreas areas = monitorAreas(::MonitorFromWindow(state_.handle, MONITOR_DEFAULTTONEAREST));
     const TrackingSizes sizes =
         trackingSizes(areas.monitor, areas.work, {info.ptMaxTrackSize.x, info.ptMaxTrackSize.y},
                       window_.minimumTrackSize());
@@ -243,7 +242,7 @@ LRESULT Window::Native::onMinMaxInfo(MINMAXINFO& info) const
     info.ptMaxPosition = {sizes.maximisedAt.x, sizes.maximisedAt.y};
     info.ptMaxTrackSize = {sizes.largest.width, sizes.largest.height};
     info.ptMinTrackSize = {sizes.smallest.width, sizes.smallest.height};
-    if (window_.diagnostics_) {
+    if (state_.diagnostics) {
         POINT cursor{};
         ::GetCursorPos(&cursor);
         window_.writeDiagnostic(trackingDiagnostic(sizes, frameFacts({cursor.x, cursor.y})));
@@ -254,18 +253,18 @@ LRESULT Window::Native::onMinMaxInfo(MINMAXINFO& info) const
 LRESULT Window::Native::onNcHitTest(LPARAM lParam) const
 {
     const Point cursor = pointFrom(lParam);
-    const bool resizes = window_.customFrame_ && window_.resizeBorder_ > 0 && !::IsZoomed(window_.handle_) &&
-                         !isEmpty(window_.lastClientSize_);
+    const bool resizes = state_.customFrame && state_.resizeBorder > 0 && !::IsZoomed(state_.handle) &&
+                         !isEmpty(state_.lastClientSize);
     LRESULT hit = 0;
     if (resizes) {
         POINT inside{cursor.x, cursor.y};
-        ::ScreenToClient(window_.handle_, &inside);
-        hit = hitCodeOf(frameZoneAt(window_.lastClientSize_, {inside.x, inside.y},
-                                    scaledLength(window_.resizeBorder_, window_.dpi_)));
+        ::ScreenToClient(state_.handle, &inside);
+        hit = hitCodeOf(frameZoneAt(state_.lastClientSize, {inside.x, inside.y},
+                                    scaledLength(state_.resizeBorder, state_.dpi)));
     } else {
         hit = passOn(WM_NCHITTEST, 0, lParam);
     }
-    if (window_.diagnostics_)
+    if (state_.diagnostics)
         window_.writeDiagnostic(hitTestDiagnostic(hit, frameFacts(cursor)));
     return hit;
 }
@@ -274,15 +273,15 @@ LRESULT Window::Native::onNcHitTest(LPARAM lParam) const
 // for its caption.
 LRESULT Window::Native::onNcDoubleClick(WPARAM wParam, LPARAM lParam) const
 {
-    const LONG_PTR style = ::GetWindowLongPtrW(window_.handle_, GWL_STYLE);
-    if (window_.customFrame_ && wParam == HTCAPTION && !(style & WS_MAXIMIZEBOX))
+    const LONG_PTR style = ::GetWindowLongPtrW(state_.handle, GWL_STYLE);
+    if (state_.customFrame && wParam == HTCAPTION && !(style & WS_MAXIMIZEBOX))
         return 0;
     return passOn(WM_NCLBUTTONDBLCLK, wParam, lParam);
 }
 
 LRESULT Window::Native::onFrameMessage(UINT message, WPARAM wParam, LPARAM lParam) const noexcept
 {
-    if (!window_.customFrame_)
+    if (!state_.customFrame)
         return passOn(message, wParam, lParam);
     return message == WM_NCACTIVATE ? 1 : 0;
 }
@@ -292,7 +291,7 @@ LRESULT Window::Native::onSizing(WPARAM edge, RECT& proposed) const
     const Edges before{proposed.left, proposed.top, proposed.right, proposed.bottom};
     const Edges after = keptAboveMinimum(before, draggedZone(edge), window_.minimumTrackSize());
     proposed = {after.left, after.top, after.right, after.bottom};
-    if (window_.diagnostics_) {
+    if (state_.diagnostics) {
         POINT cursor{};
         ::GetCursorPos(&cursor);
         window_.writeDiagnostic(sizingDiagnostic(edge, before, after, frameFacts({cursor.x, cursor.y})));
@@ -306,7 +305,7 @@ void Window::Native::beginMove()
     ::ReleaseCapture();
     POINT cursor{};
     ::GetCursorPos(&cursor);
-    ::PostMessageW(window_.handle_, WM_NCLBUTTONDOWN, HTCAPTION,
+    ::PostMessageW(state_.handle, WM_NCLBUTTONDOWN, HTCAPTION,
                    MAKELPARAM(static_cast<WORD>(cursor.x), static_cast<WORD>(cursor.y)));
 }
 

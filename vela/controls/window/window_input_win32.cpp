@@ -72,15 +72,15 @@ std::optional<Rect> caretOf(const Control* control)
 
 TextServices& Window::Native::textServices() noexcept
 {
-    textServices_.setOwner(window_.handle_);
+    textServices_.setOwner(state_.handle);
     return textServices_;
 }
 
 void Window::Native::captureMouse(bool capture)
 {
     if (capture && window_.isAlive())
-        ::SetCapture(window_.handle_);
-    else if (::GetCapture() == window_.handle_)
+        ::SetCapture(state_.handle);
+    else if (::GetCapture() == state_.handle)
         ::ReleaseCapture();
 }
 
@@ -88,19 +88,19 @@ LRESULT Window::Native::onMouseMove(LPARAM lParam)
 {
     const Point position = pointFrom(lParam);
     if (!trackingLeave_) {
-        TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, window_.handle_, 0};
+        TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, state_.handle, 0};
         trackingLeave_ = ::TrackMouseEvent(&track) != FALSE;
     }
     // A window that opens under a resting pointer is told of it too, but the user has asked for nothing yet.
     POINT screen{};
     if (pointerAtStart_ && ::GetCursorPos(&screen) && *pointerAtStart_ != Point{screen.x, screen.y})
         pointerAtStart_.reset();
-    const Control* const hinted = pointerAtStart_ ? nullptr : hintedControlAt(window_.root_, position);
-    window_.tooltipClock_.pointerAt(hinted, position, ::GetTickCount64());
-    window_.input_.mouseMoved(position);
+    const Control* const hinted = pointerAtStart_ ? nullptr : hintedControlAt(state_.root, position);
+    state_.tooltipClock.pointerAt(hinted, position, ::GetTickCount64());
+    state_.input.mouseMoved(position);
     // The overlay's header tells where the pointer is.
-    if (window_.debugOverlay_.on)
-        window_.invalidateAll();
+    if (state_.debugOverlay.on)
+        invalidateAll();
     return 0;
 }
 
@@ -128,11 +128,11 @@ LRESULT Window::Native::onMouseButton(UINT message, LPARAM lParam)
         const Size slop{::GetSystemMetrics(SM_CXDOUBLECLK), ::GetSystemMetrics(SM_CYDOUBLECLK)};
         event.clicks = clicks_.press(event.position, static_cast<std::uint32_t>(::GetMessageTime()),
                                      ::GetDoubleClickTime(), slop);
-        ::SetCapture(window_.handle_);
+        ::SetCapture(state_.handle);
     }
-    window_.input_.mouseButton(event);
+    state_.input.mouseButton(event);
     // Last: a handler may have destroyed the window.
-    if (!pressed && !window_.input_.captured())
+    if (!pressed && !state_.input.captured())
         captureMouse(false);
     return 0;
 }
@@ -141,14 +141,14 @@ LRESULT Window::Native::onMouseWheel(WPARAM wParam, LPARAM lParam)
 {
     dismissTooltip();
     POINT cursor{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-    ::ScreenToClient(window_.handle_, &cursor);
+    ::ScreenToClient(state_.handle, &cursor);
     MouseEvent event;
     event.action = MouseAction::Wheel;
     event.position = {cursor.x, cursor.y};
     event.wheelDelta = GET_WHEEL_DELTA_WPARAM(wParam);
     event.time = static_cast<std::uint32_t>(::GetMessageTime());
     event.modifiers = modifiersNow();
-    return window_.input_.mouseSecondary(event) ? 0 : passOn(WM_MOUSEWHEEL, wParam, lParam);
+    return state_.input.mouseSecondary(event) ? 0 : passOn(WM_MOUSEWHEEL, wParam, lParam);
 }
 
 // From the keyboard there is no position: the menu opens at the caret, or in the middle of the control.
@@ -159,31 +159,31 @@ LRESULT Window::Native::onContextMenu(WPARAM wParam, LPARAM lParam)
     event.action = MouseAction::ContextMenu;
     event.button = MouseButton::Right;
     if (lParam == -1) {
-        const Control* const focused = window_.input_.focused();
+        const Control* const focused = state_.input.focused();
         const Rect all = focused ? focused->windowRect().value_or(Rect{}) : Rect{};
         const Rect at = caretOf(focused).value_or(Rect{all.x + all.width / 2, all.y, 0, all.height / 2});
         event.position = {at.x, at.y + at.height};
         event.position.y = std::min(event.position.y, all.y + std::max(all.height - 1, 0));
     } else {
         POINT cursor{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-        ::ScreenToClient(window_.handle_, &cursor);
+        ::ScreenToClient(state_.handle, &cursor);
         event.position = {cursor.x, cursor.y};
     }
-    return window_.input_.mouseSecondary(event) ? 0 : passOn(WM_CONTEXTMENU, wParam, lParam);
+    return state_.input.mouseSecondary(event) ? 0 : passOn(WM_CONTEXTMENU, wParam, lParam);
 }
 
 LRESULT Window::Native::onCaptureChanged(LPARAM lParam)
 {
-    if (reinterpret_cast<HWND>(lParam) != window_.handle_)
-        window_.input_.captureLost();
+    if (reinterpret_cast<HWND>(lParam) != state_.handle)
+        state_.input.captureLost();
     return 0;
 }
 
 LRESULT Window::Native::onSetCursor(WPARAM wParam, LPARAM lParam) const
 {
     POINT cursor{};
-    if (LOWORD(lParam) == HTCLIENT && ::GetCursorPos(&cursor) && ::ScreenToClient(window_.handle_, &cursor)) {
-        const Control* const under = controlAt(window_.root_, {cursor.x, cursor.y});
+    if (LOWORD(lParam) == HTCLIENT && ::GetCursorPos(&cursor) && ::ScreenToClient(state_.handle, &cursor)) {
+        const Control* const under = controlAt(state_.root, {cursor.x, cursor.y});
         if (under && under->isEnabled() && under->showsTextCursor()) {
             ::SetCursor(::LoadCursorW(nullptr, IDC_IBEAM));
             return TRUE;
@@ -212,7 +212,7 @@ LRESULT Window::Native::onKeyDown(UINT message, WPARAM wParam, LPARAM lParam)
             window_.openScreenClip();
         return 0;
     }
-    return window_.input_.keyPressed(event) ? 0 : passOn(message, wParam, lParam);
+    return state_.input.keyPressed(event) ? 0 : passOn(message, wParam, lParam);
 }
 
 // Windows reports Print Screen only when it is let go; where the press came too, it has been answered.
@@ -229,8 +229,8 @@ void Window::Native::pressDebugKey(const KeyEvent& event)
 {
     if (event.repeated)
         return;
-    window_.debugOverlay_ = afterDebugKey(window_.debugOverlay_, event.modifiers);
-    window_.invalidateAll();
+    state_.debugOverlay = afterDebugKey(state_.debugOverlay, event.modifiers);
+    invalidateAll();
 }
 
 // Characters outside the first plane arrive in two halves.
@@ -244,14 +244,14 @@ LRESULT Window::Native::onCharacter(WPARAM wParam)
     if (first && isLowSurrogate(unit))
         text.push_back(first);
     text.push_back(unit);
-    window_.input_.characterTyped(text);
+    state_.input.characterTyped(text);
     return 0;
 }
 
 LRESULT Window::Native::onImeComposition(UINT message, WPARAM wParam, LPARAM lParam) const
 {
-    if (const std::optional<Rect> caret = caretOf(window_.input_.focused()))
-        placeInputMethod(window_.handle_, *caret);
+    if (const std::optional<Rect> caret = caretOf(state_.input.focused()))
+        placeInputMethod(state_.handle, *caret);
     return passOn(message, wParam, lParam);
 }
 

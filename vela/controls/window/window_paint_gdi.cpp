@@ -13,7 +13,7 @@ namespace vela {
 // A buffer of the client area's size; true when it is a new one, with nothing in it.
 bool Window::Native::fitBackBuffer()
 {
-    const Size size = window_.lastClientSize_;
+    const Size size = state_.lastClientSize;
     const bool fits = backBuffer_ && *backBuffer_ && backBuffer_->size() == size;
     if (fits || isEmpty(size))
         return false;
@@ -32,7 +32,7 @@ void Window::Native::paintAhead()
 {
     if (!backBuffer_ || !*backBuffer_)
         return;
-    window_.allDamaged_ = false;
+    allDamaged_ = false;
     ::SelectClipRgn(backBuffer_->dc(), nullptr);
     // Nothing of it was painted before, and looking for pictures of it takes time.
     const PaintContextBinding first(backBuffer_->dc(), withoutCaching({}));
@@ -45,7 +45,7 @@ void Window::Native::paintAhead()
 // A window appears with its picture, which is painted before anything of it can be seen.
 LRESULT Window::Native::onShowWindow(WPARAM wParam, LPARAM lParam)
 {
-    if (wParam && window_.styles_) {
+    if (wParam && state_.styles) {
         fitBackBuffer();
         paintAhead();
     }
@@ -54,8 +54,8 @@ LRESULT Window::Native::onShowWindow(WPARAM wParam, LPARAM lParam)
 
 LRESULT Window::Native::onPaint()
 {
-    const HWND handle = window_.handle_;
-    window_.allDamaged_ = false;
+    const HWND handle = state_.handle;
+    allDamaged_ = false;
     // Before BeginPaint, which forgets it: the damage itself rather than the rectangle around it. In one
     // place both are the same, and the system need not be asked.
     const OwnedRegion damage(::CreateRectRgn(0, 0, 0, 0));
@@ -72,7 +72,7 @@ LRESULT Window::Native::onPaint()
         const RECT& part = isPaintedAhead ? known : paint.rcPaint;
         ::SetRectRgn(damage.get(), part.left, part.top, part.right, part.bottom);
     }
-    if (screen && backBuffer_ && *backBuffer_ && !isEmpty(window_.lastClientSize_)) {
+    if (screen && backBuffer_ && *backBuffer_ && !isEmpty(state_.lastClientSize)) {
         ::SelectClipRgn(backBuffer_->dc(), fresh ? nullptr : damage.get());
         paintTree(backBuffer_->dc());
         const Rect part = toRect(paint.rcPaint);
@@ -101,16 +101,16 @@ void Window::Native::paintTree(HDC dc)
     context.time = lights_.time();
     context.profile = lights_.profile();
     const PaintContextBinding binding(dc, context);
-    window_.root_.paint(dc, {});
-    if (!window_.debugOverlay_.on)
+    state_.root.paint(dc, {});
+    if (!state_.debugOverlay.on)
         return;
     POINT cursor{};
     ::GetCursorPos(&cursor);
-    ::ScreenToClient(window_.handle_, &cursor);
+    ::ScreenToClient(state_.handle, &cursor);
     const Point at{cursor.x, cursor.y};
-    const Control* const under = controlAt(window_.root_, at);
-    paintDebugOverlay(dc, window_.root_, window_.debugOverlay_, at, under == &window_.root_ ? nullptr : under,
-                      window_.dpi_);
+    const Control* const under = controlAt(state_.root, at);
+    paintDebugOverlay(dc, state_.root, state_.debugOverlay, at, under == &state_.root ? nullptr : under,
+                      state_.dpi);
 }
 
 } // namespace vela

@@ -23,7 +23,7 @@ void tickAnimations(Control& control, std::uint32_t elapsed)
 
 } // namespace
 
-Window::Native::Native(Window& window) noexcept : window_(window) {}
+Window::Native::Native(Window& window, WindowState& state) noexcept : window_(window), state_(state) {}
 
 Window::Native::~Native() = default;
 
@@ -45,7 +45,7 @@ LRESULT CALLBACK Window::Native::procedure(HWND handle, UINT message, WPARAM wPa
     if (message == WM_NCCREATE) {
         const auto* const creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
         auto* const created = static_cast<Native*>(creation->lpCreateParams);
-        created->window_.handle_ = handle;
+        created->state_.handle = handle;
         ::SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
     }
     auto* const native = reinterpret_cast<Native*>(::GetWindowLongPtrW(handle, GWLP_USERDATA));
@@ -53,12 +53,12 @@ LRESULT CALLBACK Window::Native::procedure(HWND handle, UINT message, WPARAM wPa
         return ::DefWindowProcW(handle, message, wParam, lParam);
     if (message == WM_NCDESTROY) {
         ::SetWindowLongPtrW(handle, GWLP_USERDATA, 0);
-        native->window_.handle_ = nullptr;
+        native->state_.handle = nullptr;
         return ::DefWindowProcW(handle, message, wParam, lParam);
     }
     LRESULT result = 0;
     // A copy: the hook may replace itself.
-    const MessageHook hook = native->window_.messageHook_;
+    const MessageHook hook = native->state_.messageHook;
     std::intptr_t answer = 0;
     if (hook && hook(handle, message, wParam, lParam, answer))
         result = answer;
@@ -69,7 +69,7 @@ LRESULT CALLBACK Window::Native::procedure(HWND handle, UINT message, WPARAM wPa
 
 LRESULT Window::Native::passOn(UINT message, WPARAM wParam, LPARAM lParam) const noexcept
 {
-    return ::DefWindowProcW(window_.handle_, message, wParam, lParam);
+    return ::DefWindowProcW(state_.handle, message, wParam, lParam);
 }
 
 LRESULT Window::Native::handle(UINT message, WPARAM wParam, LPARAM lParam)
@@ -127,14 +127,13 @@ LRESULT Window::Native::handle(UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT Window::Native::onCreate()
 {
-    window_.allDamaged_ = true;
-    window_.monitorDpi_ = static_cast<std::int32_t>(::GetDpiForWindow(window_.handle_));
-    const std::int32_t before =
-        std::exchange(window_.dpi_, scaleFor(workArea(), window_.monitorDpi_, frameExtra()));
-    window_.root_.rescale(window_.dpi_);
+    allDamaged_ = true;
+    monitorDpi_ = static_cast<std::int32_t>(::GetDpiForWindow(state_.handle));
+    const std::int32_t before = std::exchange(state_.dpi, scaleFor(workArea(), monitorDpi_, frameExtra()));
+    state_.root.rescale(state_.dpi);
     // Looks that were given before are those of another scale.
-    if (window_.dpi_ != before)
-        window_.applyStyles(window_.styles_);
+    if (state_.dpi != before)
+        window_.applyStyles(state_.styles);
     blockShutdown();
     admitTaskbar();
     lastTick_ = ::GetTickCount64();
@@ -142,7 +141,7 @@ LRESULT Window::Native::onCreate()
     ::GetCursorPos(&pointer);
     pointerAtStart_ = Point{pointer.x, pointer.y};
     lights_.setProfile(performanceProfile());
-    ::SetTimer(window_.handle_, kWindowTimer, kWindowTimerPeriod, nullptr);
+    ::SetTimer(state_.handle, kWindowTimer, kWindowTimerPeriod, nullptr);
     window_.onCreated();
     return 0;
 }
@@ -150,32 +149,32 @@ LRESULT Window::Native::onCreate()
 LRESULT Window::Native::onDestroy()
 {
     window_.onDestroyed();
-    ::KillTimer(window_.handle_, kWindowTimer);
+    ::KillTimer(state_.handle, kWindowTimer);
     clearHover();
-    window_.input_.captureLost();
-    window_.input_.setWindowFocused(false);
+    state_.input.captureLost();
+    state_.input.setWindowFocused(false);
     backBuffer_.reset();
     smallIcon_.reset();
     largeIcon_.reset();
     taskbar_.reset();
     hasTaskbarButton_ = false;
-    if (window_.quitOnDestroy_)
+    if (state_.quitOnDestroy)
         ::PostQuitMessage(0);
     return 0;
 }
 
 void Window::Native::clearHover()
 {
-    window_.tooltipClock_.pointerAt(nullptr, kPointerGone, ::GetTickCount64());
+    state_.tooltipClock.pointerAt(nullptr, kPointerGone, ::GetTickCount64());
     updateTooltip(::GetTickCount64());
-    if (window_.input_.pointerLeft())
-        window_.invalidateAll();
+    if (state_.input.pointerLeft())
+        invalidateAll();
 }
 
 // Called on every tick: a tooltip appears when it is due and goes when its control does.
 void Window::Native::updateTooltip(std::uint64_t now)
 {
-    const Control* const due = window_.tooltipClock_.due(now, window_.tooltipDelay_);
+    const Control* const due = state_.tooltipClock.due(now, state_.tooltipDelay);
     if (std::exchange(tooltipFor_, due) == due)
         return;
     if (!due) {
@@ -186,21 +185,21 @@ void Window::Native::updateTooltip(std::uint64_t now)
         tooltip_ = std::make_unique<TooltipWindow>();
     POINT cursor{};
     ::GetCursorPos(&cursor);
-    tooltip_->show(window_, {cursor.x, cursor.y}, due->hint(), window_.styles_);
+    tooltip_->show(window_, {cursor.x, cursor.y}, due->hint(), state_.styles);
 }
 
 void Window::Native::dismissTooltip()
 {
-    window_.tooltipClock_.dismiss();
+    state_.tooltipClock.dismiss();
     updateTooltip(::GetTickCount64());
 }
 
 void Window::Native::deactivate()
 {
-    if (!window_.closeOnDeactivate_ || !window_.isAlive())
+    if (!state_.closeOnDeactivate || !window_.isAlive())
         return;
     clearHover();
-    ::PostMessageW(window_.handle_, WM_CLOSE, 0, 0);
+    ::PostMessageW(state_.handle, WM_CLOSE, 0, 0);
 }
 
 LRESULT Window::Native::onActivate(WPARAM wParam, LPARAM lParam)
@@ -221,7 +220,7 @@ LRESULT Window::Native::onActivateApp(WPARAM wParam, LPARAM lParam)
 
 LRESULT Window::Native::onFocus(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    window_.input_.setWindowFocused(message == WM_SETFOCUS);
+    state_.input.setWindowFocused(message == WM_SETFOCUS);
     return passOn(message, wParam, lParam);
 }
 
@@ -247,8 +246,8 @@ LRESULT Window::Native::onSystemLook(UINT message, WPARAM wParam, LPARAM lParam)
 
 void Window::Native::restyle()
 {
-    if (window_.styleSource_)
-        window_.applyStyles(window_.styleSource_());
+    if (state_.styleSource)
+        window_.applyStyles(state_.styleSource());
 }
 
 LRESULT Window::Native::onTimer(WPARAM wParam, LPARAM lParam)
@@ -258,8 +257,8 @@ LRESULT Window::Native::onTimer(WPARAM wParam, LPARAM lParam)
     const std::uint64_t now = ::GetTickCount64();
     const auto elapsed = static_cast<std::uint32_t>(now - lastTick_);
     lastTick_ = now;
-    if (window_.root_.wantsAnimation())
-        tickAnimations(window_.root_, elapsed);
+    if (state_.root.wantsAnimation())
+        tickAnimations(state_.root, elapsed);
     moveLights(elapsed);
     updateTooltip(now);
     return 0;
@@ -267,11 +266,11 @@ LRESULT Window::Native::onTimer(WPARAM wParam, LPARAM lParam)
 
 void Window::Native::moveLights(std::uint32_t elapsed)
 {
-    const HWND handle = window_.handle_;
-    if (!::IsWindowVisible(handle) || ::IsIconic(handle) || !showsMovingLight(window_.root_))
+    const HWND handle = state_.handle;
+    if (!::IsWindowVisible(handle) || ::IsIconic(handle) || !showsMovingLight(state_.root))
         return;
     if (lights_.tick(elapsed, performanceProfile()))
-        repaintMovingLights(window_.root_);
+        repaintMovingLights(state_.root);
 }
 
 } // namespace vela

@@ -8,29 +8,29 @@ namespace vela {
 
 Rect Window::Native::workArea() const noexcept
 {
-    return monitorAreas(::MonitorFromWindow(window_.handle_, MONITOR_DEFAULTTONEAREST)).work;
+    return monitorAreas(::MonitorFromWindow(state_.handle, MONITOR_DEFAULTTONEAREST)).work;
 }
 
 std::int32_t Window::Native::scaleFor(const Rect& workArea, std::int32_t monitorDpi,
                                       Size frame) const noexcept
 {
-    if (window_.fixedScale_ > 0)
-        return window_.fixedScale_;
-    if (!window_.shrinkToFit_)
+    if (state_.fixedScale > 0)
+        return state_.fixedScale;
+    if (!state_.shrinkToFit)
         return monitorDpi;
     const Size room{workArea.width - frame.width, workArea.height - frame.height};
-    return fittingDpi(window_.designClient_, room, monitorDpi);
+    return fittingDpi(designClient_, room, monitorDpi);
 }
 
 // Takes the scale into the tree; gives the place that the window at `place` then needs. The frame, which the
 // system draws, keeps its own scale.
 Rect Window::Native::rescaled(const Rect& place, std::int32_t scale)
 {
-    const std::int32_t before = window_.dpi_;
-    const Size client = window_.lastClientSize_;
-    window_.dpi_ = scale;
-    window_.root_.rescale(scale);
-    window_.applyStyles(window_.styles_);
+    const std::int32_t before = state_.dpi;
+    const Size client = state_.lastClientSize;
+    state_.dpi = scale;
+    state_.root.rescale(scale);
+    window_.applyStyles(state_.styles);
     const Size frame = frameExtra();
     return {place.x, place.y, mulDiv(client.width, scale, before) + frame.width,
             mulDiv(client.height, scale, before) + frame.height};
@@ -38,22 +38,22 @@ Rect Window::Native::rescaled(const Rect& place, std::int32_t scale)
 
 LRESULT Window::Native::onDpiChanged(WPARAM wParam, const RECT& suggested)
 {
-    const bool wasShrunk = window_.dpi_ != window_.monitorDpi_;
-    window_.monitorDpi_ = HIWORD(wParam);
+    const bool wasShrunk = state_.dpi != monitorDpi_;
+    monitorDpi_ = HIWORD(wParam);
     const Rect work = monitorAreas(::MonitorFromRect(&suggested, MONITOR_DEFAULTTONEAREST)).work;
-    const std::int32_t scale = scaleFor(work, window_.monitorDpi_, frameExtra());
+    const std::int32_t scale = scaleFor(work, monitorDpi_, frameExtra());
     Rect place = rescaled(toRect(suggested), scale);
     // What Windows suggests grows with the monitors' DPI, and is right while the window does too.
-    if (wasShrunk || scale != window_.monitorDpi_)
+    if (wasShrunk || scale != monitorDpi_)
         place = keptInside(place, work);
     else
         place = toRect(suggested);
-    ::SetWindowPos(window_.handle_, nullptr, place.x, place.y, place.width, place.height,
+    ::SetWindowPos(state_.handle, nullptr, place.x, place.y, place.width, place.height,
                    SWP_NOZORDER | SWP_NOACTIVATE);
     // The client area may have kept its size; the tree has not.
     window_.layoutTree();
-    loadIcons(reinterpret_cast<HINSTANCE>(::GetWindowLongPtrW(window_.handle_, GWLP_HINSTANCE)));
-    window_.invalidateAll();
+    loadIcons(reinterpret_cast<HINSTANCE>(::GetWindowLongPtrW(state_.handle, GWLP_HINSTANCE)));
+    invalidateAll();
     return 0;
 }
 
@@ -62,18 +62,18 @@ LRESULT Window::Native::onDpiChanged(WPARAM wParam, const RECT& suggested)
 void Window::Native::refreshMetrics()
 {
     // Its place is not where it will be restored to; then it is asked again.
-    if (::IsIconic(window_.handle_))
+    if (::IsIconic(state_.handle))
         return;
     const Rect work = workArea();
-    const bool maximised = ::IsZoomed(window_.handle_) != FALSE;
-    const std::int32_t scale = scaleFor(work, window_.monitorDpi_, frameExtra());
+    const bool maximised = ::IsZoomed(state_.handle) != FALSE;
+    const std::int32_t scale = scaleFor(work, monitorDpi_, frameExtra());
     RECT outer{};
-    ::GetWindowRect(window_.handle_, &outer);
+    ::GetWindowRect(state_.handle, &outer);
     Rect place = toRect(outer);
-    if (scale != window_.dpi_)
+    if (scale != state_.dpi)
         place = keptInside(rescaled(place, scale), work);
     if (maximised) {
-        if (!window_.customFrame_)
+        if (!state_.customFrame)
             return window_.layoutTree();
         place = work;
     } else {
@@ -81,7 +81,7 @@ void Window::Native::refreshMetrics()
         place = {place.x, place.y, size.width, size.height};
     }
     if (place != toRect(outer))
-        ::SetWindowPos(window_.handle_, nullptr, place.x, place.y, place.width, place.height,
+        ::SetWindowPos(state_.handle, nullptr, place.x, place.y, place.width, place.height,
                        SWP_NOZORDER | SWP_NOACTIVATE);
     window_.layoutTree();
 }

@@ -12,24 +12,24 @@
 
 namespace vela {
 
-Window::Window() : root_(L"root", {}), input_(root_), native_(std::make_unique<Native>(*this))
+Window::Window() : native_(std::make_unique<Native>(*this, state_))
 {
     openTextEngine();
     // The root is placed by no parent: with its own size as its minimum it could grow but never shrink.
-    root_.setMinimumSize({0, 0});
-    root_.setStyleKey(std::wstring(kWindowVariant));
-    root_.attach(this);
+    state_.root.setMinimumSize({0, 0});
+    state_.root.setStyleKey(std::wstring(kWindowVariant));
+    state_.root.attach(this);
 }
 
 Window::~Window()
 {
     destroy();
-    root_.detach();
+    state_.root.detach();
 }
 
 bool Window::create(HINSTANCE instance, std::wstring title, Size client, WindowStyle style, HWND owner)
 {
-    title_ = std::move(title);
+    state_.title = std::move(title);
     if (!native_->create(instance, client, style, owner))
         return false;
     native_->loadIcons(instance);
@@ -41,21 +41,21 @@ bool Window::create(HINSTANCE instance, std::wstring title, Size client, WindowS
 void Window::destroy()
 {
     if (isAlive())
-        ::DestroyWindow(handle_);
+        ::DestroyWindow(state_.handle);
 }
 
-bool Window::isAlive() const { return handle_ && ::IsWindow(handle_); }
+bool Window::isAlive() const { return state_.handle && ::IsWindow(state_.handle); }
 
-Rect Window::clientRect() const { return {0, 0, lastClientSize_.width, lastClientSize_.height}; }
+Rect Window::clientRect() const { return {0, 0, state_.lastClientSize.width, state_.lastClientSize.height}; }
 
 void Window::layoutTree()
 {
     native_->readClientSize();
-    if (!isEmpty(lastClientSize_))
-        root_.setBounds(clientRect());
+    if (!isEmpty(state_.lastClientSize))
+        state_.root.setBounds(clientRect());
 }
 
-Size Window::minimumClientSize() const { return root_.settledMinimumSize(); }
+Size Window::minimumClientSize() const { return state_.root.settledMinimumSize(); }
 
 Size Window::minimumTrackSize() const
 {
@@ -66,36 +66,41 @@ Size Window::minimumTrackSize() const
             std::clamp(client.height + frame.height, 1, std::max(work.height, 1))};
 }
 
-void Window::invalidateClient(const Rect& rect, InvalidationReason)
+void Window::invalidateClient(const Rect& rect, InvalidationReason) { native_->invalidate(rect); }
+
+void Window::Native::invalidate(const Rect& rect)
 {
-    if (allDamaged_ || !isAlive())
+    if (allDamaged_ || !window_.isAlive())
         return;
-    native_->noteDamage(rect);
+    noteDamage(rect);
     const RECT damaged = toRECT(rect);
-    ::InvalidateRect(handle_, &damaged, FALSE);
+    ::InvalidateRect(state_.handle, &damaged, FALSE);
 }
 
-void Window::invalidateAll()
+void Window::Native::invalidateAll()
 {
-    if (!isAlive())
+    if (!window_.isAlive())
         return;
     allDamaged_ = true;
-    native_->noteDamage(clientRect());
-    ::InvalidateRect(handle_, nullptr, FALSE);
+    noteDamage(window_.clientRect());
+    ::InvalidateRect(state_.handle, nullptr, FALSE);
 }
 
 void Window::captureMouse(Control* control)
 {
-    input_.setCaptured(control);
+    state_.input.setCaptured(control);
     native_->captureMouse(control != nullptr);
 }
 
-const Control* Window::focusedControl() const { return input_.windowFocused() ? input_.focused() : nullptr; }
+const Control* Window::focusedControl() const
+{
+    return state_.input.windowFocused() ? state_.input.focused() : nullptr;
+}
 
 void Window::controlDetached(Control& control)
 {
-    input_.forget(control);
-    tooltipClock_.forget(control);
+    state_.input.forget(control);
+    state_.tooltipClock.forget(control);
 }
 
 TextServices* Window::textServices() { return &native_->textServices(); }
@@ -111,19 +116,19 @@ void Window::applyStyles(std::shared_ptr<const StyleSheet> styles)
 {
     if (!styles)
         return;
-    styles_ = std::move(styles);
-    invalidateAll();
-    const PanelStyle& ground = styles_->find<PanelStyle>(root_.styleKey());
-    root_.setSurface(scaledToDpi(ground.surface, dpi_));
-    styleTree(root_, *styles_);
+    state_.styles = std::move(styles);
+    native_->invalidateAll();
+    const PanelStyle& ground = state_.styles->find<PanelStyle>(state_.root.styleKey());
+    state_.root.setSurface(scaledToDpi(ground.surface, state_.dpi));
+    styleTree(state_.root, *state_.styles);
     native_->applyShape();
 }
 
 void Window::setStyleSource(StyleSource source)
 {
-    styleSource_ = std::move(source);
-    if (styleSource_)
-        applyStyles(styleSource_());
+    state_.styleSource = std::move(source);
+    if (state_.styleSource)
+        applyStyles(state_.styleSource());
 }
 
 CommandHandlers::Subscription Window::subscribe(std::wstring action, CommandHandlers::Handler handler)
@@ -152,7 +157,7 @@ bool Window::performChromeAction(std::wstring_view action)
         if (name != action)
             continue;
         // Posted: the control that asked is still handling its event.
-        ::PostMessageW(handle_, WM_SYSCOMMAND, command, 0);
+        ::PostMessageW(state_.handle, WM_SYSCOMMAND, command, 0);
         return true;
     }
     return false;

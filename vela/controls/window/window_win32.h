@@ -41,7 +41,7 @@ class TooltipWindow;
 
 class Window::Native {
 public:
-    explicit Native(Window& window) noexcept;
+    Native(Window& window, WindowState& state) noexcept;
     ~Native();
     Native(const Native&) = delete;
     Native& operator=(const Native&) = delete;
@@ -56,7 +56,9 @@ public:
     void showTaskbarStatus(const TaskbarStatus& status);
     void refreshTaskbar();
     void captureMouse(bool capture);
-    void noteDamage(const Rect& rect) noexcept;
+    // Client pixels, painted when Windows next asks.
+    void invalidate(const Rect& rect);
+    void invalidateAll();
     void readClientSize();
     Size frameExtra() const noexcept;
     Rect workArea() const noexcept; // of the monitor that shows the window
@@ -121,6 +123,7 @@ private:
     void pressDebugKey(const KeyEvent& event);
 
     // Painting (window_paint_gdi.cpp).
+    void noteDamage(const Rect& rect) noexcept;
     LRESULT onShowWindow(WPARAM wParam, LPARAM lParam);
     LRESULT onPaint();
     LRESULT onPrintClient(HDC dc);
@@ -128,8 +131,12 @@ private:
     bool fitBackBuffer();
     void paintAhead();
 
-    Window& window_;
+    Window& window_; // for what is public, and for what its subclasses make of a message
+    WindowState& state_;
+    Size designClient_;            // 96-DPI pixels, as given to `create`
+    std::int32_t monitorDpi_ = 96; // of the standard frame and the icons
     std::optional<DibSurface> backBuffer_;
+    bool allDamaged_ = true;      // until the next paint: nothing more can be damaged
     bool isPaintedAhead_ = false; // the back buffer holds the whole picture, but for the damage since
     Rect damage_;                 // around all since the last painting
     bool isDamageScattered_ = false;
