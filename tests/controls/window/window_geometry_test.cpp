@@ -88,5 +88,14 @@ TEST(WindowGeometry, AWindowIsMovedBackInside)
     EXPECT_EQ(keptInside({500, 500, 3000, 0}, kArea), (Rect{100, 500, 1000, 1}));
 }
 
+TEST(WindowGeometry, ATooltipStaysInsideTheMonitor)
+{
+    const Rect area{0, 0, 1000, 800};
+    EXPECT_EQ(tooltipPlacement({200, 40}, {100, 100}, 20, 4, area), (Rect{100, 120, 200, 40}));
+    EXPECT_EQ(tooltipPlacement({200, 40}, {950, 790}, 20, 4, area), (Rect{800, 746, 200, 40}));
+    EXPECT_EQ(tooltipPlacement({200, 40}, {-500, -90}, 20, 4, area), (Rect{0, 0, 200, 40}));
+    EXPECT_EQ(tooltipPlacement({2000, 900}, {10, 10}, 20, 4, area), (Rect{0, 0, 2000, 900}));
+}
+
 } // namespace
 } // namespace vela

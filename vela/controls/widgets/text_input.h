@@ -4,9 +4,9 @@
 #pragma once
 
 #include "vela/controls/tree/control.h"
-#include "vela/controls/tree/pointer_clock.h"
 #include "vela/controls/widgets/text_edit_model.h"
 #include "vela/controls/widgets/text_services.h"
+#include "vela/controls/widgets/wheel_acceleration.h"
 #include "vela/theme/records/control_styles.h"
 
 #include <functional>
@@ -96,7 +96,7 @@ private:
 
     TextEditModel model_;
     std::int32_t scroll_ = 0;
-    WheelBurst wheel_;
+    WheelAcceleration wheel_;
     std::vector<TextAttachment> attachments_;
     std::wstring placeholder_;
     TextInputStyle style_;

@@ -1,5 +1,6 @@
 #include "vela/controls/window/tooltip_window_win32.h"
 
+#include "vela/controls/window/window_geometry.h"
 #include "vela/controls/window/window_win32.h"
 
 namespace vela {

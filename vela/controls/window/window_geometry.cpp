@@ -90,6 +90,17 @@ Rect keptInside(const Rect& window, const Rect& area) noexcept
             start(window.y, size.height, area.y, area.height), size.width, size.height};
 }
 
+Rect tooltipPlacement(Size size, Point pointer, std::int32_t below, std::int32_t above,
+                      const Rect& area) noexcept
+{
+    const std::int32_t right = area.x + std::max(area.width - size.width, 0);
+    const std::int32_t bottom = area.y + std::max(area.height - size.height, 0);
+    std::int32_t y = pointer.y + below;
+    if (y > bottom)
+        y = pointer.y - above - size.height;
+    return {std::clamp(pointer.x, area.x, right), std::clamp(y, area.y, bottom), size.width, size.height};
+}
+
 std::int32_t fittingDpi(Size design, Size room, std::int32_t monitorDpi) noexcept
 {
     // Rounded down: the scaled length then never rounds up beyond the room.

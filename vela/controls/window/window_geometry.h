@@ -42,6 +42,11 @@ Rect initialPlacement(Size window, const Rect& workArea) noexcept;
 // The same rectangle, moved and cut so that it lies inside the area.
 Rect keptInside(const Rect& window, const Rect& area) noexcept;
 
+// Where a tooltip of that size stands: below the pointer, above it where there is no room, always inside the
+// area.
+Rect tooltipPlacement(Size size, Point pointer, std::int32_t below, std::int32_t above,
+                      const Rect& area) noexcept;
+
 // Below this scale nothing could be read: a window that needs less is cut at the work area.
 inline constexpr std::int32_t kSmallestFittingDpi = 48;
 

@@ -96,7 +96,7 @@ LRESULT Window::Native::onMouseMove(LPARAM lParam)
     if (pointerAtStart_ && ::GetCursorPos(&screen) && *pointerAtStart_ != Point{screen.x, screen.y})
         pointerAtStart_.reset();
     const Control* const hinted = pointerAtStart_ ? nullptr : hintedControlAt(state_.root, position);
-    state_.tooltipClock.pointerAt(hinted, position, ::GetTickCount64());
+    state_.tooltipTiming.pointerAt(hinted, position, ::GetTickCount64());
     state_.input.mouseMoved(position);
     // The overlay's header tells where the pointer is.
     if (state_.debugOverlay.on)
@@ -109,6 +109,14 @@ LRESULT Window::Native::onMouseLeave()
     trackingLeave_ = false;
     clearHover();
     return 0;
+}
+
+void Window::Native::clearHover()
+{
+    state_.tooltipTiming.pointerAt(nullptr, kPointerGone, ::GetTickCount64());
+    updateTooltip(::GetTickCount64());
+    if (state_.input.pointerLeft())
+        invalidateAll();
 }
 
 LRESULT Window::Native::onMouseButton(UINT message, LPARAM lParam)

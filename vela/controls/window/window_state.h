@@ -5,8 +5,8 @@
 #include "vela/controls/tree/debug_overlay.h"
 #include "vela/controls/tree/input_router.h"
 #include "vela/controls/tree/panel.h"
-#include "vela/controls/tree/pointer_clock.h"
 #include "vela/controls/window/taskbar_progress.h"
+#include "vela/controls/window/tooltip_timing.h"
 
 #include <cstdint>
 #include <functional>
@@ -49,7 +49,7 @@ struct WindowState {
     std::wstring shutdownBlockReason;
     TaskbarStatus taskbarStatus;
     InputRouter input{root};
-    TooltipClock tooltipClock;
+    TooltipTiming tooltipTiming;
     DebugOverlay debugOverlay;
     std::shared_ptr<const StyleSheet> styles;
     StyleSource styleSource;

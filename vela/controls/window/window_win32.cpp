@@ -100,7 +100,7 @@ const Control* Window::focusedControl() const
 void Window::controlDetached(Control& control)
 {
     state_.input.forget(control);
-    state_.tooltipClock.forget(control);
+    state_.tooltipTiming.forget(control);
 }
 
 TextServices* Window::textServices() { return &native_->textServices(); }

@@ -4,6 +4,7 @@
 #include "vela/controls/window/window.h"
 
 #include "vela/controls/tree/moving_lights.h"
+#include "vela/controls/window/click_counter.h"
 #include "vela/controls/window/text_services_win32.h"
 #include "vela/controls/window/window_diagnostics.h"
 #include "vela/controls/window/window_geometry.h"
@@ -65,12 +66,13 @@ public:
     TextServices& textServices() noexcept;
 
 private:
+    // Messages (window_procedure_win32.cpp).
     static LRESULT CALLBACK procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     static bool registerClass(HINSTANCE instance) noexcept;
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam) const noexcept;
 
-    // Life (window_procedure_win32.cpp).
+    // Life (window_lifecycle_win32.cpp).
     LRESULT onCreate();
     LRESULT onDestroy();
     LRESULT onActivate(WPARAM wParam, LPARAM lParam);
@@ -78,13 +80,14 @@ private:
     LRESULT onFocus(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onSettingChange(WPARAM wParam, LPARAM lParam);
     LRESULT onSystemLook(UINT message, WPARAM wParam, LPARAM lParam);
+    void deactivate();
+    void restyle();
+
+    // From tick to tick (window_timer_win32.cpp).
     LRESULT onTimer(WPARAM wParam, LPARAM lParam);
     void moveLights(std::uint32_t elapsed);
-    void deactivate();
-    void clearHover();
     void updateTooltip(std::uint64_t now);
     void dismissTooltip();
-    void restyle();
 
     // Frame (window_frame_win32.cpp).
     LRESULT onMove();
@@ -111,6 +114,7 @@ private:
     // Input (window_input_win32.cpp).
     LRESULT onMouseMove(LPARAM lParam);
     LRESULT onMouseLeave();
+    void clearHover();
     LRESULT onMouseButton(UINT message, LPARAM lParam);
     LRESULT onMouseWheel(WPARAM wParam, LPARAM lParam);
     LRESULT onContextMenu(WPARAM wParam, LPARAM lParam);
