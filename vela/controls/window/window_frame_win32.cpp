@@ -2,6 +2,7 @@
 // desktop's compositor draws around it.
 #include "vela/controls/window/window_win32.h"
 
+#include "vela/controls/window/cursor_win32.h"
 #include "vela/library_win32.h"
 #include "vela/render/surface/surface_shape.h"
 #include "vela/theme/fields/record_scale.h"
@@ -9,8 +10,6 @@
 
 #include <algorithm>
 #include <utility>
-
-#include <windowsx.h>
 
 namespace vela {
 
@@ -51,9 +50,8 @@ HMONITOR monitorForNewWindow(HWND owner) noexcept
 {
     if (owner && ::IsWindow(owner))
         return ::MonitorFromWindow(owner, MONITOR_DEFAULTTONEAREST);
-    POINT cursor{};
-    ::GetCursorPos(&cursor);
-    return ::MonitorFromPoint(cursor, MONITOR_DEFAULTTONEAREST);
+    const Point cursor = cursorOnScreen();
+    return ::MonitorFromPoint({cursor.x, cursor.y}, MONITOR_DEFAULTTONEAREST);
 }
 
 // What Windows' own frame adds to a client area.
@@ -63,8 +61,6 @@ Size standardFrame(WindowStyle style, std::int32_t dpi) noexcept
     ::AdjustWindowRectExForDpi(&outer, style.style, FALSE, style.extended, static_cast<UINT>(dpi));
     return sizeOf(toRect(outer));
 }
-
-Point pointFrom(LPARAM lParam) noexcept { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
 
 struct ZoneCode {
     FrameZone zone;
@@ -223,13 +219,8 @@ LRESULT Window::Native::onSizeMove(bool inside) noexcept
 
 FrameFacts Window::Native::frameFacts(Point cursorScreen) const
 {
-    POINT cursor{cursorScreen.x, cursorScreen.y};
-    ::ScreenToClient(state_.handle, &cursor);
-    return {cursorScreen,
-            {cursor.x, cursor.y},
-            window_.clientRect(),
-            window_.minimumClientSize(),
-            window_.minimumTrackSize()};
+    return {cursorScreen, screenToClient(state_.handle, cursorScreen), window_.clientRect(),
+            window_.minimumClientSize(), window_.minimumTrackSize()};
 }
 
 LRESULT Window::Native::onMinMaxInfo(MINMAXINFO& info) const
@@ -242,11 +233,8 @@ LRESULT Window::Native::onMinMaxInfo(MINMAXINFO& info) const
     info.ptMaxPosition = {sizes.maximisedAt.x, sizes.maximisedAt.y};
     info.ptMaxTrackSize = {sizes.largest.width, sizes.largest.height};
     info.ptMinTrackSize = {sizes.smallest.width, sizes.smallest.height};
-    if (state_.diagnostics) {
-        POINT cursor{};
-        ::GetCursorPos(&cursor);
-        window_.writeDiagnostic(trackingDiagnostic(sizes, frameFacts({cursor.x, cursor.y})));
-    }
+    if (state_.diagnostics)
+        window_.writeDiagnostic(trackingDiagnostic(sizes, frameFacts(cursorOnScreen())));
     return 0;
 }
 
@@ -257,9 +245,7 @@ LRESULT Window::Native::onNcHitTest(LPARAM lParam) const
                          !isEmpty(state_.lastClientSize);
     LRESULT hit = 0;
     if (resizes) {
-        POINT inside{cursor.x, cursor.y};
-        ::ScreenToClient(state_.handle, &inside);
-        hit = hitCodeOf(frameZoneAt(state_.lastClientSize, {inside.x, inside.y},
+        hit = hitCodeOf(frameZoneAt(state_.lastClientSize, screenToClient(state_.handle, cursor),
                                     scaledLength(state_.resizeBorder, state_.dpi)));
     } else {
         hit = passOn(WM_NCHITTEST, 0, lParam);
@@ -291,11 +277,8 @@ LRESULT Window::Native::onSizing(WPARAM edge, RECT& proposed) const
     const Edges before{proposed.left, proposed.top, proposed.right, proposed.bottom};
     const Edges after = keptAboveMinimum(before, draggedZone(edge), window_.minimumTrackSize());
     proposed = {after.left, after.top, after.right, after.bottom};
-    if (state_.diagnostics) {
-        POINT cursor{};
-        ::GetCursorPos(&cursor);
-        window_.writeDiagnostic(sizingDiagnostic(edge, before, after, frameFacts({cursor.x, cursor.y})));
-    }
+    if (state_.diagnostics)
+        window_.writeDiagnostic(sizingDiagnostic(edge, before, after, frameFacts(cursorOnScreen())));
     return 1;
 }
 
@@ -303,8 +286,7 @@ LRESULT Window::Native::onSizing(WPARAM edge, RECT& proposed) const
 void Window::Native::beginMove()
 {
     ::ReleaseCapture();
-    POINT cursor{};
-    ::GetCursorPos(&cursor);
+    const Point cursor = cursorOnScreen();
     ::PostMessageW(state_.handle, WM_NCLBUTTONDOWN, HTCAPTION,
                    MAKELPARAM(static_cast<WORD>(cursor.x), static_cast<WORD>(cursor.y)));
 }

@@ -1,19 +1,17 @@
 // A window's input: Windows' messages become events of the control tree.
 #include "vela/controls/window/window_win32.h"
 
+#include "vela/controls/window/cursor_win32.h"
 #include "vela/library_win32.h"
 
 #include <algorithm>
 #include <utility>
 
 #include <imm.h>
-#include <windowsx.h>
 
 namespace vela {
 
 namespace {
-
-Point pointFrom(LPARAM lParam) noexcept { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
 
 bool isDown(int key) noexcept { return ::GetKeyState(key) < 0; }
 
@@ -92,8 +90,7 @@ LRESULT Window::Native::onMouseMove(LPARAM lParam)
         trackingLeave_ = ::TrackMouseEvent(&track) != FALSE;
     }
     // A window that opens under a resting pointer is told of it too, but the user has asked for nothing yet.
-    POINT screen{};
-    if (pointerAtStart_ && ::GetCursorPos(&screen) && *pointerAtStart_ != Point{screen.x, screen.y})
+    if (pointerAtStart_ && cursorOnScreen() != *pointerAtStart_)
         pointerAtStart_.reset();
     const Control* const hinted = pointerAtStart_ ? nullptr : hintedControlAt(state_.root, position);
     state_.tooltipTiming.pointerAt(hinted, position, ::GetTickCount64());
@@ -148,11 +145,9 @@ LRESULT Window::Native::onMouseButton(UINT message, LPARAM lParam)
 LRESULT Window::Native::onMouseWheel(WPARAM wParam, LPARAM lParam)
 {
     dismissTooltip();
-    POINT cursor{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-    ::ScreenToClient(state_.handle, &cursor);
     MouseEvent event;
     event.action = MouseAction::Wheel;
-    event.position = {cursor.x, cursor.y};
+    event.position = screenToClient(state_.handle, pointFrom(lParam));
     event.wheelDelta = GET_WHEEL_DELTA_WPARAM(wParam);
     event.time = static_cast<std::uint32_t>(::GetMessageTime());
     event.modifiers = modifiersNow();
@@ -173,9 +168,7 @@ LRESULT Window::Native::onContextMenu(WPARAM wParam, LPARAM lParam)
         event.position = {at.x, at.y + at.height};
         event.position.y = std::min(event.position.y, all.y + std::max(all.height - 1, 0));
     } else {
-        POINT cursor{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-        ::ScreenToClient(state_.handle, &cursor);
-        event.position = {cursor.x, cursor.y};
+        event.position = screenToClient(state_.handle, pointFrom(lParam));
     }
     return state_.input.mouseSecondary(event) ? 0 : passOn(WM_CONTEXTMENU, wParam, lParam);
 }
@@ -189,13 +182,11 @@ LRESULT Window::Native::onCaptureChanged(LPARAM lParam)
 
 LRESULT Window::Native::onSetCursor(WPARAM wParam, LPARAM lParam) const
 {
-    POINT cursor{};
-    if (LOWORD(lParam) == HTCLIENT && ::GetCursorPos(&cursor) && ::ScreenToClient(state_.handle, &cursor)) {
-        const Control* const under = controlAt(state_.root, {cursor.x, cursor.y});
-        if (under && under->isEnabled() && under->showsTextCursor()) {
-            ::SetCursor(::LoadCursorW(nullptr, IDC_IBEAM));
-            return TRUE;
-        }
+    const bool inside = LOWORD(lParam) == HTCLIENT;
+    const Control* const under = inside ? controlAt(state_.root, cursorInClient(state_.handle)) : nullptr;
+    if (under && under->isEnabled() && under->showsTextCursor()) {
+        ::SetCursor(::LoadCursorW(nullptr, IDC_IBEAM));
+        return TRUE;
     }
     return passOn(WM_SETCURSOR, wParam, lParam);
 }

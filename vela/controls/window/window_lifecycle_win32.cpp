@@ -1,6 +1,7 @@
 // A window's life: from its creation to its end, and what the system tells it meanwhile.
 #include "vela/controls/window/window_win32.h"
 
+#include "vela/controls/window/cursor_win32.h"
 #include "vela/controls/window/taskbar_list_win32.h"
 #include "vela/controls/window/tooltip_window_win32.h"
 #include "vela/render/gdi/performance_win32.h"
@@ -26,9 +27,7 @@ LRESULT Window::Native::onCreate()
     blockShutdown();
     admitTaskbar();
     lastTick_ = ::GetTickCount64();
-    POINT pointer{};
-    ::GetCursorPos(&pointer);
-    pointerAtStart_ = Point{pointer.x, pointer.y};
+    pointerAtStart_ = cursorOnScreen();
     lights_.setProfile(performanceProfile());
     ::SetTimer(state_.handle, kWindowTimer, kWindowTimerPeriod, nullptr);
     window_.onCreated();

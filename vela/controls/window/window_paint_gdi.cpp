@@ -2,6 +2,7 @@
 // size, and from there to the screen.
 #include "vela/controls/window/window_win32.h"
 
+#include "vela/controls/window/cursor_win32.h"
 #include "vela/render/gdi/owned_gdi.h"
 #include "vela/render/gdi/paint_context.h"
 
@@ -104,10 +105,7 @@ void Window::Native::paintTree(HDC dc)
     state_.root.paint(dc, {});
     if (!state_.debugOverlay.on)
         return;
-    POINT cursor{};
-    ::GetCursorPos(&cursor);
-    ::ScreenToClient(state_.handle, &cursor);
-    const Point at{cursor.x, cursor.y};
+    const Point at = cursorInClient(state_.handle);
     const Control* const under = controlAt(state_.root, at);
     paintDebugOverlay(dc, state_.root, state_.debugOverlay, at, under == &state_.root ? nullptr : under,
                       state_.dpi);

@@ -1,6 +1,7 @@
 // What a window does by itself, from one tick of its timer to the next.
 #include "vela/controls/window/window_win32.h"
 
+#include "vela/controls/window/cursor_win32.h"
 #include "vela/controls/window/tooltip_window_win32.h"
 #include "vela/render/gdi/performance_win32.h"
 
@@ -56,9 +57,7 @@ void Window::Native::updateTooltip(std::uint64_t now)
     }
     if (!tooltip_)
         tooltip_ = std::make_unique<TooltipWindow>();
-    POINT cursor{};
-    ::GetCursorPos(&cursor);
-    tooltip_->show(window_, {cursor.x, cursor.y}, due->hint(), state_.styles);
+    tooltip_->show(window_, cursorOnScreen(), due->hint(), state_.styles);
 }
 
 void Window::Native::dismissTooltip()
