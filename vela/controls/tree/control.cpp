@@ -1,5 +1,6 @@
 #include "vela/controls/tree/control.h"
 
+#include "vela/controls/tree/command_event.h"
 #include "vela/controls/tree/panel.h"
 
 #include <algorithm>
@@ -208,6 +209,15 @@ void Control::invalidate(InvalidationReason reason)
     const Rect visible = intersection(inWindow(damageBounds()).value_or(client), client);
     if (!isEmpty(visible))
         window_->invalidateClient(visible, reason);
+}
+
+void Control::raise(CommandEvent& event)
+{
+    event.control = this;
+    if (event.controlId.empty())
+        event.controlId = id_;
+    if (window_)
+        window_->dispatchCommand(event);
 }
 
 const std::vector<Control*>& Control::visibleChildren() const

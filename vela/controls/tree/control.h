@@ -22,6 +22,7 @@ namespace vela {
 class Panel;
 class StyleSheet;
 struct BitmapSkin;
+struct CommandEvent;
 
 enum class DialogRole : std::uint8_t { Primary, Cancel };
 
@@ -148,6 +149,9 @@ public:
 protected:
     // Changes a flag that shows; repaints the control only when it really changed.
     void setFlag(bool& flag, bool value);
+    // Says whose command it is, unless the event has the id of another, and offers it to the handlers at the
+    // window. Any of them may destroy this control.
+    void raise(CommandEvent& event);
     // Children that can be seen, in painting order; rebuilt when the order is dirty.
     const std::vector<Control*>& visibleChildren() const;
     Point contentOrigin() const noexcept;

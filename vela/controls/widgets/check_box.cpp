@@ -45,15 +45,15 @@ bool CheckBox::applyStyle(const StyleSheet& styles)
 
 const SurfaceStyle& CheckBox::boxSurface() const noexcept
 {
-    using Look = SurfaceStyle CheckBoxStyle::*;
-    static constexpr Look kUnchecked[] = {&CheckBoxStyle::boxUnchecked, &CheckBoxStyle::boxUncheckedHot,
-                                          &CheckBoxStyle::boxUncheckedPressed,
-                                          &CheckBoxStyle::boxUncheckedDisabled};
-    static constexpr Look kChecked[] = {&CheckBoxStyle::boxChecked, &CheckBoxStyle::boxCheckedHot,
-                                        &CheckBoxStyle::boxCheckedPressed,
-                                        &CheckBoxStyle::boxCheckedDisabled};
-    const int look = !isEnabled() ? 3 : isPressed() ? 2 : isHot() ? 1 : 0;
-    return style_.*(checked_ ? kChecked : kUnchecked)[look];
+    using BoxSurface = SurfaceStyle CheckBoxStyle::*;
+    static constexpr BoxSurface kUnchecked[] = {&CheckBoxStyle::boxUnchecked, &CheckBoxStyle::boxUncheckedHot,
+                                                &CheckBoxStyle::boxUncheckedPressed,
+                                                &CheckBoxStyle::boxUncheckedDisabled};
+    static constexpr BoxSurface kChecked[] = {&CheckBoxStyle::boxChecked, &CheckBoxStyle::boxCheckedHot,
+                                              &CheckBoxStyle::boxCheckedPressed,
+                                              &CheckBoxStyle::boxCheckedDisabled};
+    const int state = !isEnabled() ? 3 : isPressed() ? 2 : isHot() ? 1 : 0;
+    return style_.*(checked_ ? kChecked : kUnchecked)[state];
 }
 
 Rect CheckBox::boxRect() const noexcept
@@ -90,8 +90,6 @@ void CheckBox::activate()
     if (!isEnabled())
         return;
     CommandEvent event;
-    event.control = this;
-    event.controlId = id();
     event.action = L"change";
     event.text = text_;
     event.oldChecked = checked_;
@@ -101,8 +99,7 @@ void CheckBox::activate()
     setChecked(event.newChecked);
     // A copy: a handler at the window may destroy this check box and its own handler with it.
     const ChangeHandler handler = changed_;
-    if (window())
-        window()->dispatchCommand(event);
+    raise(event);
     if (handler)
         handler(event);
 }

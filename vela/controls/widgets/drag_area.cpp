@@ -18,11 +18,10 @@ bool DragArea::mouseButton(const MouseEvent& event)
         !isVisible() || !isEnabled() || !containsLocal(event.position))
         return false;
     CommandEvent command;
-    command.control = this;
-    command.controlId = senderId_.empty() ? id() : senderId_;
+    command.controlId = senderId_;
     command.action = event.clicks == 2 && !doubleClickAction_.empty() ? doubleClickAction_ : L"drag";
     command.text = text_;
-    window()->dispatchCommand(command);
+    raise(command);
     return true;
 }
 

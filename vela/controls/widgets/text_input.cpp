@@ -115,15 +115,12 @@ void TextInput::edited(const std::wstring& before)
         return caretMoved();
     measureAgain();
     CommandEvent event;
-    event.control = this;
-    event.controlId = id();
     event.action = L"change";
     event.text = model_.text();
     event.oldValue = before;
     event.newValue = model_.text();
     // Last: a handler may destroy the field.
-    if (window())
-        window()->dispatchCommand(event);
+    raise(event);
 }
 
 void TextInput::setText(std::wstring_view text)

@@ -244,14 +244,11 @@ bool TextInput::erasesChip() const noexcept
 void TextInput::removeAttachment(std::size_t index)
 {
     CommandEvent event;
-    event.control = this;
-    event.controlId = id();
     event.action = L"attachment-remove";
     event.text = attachments_[index].id;
     attachments_.erase(attachments_.begin() + static_cast<std::ptrdiff_t>(index));
     caretMoved();
-    if (window())
-        window()->dispatchCommand(event);
+    raise(event);
 }
 
 void TextInput::focusChanged(bool) { caretMoved(); }

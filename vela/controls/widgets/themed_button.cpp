@@ -100,14 +100,11 @@ void ThemedButton::activate()
     if (!isEnabled())
         return;
     CommandEvent event;
-    event.control = this;
-    event.controlId = id();
     event.action = action_.empty() ? id() : action_;
     event.text = text_;
     // A copy: any handler may destroy this button and its own handler with it.
     const ClickHandler handler = clicked_;
-    if (window())
-        window()->dispatchCommand(event);
+    raise(event);
     if (!event.handled && handler)
         handler(event);
 }
