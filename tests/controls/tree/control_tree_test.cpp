@@ -106,19 +106,19 @@ TEST(ControlTree, MinimumSizesCountWhatIsVisible)
 {
     FakeWindow window({400, 300});
     auto& panel = window.root.addControl(std::make_unique<Panel>(L"panel", Rect{0, 0, 200, 100}));
-    EXPECT_EQ(panel.settledMinimumSize(), (Size{200, 100}));
+    EXPECT_EQ(panel.cachedMinimumSize(), (Size{200, 100}));
     panel.setMinimumSize({10, 10});
     Control* const wide = panel.add(control(L"wide", {20, 10, 170, 20}));
     wide->setAnchors(Anchors::Left | Anchors::Right);
-    EXPECT_EQ(panel.settledMinimumSize(), (Size{200, 30}));
+    EXPECT_EQ(panel.cachedMinimumSize(), (Size{200, 30}));
     wide->setMinimumSize({50, 20});
-    EXPECT_EQ(panel.settledMinimumSize(), (Size{80, 30}));
+    EXPECT_EQ(panel.cachedMinimumSize(), (Size{80, 30}));
     wide->setCollapsed(true);
-    EXPECT_EQ(panel.settledMinimumSize(), (Size{10, 10}));
+    EXPECT_EQ(panel.cachedMinimumSize(), (Size{10, 10}));
     wide->setCollapsed(false);
     wide->setVisible(false);
-    EXPECT_EQ(panel.settledMinimumSize(), (Size{10, 10}));
-    EXPECT_EQ(window.root.settledMinimumSize(), (Size{10, 10}));
+    EXPECT_EQ(panel.cachedMinimumSize(), (Size{10, 10}));
+    EXPECT_EQ(window.root.cachedMinimumSize(), (Size{10, 10}));
 }
 
 TEST(ControlTree, AMinimumSizeReplacesTheDesignAndGrowsWithTheScale)
@@ -310,7 +310,7 @@ TEST(ControlTree, TenThousandControlsAreBuiltInLinearTime)
             panel = &panel->addControl(std::make_unique<Panel>(L"deeper", Rect{0, 0, 3000, 3000}));
     }
     window.root.setBounds({0, 0, 3999, 3999});
-    static_cast<void>(window.root.settledMinimumSize());
+    static_cast<void>(window.root.cachedMinimumSize());
     EXPECT_LE(measured, 40000);
 }
 

@@ -135,7 +135,7 @@ public:
     std::optional<Rect> windowRect() const;
 
     // The minimum size, computed once until something it depends on changes.
-    Size settledMinimumSize() const;
+    Size cachedMinimumSize() const;
     void minimumSizeMayHaveChanged();
 
     // Called by the container that places this control.
@@ -195,7 +195,7 @@ private:
     std::int32_t viewportMode_ = 1;
     Rect viewportRect_;
     Size viewportSize_;
-    mutable std::optional<Size> settledMinimum_;
+    mutable std::optional<Size> cachedMinimum_;
     Panel* parent_ = nullptr;
     Control* container_ = nullptr;
     WindowHost* window_ = nullptr;

@@ -111,20 +111,21 @@ std::optional<Rect> Control::inWindow(Rect local) const
     return top->window_ ? std::optional(local) : std::nullopt;
 }
 
-Size Control::settledMinimumSize() const
+Size Control::cachedMinimumSize() const
 {
-    if (!settledMinimum_)
-        settledMinimum_ = minimumSize();
-    return *settledMinimum_;
+    if (!cachedMinimum_)
+        cachedMinimum_ = minimumSize();
+    return *cachedMinimum_;
 }
 
-// Whoever is unsettled has unsettled containers, or containers that do not count it: the walk can stop there.
-// The window needs no notice: it asks the root whenever Windows wants to know its least size.
+// A container whose own minimum is not cached stands in no container with a cached one, or does not count
+// there: the walk can stop at it. The window needs no notice: it asks the root whenever Windows wants to know
+// its least size.
 void Control::minimumSizeMayHaveChanged()
 {
-    settledMinimum_.reset();
-    for (Control* above = container_; above && above->settledMinimum_; above = above->container_)
-        above->settledMinimum_.reset();
+    cachedMinimum_.reset();
+    for (Control* above = container_; above && above->cachedMinimum_; above = above->container_)
+        above->cachedMinimum_.reset();
 }
 
 void Control::layoutInside(const Rect& content)
@@ -132,7 +133,7 @@ void Control::layoutInside(const Rect& content)
     captureDesign({content.width, content.height});
     if (!visible_)
         return;
-    const Rect rect = layoutChild(request_, settledMinimumSize(), content);
+    const Rect rect = layoutChild(request_, cachedMinimumSize(), content);
     if (rect == bounds_)
         return;
     invalidate(InvalidationReason::Geometry);
@@ -151,7 +152,7 @@ void Control::captureDesign(Size parent)
     request_.designParent = capturedParentSize(bounds_, parent);
     layoutCaptured_ = true;
     rememberSource();
-    settledMinimum_.reset();
+    cachedMinimum_.reset();
 }
 
 Size Control::minimumParentHint() const
@@ -160,7 +161,7 @@ Size Control::minimumParentHint() const
         return {};
     const Rect& design = layoutCaptured_ ? request_.design : bounds_;
     const Size parent = layoutCaptured_ ? request_.designParent : Size{};
-    return minimumParentSizeHint(design, parent, request_.anchors, settledMinimumSize());
+    return minimumParentSizeHint(design, parent, request_.anchors, cachedMinimumSize());
 }
 
 void Control::rememberSource()
@@ -179,7 +180,7 @@ void Control::rescale(std::int32_t dpi)
     request_ = scaledRequest(source_, fromSource);
     minimum_ = fromSource(sourceMinimum_);
     dpi_ = dpi;
-    settledMinimum_.reset();
+    cachedMinimum_.reset();
     for (Control* child : children())
         child->rescale(dpi);
     onScaleChanged();

@@ -55,7 +55,7 @@ void Window::layoutTree()
         state_.root.setBounds(clientRect());
 }
 
-Size Window::minimumClientSize() const { return state_.root.settledMinimumSize(); }
+Size Window::minimumClientSize() const { return state_.root.cachedMinimumSize(); }
 
 Size Window::minimumTrackSize() const
 {
