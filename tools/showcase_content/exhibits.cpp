@@ -1,6 +1,6 @@
 #include "tools/showcase_content/exhibits.h"
 
-#include "vela/controls/tree/window_host.h"
+#include "vela/controls/tree/control_host.h"
 
 namespace showcase {
 
@@ -18,11 +18,11 @@ Rect roomAround(const Rect& rect) noexcept
 } // namespace
 
 // The real window, but for the one answer about who has the focus.
-class FocusStage::Host final : public vela::WindowHost {
+class FocusStage::Host final : public vela::ControlHost {
 public:
     explicit Host(const Control& focused) noexcept : focused_(focused) {}
 
-    void setWindow(WindowHost* window) noexcept { window_ = window; }
+    void setWindow(ControlHost* window) noexcept { window_ = window; }
 
     const Control* focusedControl() const override { return &focused_; }
     bool showsFocus() const override { return true; }
@@ -51,7 +51,7 @@ public:
     }
 
 private:
-    WindowHost* window_ = nullptr;
+    ControlHost* window_ = nullptr;
     const Control& focused_;
 };
 

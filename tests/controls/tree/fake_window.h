@@ -2,15 +2,15 @@
 #pragma once
 
 #include "vela/controls/tree/command_event.h"
+#include "vela/controls/tree/control_host.h"
 #include "vela/controls/tree/panel.h"
-#include "vela/controls/tree/window_host.h"
 
 #include <string>
 #include <vector>
 
 namespace vela {
 
-class FakeWindow : public WindowHost {
+class FakeWindow : public ControlHost {
 public:
     explicit FakeWindow(Size client) : root(L"root", {0, 0, client.width, client.height})
     {

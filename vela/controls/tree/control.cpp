@@ -188,7 +188,7 @@ void Control::abandon(Control& child)
     minimumSizeMayHaveChanged();
 }
 
-void Control::attach(WindowHost* window)
+void Control::attach(ControlHost* window)
 {
     if (window_ == window)
         return;

@@ -3,10 +3,10 @@
 // belongs to the thread of the window.
 #pragma once
 
+#include "vela/controls/tree/control_host.h"
 #include "vela/controls/tree/control_state.h"
 #include "vela/controls/tree/input_events.h"
 #include "vela/controls/tree/layout.h"
-#include "vela/controls/tree/window_host.h"
 #include "vela/geometry.h"
 #include "vela/platform_handles.h"
 #include "vela/theme/records/theme.h"
@@ -112,7 +112,7 @@ public:
     const FontSpec& textStyle() const noexcept { return textStyle_; }
     Panel* parent() const noexcept { return parent_; }
     Control* container() const noexcept { return container_; }
-    WindowHost* window() const noexcept { return window_; }
+    ControlHost* window() const noexcept { return window_; }
 
     // The design is taken afresh from the current bounds.
     void setAnchors(Anchors anchors);
@@ -144,7 +144,7 @@ public:
     // Recomputes geometry from the values its creator gave; a window calls it on its root for a new DPI.
     void rescale(std::int32_t dpi);
     // For the root of a window's tree; a child gets its window from its container.
-    void attach(WindowHost* window);
+    void attach(ControlHost* window);
 
 protected:
     // Changes a flag that shows; repaints the control only when it really changed.
@@ -198,7 +198,7 @@ private:
     mutable std::optional<Size> cachedMinimum_;
     Panel* parent_ = nullptr;
     Control* container_ = nullptr;
-    WindowHost* window_ = nullptr;
+    ControlHost* window_ = nullptr;
 };
 
 // Gives every control of a tree its record. One that is made of others gives them their looks after they have

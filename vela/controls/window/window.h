@@ -4,7 +4,7 @@
 #pragma once
 
 #include "vela/controls/tree/command_handlers.h"
-#include "vela/controls/tree/window_host.h"
+#include "vela/controls/tree/control_host.h"
 #include "vela/controls/window/window_state.h"
 
 #include <cstdint>
@@ -22,7 +22,7 @@ struct WindowStyle {
 // The panel that a window's ground is, for skins whose panels have a shape that no window could have.
 inline constexpr std::wstring_view kWindowVariant = L"window";
 
-class Window : public WindowHost {
+class Window : public ControlHost {
 public:
     using MessageHook = WindowState::MessageHook;
     using StyleSource = WindowState::StyleSource;

@@ -16,12 +16,12 @@ struct CommandEvent;
 // out to its user will be told of each in its own way.
 enum class InvalidationReason : std::uint8_t { State = 8, Geometry = 16 };
 
-class WindowHost {
+class ControlHost {
 public:
-    WindowHost() = default;
-    WindowHost(const WindowHost&) = delete;
-    WindowHost& operator=(const WindowHost&) = delete;
-    virtual ~WindowHost() = default;
+    ControlHost() = default;
+    ControlHost(const ControlHost&) = delete;
+    ControlHost& operator=(const ControlHost&) = delete;
+    virtual ~ControlHost() = default;
 
     // False once the window is gone: then nothing is invalidated any more.
     virtual bool isAlive() const = 0;
