@@ -89,7 +89,7 @@ public:
     virtual bool showsTextCursor() const { return false; }
     // Where the next character will stand, in local pixels; none when the control takes no text.
     virtual std::optional<Rect> caretRect() const { return std::nullopt; }
-    // What the control's outline and ground are painted with at the moment; null when it has none.
+    // What the control's outline and background are painted with at present; null when it has none.
     virtual const SurfaceStyle* paintedSurface() const { return nullptr; }
     // The control that Enter or Escape activates when nothing that has the focus takes the key; null for
     // none.

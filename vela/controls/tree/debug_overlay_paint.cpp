@@ -17,23 +17,23 @@ constexpr Color kBounds = hexColor(0xFF00FF);
 constexpr Color kHot = hexColor(0xFFE000);
 constexpr Color kContent = hexColor(0x00E5FF);
 constexpr Color kContour = hexColor(0x40FF40);
-constexpr Color kInk = hexColor(0xFFFFFF);
-constexpr Color kGround = hexColor(0x000000);
+constexpr Color kText = hexColor(0xFFFFFF);
+constexpr Color kBackground = hexColor(0x000000);
 
 const FontSpec& overlayFont()
 {
-    static const FontSpec font{L"Consolas", 8, 400, kInk, kInk};
+    static const FontSpec font{L"Consolas", 8, 400, kText, kText};
     return font;
 }
 
 // A text on a plate, cut where its room ends; a negative room is as much as the text needs.
-void paintTag(HDC dc, Point at, std::wstring_view text, std::int32_t dpi, Color ink, std::int32_t room = -1)
+void paintTag(HDC dc, Point at, std::wstring_view text, std::int32_t dpi, Color color, std::int32_t room = -1)
 {
     FontSpec font = overlayFont();
-    font.color = ink;
+    font.color = color;
     const std::int32_t whole = measureTextWidth(text, font, dpi) + 4;
     const Rect tag{at.x, at.y, room < 0 ? whole : std::min(whole, room), lineHeight(font, dpi)};
-    fillShape(dc, tag, ShapeKind::Rect, kGround);
+    fillShape(dc, tag, ShapeKind::Rect, kBackground);
     drawText(dc, {tag.x + 2, tag.y, std::max(tag.width - 2, 0), tag.height}, text, font, dpi);
 }
 
@@ -115,7 +115,7 @@ struct OverlayPainter {
             tag += L' ';
         tag += description;
         if (!tag.empty())
-            paintTag(dc, {rect.x, rect.y}, tag, dpi, &control == hot ? kHot : kInk, room);
+            paintTag(dc, {rect.x, rect.y}, tag, dpi, &control == hot ? kHot : kText, room);
     }
 };
 
@@ -131,8 +131,8 @@ void paintDebugOverlay(HDC dc, const Control& root, const DebugOverlay& overlay,
     const std::int32_t line = lineHeight(overlayFont(), dpi);
     paintTag(dc, {0, 0},
              debugHeader(overlay, cursor, hot ? std::wstring_view(hot->id()) : std::wstring_view()), dpi,
-             kInk);
-    paintTag(dc, {0, line}, kDebugKeyHelp, dpi, kInk);
+             kText);
+    paintTag(dc, {0, line}, kDebugKeyHelp, dpi, kText);
 }
 
 } // namespace vela

@@ -73,7 +73,7 @@ ChromeTitleBar::ChromeTitleBar(std::wstring id, Rect bounds, std::wstring title,
         made->setVisible(i == static_cast<int>(CaptionButton::Close));
         addChild(*made);
     }
-    placeChildren();
+    layoutChildren();
 }
 
 ChromeTitleBar::~ChromeTitleBar() = default;
@@ -82,7 +82,7 @@ bool ChromeTitleBar::applyStyle(const StyleSheet& styles)
 {
     designStyle_ = styles.find<ChromeTitleBarStyle>(styleKey());
     style_ = scaledToDpi(designStyle_, dpi());
-    placeChildren();
+    layoutChildren();
     invalidate(InvalidationReason::State);
     return true;
 }
@@ -116,7 +116,7 @@ void ChromeTitleBar::showButton(CaptionButton which, bool shown)
 {
     button(which).setVisible(shown);
     showMaximisedState();
-    placeChildren();
+    layoutChildren();
 }
 
 ThemedButton& ChromeTitleBar::addHeaderAction(std::int32_t number, std::wstring caption)
@@ -127,21 +127,21 @@ ThemedButton& ChromeTitleBar::addHeaderAction(std::int32_t number, std::wstring 
     made->setAction(L"header-action-" + digits);
     made->setStyle(designStyle_.titleButton);
     addChild(*made);
-    placeChildren();
+    layoutChildren();
     return *made;
 }
 
 // From the right edge inwards: caption buttons, a gap between the groups, header actions.
-void ChromeTitleBar::placeChildren()
+void ChromeTitleBar::layoutChildren()
 {
     dragArea_.setBounds(localBounds());
     const Rect room = surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::childLayoutInsets, dpi());
     const Size size{style_.buttonWidth, std::min(style_.buttonHeight, room.height)};
     std::int32_t right = room.x + room.width - style_.rightMargin;
-    const auto place = [&](ThemedButton& placed, std::int32_t width, std::int32_t gap) {
-        if (!placed.isVisible())
+    const auto place = [&](ThemedButton& each, std::int32_t width, std::int32_t gap) {
+        if (!each.isVisible())
             return;
-        placed.setBounds({right - width, room.y + style_.buttonTop, width, size.height});
+        each.setBounds({right - width, room.y + style_.buttonTop, width, size.height});
         right -= width + gap;
     };
     for (auto caption = captions_.rbegin(); caption != captions_.rend(); ++caption)

@@ -31,7 +31,7 @@ public:
     void paint(HDC dc, Point origin) override;
     bool mouseSecondary(const MouseEvent& event) override;
     bool containsLocal(Point point) const override;
-    void onBoundsChanged() override { placeChildren(); }
+    void onBoundsChanged() override { layoutChildren(); }
     // The window may have been maximised or restored.
     void onContentRefresh() override { showMaximisedState(); }
     AccessibleInfo accessibleInfo() const override;
@@ -49,7 +49,7 @@ public:
     ThemedButton& addHeaderAction(std::int32_t number, std::wstring caption);
 
 private:
-    void placeChildren();
+    void layoutChildren();
     void showMaximisedState();
     Rect titleRect() const noexcept;
 

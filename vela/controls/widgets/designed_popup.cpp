@@ -57,7 +57,7 @@ DesignedPopup::DesignedPopup(std::wstring id, Rect bounds)
     header_.setSender(this->id(), title_);
     addChild(header_);
     addChild(*close_);
-    placeChildren();
+    layoutChildren();
 }
 
 DesignedPopup::~DesignedPopup() = default;
@@ -69,7 +69,7 @@ bool DesignedPopup::applyStyle(const StyleSheet& styles)
     shadow_ = style_.showShadow ? CastShadow(style_.surface, style_.surface.shadow,
                                              {style_.shadowOffsetX, style_.shadowOffsetY})
                                 : CastShadow();
-    placeChildren();
+    layoutChildren();
     invalidate(InvalidationReason::State);
     return true;
 }
@@ -77,7 +77,7 @@ bool DesignedPopup::applyStyle(const StyleSheet& styles)
 void DesignedPopup::onStyleApplied()
 {
     styleButtons();
-    placeChildren();
+    layoutChildren();
 }
 
 void DesignedPopup::styleButtons()
@@ -125,7 +125,7 @@ void DesignedPopup::setActions(std::vector<PopupAction> actions)
         addChild(*buttons_.back());
     }
     styleButtons();
-    placeChildren();
+    layoutChildren();
 }
 
 void DesignedPopup::setClosable(bool closable) { close_->setVisible(closable); }
@@ -133,7 +133,7 @@ void DesignedPopup::setClosable(bool closable) { close_->setVisible(closable); }
 void DesignedPopup::setContentColumn(std::int32_t left, std::int32_t right)
 {
     column_ = {left, right};
-    placeChildren();
+    layoutChildren();
     invalidate(InvalidationReason::State);
 }
 
@@ -165,7 +165,7 @@ void DesignedPopup::setOpen(bool open)
 }
 
 // A caption that is wider than the style's button gets the room it needs.
-void DesignedPopup::placeChildren()
+void DesignedPopup::layoutChildren()
 {
     header_.setBounds({0, 0, std::max(bounds().width, 0), style_.headerHeight});
     const Size close{scaled(kCloseButton.width), scaled(kCloseButton.height)};
@@ -229,7 +229,8 @@ Rect DesignedPopup::headerRect() const noexcept
 
 Rect DesignedPopup::messageRect() const noexcept
 {
-    // A header that is seen as a band ends where it ends; one without a ground of its own already keeps away.
+    // A header that is seen as a band ends where it ends; one without a background of its own already keeps
+    // away.
     const bool band = style_.header.drawFill || style_.header.drawBorder;
     const std::int32_t top = style_.headerHeight + (band ? scaled(kBandGap) : 0);
     return insetBy({contentLeft(), top, contentRight() - contentLeft(),
@@ -243,14 +244,14 @@ std::int32_t DesignedPopup::footerHeight() const noexcept
     return buttons_.empty() ? 0 : style_.actionHeight + 2 * style_.paddingY + row.top + row.bottom;
 }
 
-void DesignedPopup::paintGround(HDC dc, const Rect& box) const
+void DesignedPopup::paintBackground(HDC dc, const Rect& box) const
 {
-    SurfaceStyle ground = style_.surface;
+    SurfaceStyle background = style_.surface;
     if (!framed_) {
-        ground.shape = ShapeKind::Rect;
-        ground.drawBorder = ground.showOutline = ground.showShadow = ground.showGlow = false;
+        background.shape = ShapeKind::Rect;
+        background.drawBorder = background.showOutline = background.showShadow = background.showGlow = false;
     }
-    paintControlSurface(dc, box, ground);
+    paintControlSurface(dc, box, background);
     paintSurface(dc, movedBy(headerRect(), {box.x, box.y}), style_.header);
     const std::int32_t footer = footerHeight();
     // The strip would fill the round or cut corners of a frame.
@@ -281,7 +282,7 @@ void DesignedPopup::paint(HDC dc, Point origin)
     const Point at{box.x, box.y};
     if (framed_)
         shadow_.paint(dc, *this, box);
-    paintGround(dc, box);
+    paintBackground(dc, box);
     if (!glyph_.empty())
         paintIcon(dc, at);
     const Rect header = headerRoom();

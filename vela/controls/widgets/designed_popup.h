@@ -35,7 +35,7 @@ public:
     void setHot(bool) override {} // its buttons are hot, never itself
     // Arrow keys go along the actions; Ctrl+C copies title, message and actions as text.
     bool keyPressed(const KeyEvent& event) override;
-    void onBoundsChanged() override { placeChildren(); }
+    void onBoundsChanged() override { layoutChildren(); }
     AccessibleInfo accessibleInfo() const override;
     const SurfaceStyle* paintedSurface() const override { return &style_.surface; }
     Control* dialogControl(DialogRole role) const override;
@@ -53,8 +53,8 @@ public:
     // for popups on which other controls stand in the same column. The icon takes the middle of the room
     // before it. Without it all of them keep the style's padding, and the icon stands before the title.
     void setContentColumn(std::int32_t left, std::int32_t right);
-    // A popup that is the ground of its window has neither corners nor a border of its own: the window has
-    // them.
+    // A popup that is the background of its window has neither corners nor a border of its own: the window
+    // has them.
     void setFramed(bool framed);
     // By how many 96-DPI pixels the popup must grow for its whole message to be seen at every usual scale, 0
     // when it is: letters do not grow evenly, and a line more at one scale is a line cut.
@@ -71,13 +71,13 @@ private:
         std::int32_t right;
     };
 
-    void placeChildren();
+    void layoutChildren();
     void styleButtons();
     void setPart(std::wstring& part, std::wstring text);
     std::int32_t contentLeft() const noexcept;
     std::int32_t contentRight() const noexcept;
     std::int32_t footerHeight() const noexcept;
-    void paintGround(HDC dc, const Rect& box) const;
+    void paintBackground(HDC dc, const Rect& box) const;
     void paintIcon(HDC dc, Point at) const;
     std::wstring copiedText() const;
     bool moveAlongActions(const KeyEvent& event);

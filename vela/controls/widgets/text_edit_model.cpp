@@ -45,7 +45,7 @@ void TextEditModel::setText(std::wstring_view text)
     text_ = joinedToOneLine(text);
     history_.clear();
     applied_ = 0;
-    place(text_.size(), text_.size());
+    select(text_.size(), text_.size());
 }
 
 void TextEditModel::setCaret(std::int64_t index) noexcept
@@ -82,15 +82,15 @@ void TextEditModel::moveCaret(CaretMove move, bool extendSelection) noexcept
 void TextEditModel::moveCaretTo(std::size_t index, bool extendSelection) noexcept
 {
     const std::size_t caret = nearestCaretStop(text_, index);
-    place(caret, extendSelection ? anchor_ : caret);
+    select(caret, extendSelection ? anchor_ : caret);
 }
 
-void TextEditModel::selectAll() noexcept { place(text_.size(), 0); }
+void TextEditModel::selectAll() noexcept { select(text_.size(), 0); }
 
 void TextEditModel::selectWordAt(std::size_t index) noexcept
 {
     const auto [first, last] = wordAround(text_, index);
-    place(last, first);
+    select(last, first);
 }
 
 void TextEditModel::extendByWords(std::size_t origin, std::size_t index) noexcept
@@ -98,12 +98,12 @@ void TextEditModel::extendByWords(std::size_t origin, std::size_t index) noexcep
     const auto from = wordAround(text_, origin);
     const auto to = wordAround(text_, index);
     if (index < from.first)
-        place(to.first, from.second);
+        select(to.first, from.second);
     else
-        place(std::max(to.second, from.second), from.first);
+        select(std::max(to.second, from.second), from.first);
 }
 
-void TextEditModel::place(std::size_t caret, std::size_t anchor) noexcept
+void TextEditModel::select(std::size_t caret, std::size_t anchor) noexcept
 {
     caret_ = caret;
     anchor_ = anchor;
@@ -150,7 +150,7 @@ bool TextEditModel::replace(std::size_t first, std::size_t last, std::wstring_vi
     // Where the inserted text ends with half a cluster of what follows it, the caret steps behind the whole.
     const std::size_t end = first + with.size();
     const std::size_t stop = nearestCaretStop(text_, end) == end ? end : nextCaretStop(text_, end);
-    place(stop, stop);
+    select(stop, stop);
     runBroken_ = false;
     if (joins) {
         Edit& run = history_[applied_ - 1];
@@ -194,7 +194,7 @@ bool TextEditModel::undo()
         return false;
     const Edit& edit = history_[--applied_];
     text_.replace(edit.position, edit.inserted.size(), edit.removed);
-    place(edit.caretBefore, edit.anchorBefore);
+    select(edit.caretBefore, edit.anchorBefore);
     return true;
 }
 
@@ -205,7 +205,7 @@ bool TextEditModel::redo()
     const Edit& edit = history_[applied_++];
     text_.replace(edit.position, edit.removed.size(), edit.inserted);
     const std::size_t end = nearestCaretStop(text_, edit.position + edit.inserted.size());
-    place(end, end);
+    select(end, end);
     return true;
 }
 

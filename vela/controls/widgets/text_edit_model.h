@@ -71,7 +71,7 @@ private:
     bool joinsPrevious(const Edit& edit) const noexcept;
     void remember(Edit edit);
     std::size_t target(CaretMove move) const noexcept;
-    void place(std::size_t caret, std::size_t anchor) noexcept;
+    void select(std::size_t caret, std::size_t anchor) noexcept;
 
     std::wstring text_;
     std::size_t caret_ = 0;

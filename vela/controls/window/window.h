@@ -19,7 +19,7 @@ struct WindowStyle {
     std::uint32_t extended = 0; // WS_EX_
 };
 
-// The panel that a window's ground is, for skins whose panels have a shape that no window could have.
+// The panel that a window's background is, for skins whose panels have a shape that no window could have.
 inline constexpr std::wstring_view kWindowVariant = L"window";
 
 class Window : public ControlHost {
@@ -59,7 +59,7 @@ public:
     bool isInSizeMove() const noexcept { return state_.inSizeMove; }
     const DebugOverlay& debugOverlay() const noexcept { return state_.debugOverlay; }
 
-    // Gives every control of the tree its record at the window's DPI, and the root the panel surface; kept
+    // Gives every control of the tree its record at the window's DPI, and the root the panel surface; held
     // for a later change of DPI. Controls added afterwards need another call.
     void applyStyles(std::shared_ptr<const StyleSheet> styles);
     // Asked at once, and again when the user switches between light and dark or to high contrast.

@@ -140,8 +140,8 @@ void Window::Native::applyShape()
         return;
     HRGN region = nullptr;
     if (state_.styles && !state_.maximised) {
-        const auto& ground = state_.styles->find<PanelStyle>(state_.root.styleKey());
-        region = createShapeRegion(scaledToDpi(ground.surface, state_.dpi), state_.lastClientSize);
+        const auto& background = state_.styles->find<PanelStyle>(state_.root.styleKey());
+        region = createShapeRegion(scaledToDpi(background.surface, state_.dpi), state_.lastClientSize);
     }
     const DWORD corners = region ? kCornersSquare : state_.customFrame ? kCornersRound : kCornersAsUsual;
     setCompositorAttribute(state_.handle, kCornerPreference, corners);

@@ -118,8 +118,8 @@ void Window::applyStyles(std::shared_ptr<const StyleSheet> styles)
         return;
     state_.styles = std::move(styles);
     native_->invalidateAll();
-    const PanelStyle& ground = state_.styles->find<PanelStyle>(state_.root.styleKey());
-    state_.root.setSurface(scaledToDpi(ground.surface, state_.dpi));
+    const PanelStyle& background = state_.styles->find<PanelStyle>(state_.root.styleKey());
+    state_.root.setSurface(scaledToDpi(background.surface, state_.dpi));
     styleTree(state_.root, *state_.styles);
     native_->applyShape();
 }
