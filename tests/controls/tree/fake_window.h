@@ -36,10 +36,12 @@ public:
     void focusControl(Control* control) override { focused = control; }
     bool showsFocus() const override { return true; }
     void controlDetached(Control& control) override { detached.push_back(control.id()); }
+    bool isMaximised() const override { return maximised; }
     bool diagnosticsEnabled() const override { return diagnostics; }
     void writeDiagnostic(std::wstring_view line) override { lines.emplace_back(line); }
 
     bool alive = true;
+    bool maximised = false;
     bool diagnostics = false;
     bool handlesCommands = false;
     Control* captured = nullptr;

@@ -1,5 +1,4 @@
 // What a window tells the desktop, and how it shrinks to fit one.
-#include "vela/controls/window/taskbar_list_win32.h"
 #include "vela/controls/window/tooltip_window_win32.h"
 #include "vela/controls/window/window.h"
 
@@ -135,14 +134,6 @@ TEST_F(WindowDesktopTest, AWindowBelowItsMinimumGrowsWithTheWorkArea)
     ASSERT_EQ(screenRect().width, 200);
     send(WM_SETTINGCHANGE, SPI_SETWORKAREA, 0);
     EXPECT_EQ(sizeOf(screenRect()), (Size{250, 120}));
-}
-
-// The real thing, where there may or may not be a taskbar: it must at least come and go.
-TEST(TaskbarListTest, IsHarmlessForAWindowWithoutAButton)
-{
-    TaskbarList list;
-    list.show(nullptr, {TaskbarProgress::Running, 50});
-    list.show(nullptr, {TaskbarProgress::None, 0});
 }
 
 } // namespace

@@ -1,8 +1,7 @@
 #include "vela/controls/widgets/designed_popup.h"
 
-#include "tests/controls/tree/fake_window.h"
+#include "tests/controls/widgets/widget_testing.h"
 #include "tests/support/painted.h"
-#include "vela/controls/tree/accessible_tree.h"
 #include "vela/controls/widgets/chrome_title_bar.h"
 #include "vela/theme/records/style_sheet.h"
 
@@ -12,94 +11,15 @@
 namespace vela {
 namespace {
 
-class TitledWindow : public FakeWindow {
-public:
-    using FakeWindow::FakeWindow;
-    bool isMaximised() const override { return maximised; }
-    bool maximised = false;
-};
-
-class ChromeTest : public ::testing::Test {
+class DesignedPopupTest : public WidgetTest {
 protected:
-    void pressAt(Point at, std::int32_t clicks = 1)
-    {
-        MouseEvent event;
-        event.position = at;
-        event.clicks = clicks;
-        window.root.mouseButton(event);
-        event.action = MouseAction::Release;
-        window.root.mouseButton(event);
-    }
+    DesignedPopupTest() : WidgetTest({690, 420}) {}
     std::wstring lastAction() const { return window.commands.empty() ? L"" : window.commands.back().action; }
 
-    TitledWindow window{{690, 420}};
     StyleSheet styles;
 };
 
-TEST_F(ChromeTest, CaptionButtonsStandAtTheRightEdgeInTheirOrder)
-{
-    auto& bar = window.root.addControl(
-        std::make_unique<ChromeTitleBar>(L"chrome", Rect{0, 0, 690, 40}, L"Tamber Setup", Theme()));
-    bar.setAnchors(Anchors::Left | Anchors::Top | Anchors::Right);
-    for (const CaptionButton which :
-         {CaptionButton::ResetSize, CaptionButton::Minimize, CaptionButton::Maximize})
-        bar.showButton(which, true);
-    bar.applyStyle(styles);
-    ThemedButton& action = bar.addHeaderAction(3, L"?");
-    const struct {
-        const wchar_t* id;
-        Rect bounds;
-    } rows[] = {{L"chrome-close", {644, 0, 46, 32}},
-                {L"chrome-maximize", {598, 0, 46, 32}},
-                {L"chrome-minimize", {552, 0, 46, 32}},
-                {L"chrome-reset-size", {506, 0, 46, 32}},
-                {L"chrome-header-action-3", {448, 0, 46, 32}}};
-    for (const auto& row : rows)
-        EXPECT_EQ(findControl(window.root, row.id)->bounds(), row.bounds) << row.id;
-    EXPECT_FALSE(action.acceptsFocus());
-
-    bar.showButton(CaptionButton::Minimize, false);
-    EXPECT_EQ(findControl(window.root, L"chrome-reset-size")->bounds().x, 552);
-    window.root.setBounds({0, 0, 800, 420});
-    EXPECT_EQ(findControl(window.root, L"chrome-close")->bounds().x, 754);
-}
-
-TEST_F(ChromeTest, TheTitleBarReportsWhatIsAskedOfTheWindow)
-{
-    auto& bar = window.root.addControl(
-        std::make_unique<ChromeTitleBar>(L"chrome", Rect{0, 0, 690, 40}, L"Tamber Setup", Theme()));
-    bar.addHeaderAction(3, L"?");
-    pressAt({660, 10});
-    EXPECT_EQ(lastAction(), L"close");
-    pressAt({590, 10});
-    EXPECT_EQ(lastAction(), L"header-action-3");
-    pressAt({200, 10});
-    EXPECT_EQ(lastAction(), L"drag");
-    EXPECT_EQ(window.commands.back().controlId, L"chrome-drag");
-    pressAt({200, 10}, 2);
-    EXPECT_EQ(lastAction(), L"drag"); // nothing to maximise here
-
-    bar.showButton(CaptionButton::Maximize, true);
-    pressAt({200, 10}, 2);
-    EXPECT_EQ(lastAction(), L"maximize");
-    window.maximised = true;
-    window.root.setBounds({0, 0, 1000, 700});
-    bar.setBounds({0, 0, 1000, 40});
-    pressAt({200, 10}, 2);
-    EXPECT_EQ(lastAction(), L"restore");
-    pressAt({940, 10});
-    EXPECT_EQ(lastAction(), L"restore");
-    window.maximised = false;
-    window.root.setBounds({0, 0, 690, 420});
-    pressAt({200, 10}, 2);
-    EXPECT_EQ(lastAction(), L"maximize");
-
-    EXPECT_EQ(bar.dialogControl(DialogRole::Cancel), &bar.button(CaptionButton::Close));
-    bar.button(CaptionButton::Close).setEnabled(false);
-    EXPECT_EQ(bar.dialogControl(DialogRole::Cancel), nullptr);
-}
-
-TEST_F(ChromeTest, APopupsActionsEndAtTheRightInTheOrderGiven)
+TEST_F(DesignedPopupTest, APopupsActionsEndAtTheRightInTheOrderGiven)
 {
     auto& popup =
         window.root.addControl(std::make_unique<DesignedPopup>(L"setup.popup", Rect{0, 40, 690, 380}));
@@ -108,9 +28,9 @@ TEST_F(ChromeTest, APopupsActionsEndAtTheRightInTheOrderGiven)
     popup.onStyleApplied();
     EXPECT_EQ(popup.actionButton(0).bounds(), (Rect{690 - 24 - 128 - 10 - 128, 380 - 20 - 34, 128, 34}));
     EXPECT_EQ(popup.actionButton(1).bounds(), (Rect{690 - 24 - 128, 380 - 20 - 34, 128, 34}));
-    pressAt({450, 380});
+    click({450, 380});
     EXPECT_EQ(lastAction(), L"install");
-    pressAt({600, 380});
+    click({600, 380});
     EXPECT_EQ(lastAction(), L"setup.popup.action.1");
     EXPECT_EQ(popup.dialogControl(DialogRole::Primary), &popup.actionButton(0));
     popup.setActions({{L"Ponechat vse tak, jak to je", L"a"}, {L"B", L"b", true}});
@@ -123,16 +43,16 @@ TEST_F(ChromeTest, APopupsActionsEndAtTheRightInTheOrderGiven)
     EXPECT_EQ(popup.dialogControl(DialogRole::Primary), nullptr);
 }
 
-TEST_F(ChromeTest, APopupIsDraggedAndClosed)
+TEST_F(DesignedPopupTest, APopupIsDraggedAndClosed)
 {
     auto& popup =
         window.root.addControl(std::make_unique<DesignedPopup>(L"setup.popup", Rect{0, 40, 690, 380}));
     popup.setTitle(L"Instalace Tambere");
-    pressAt({100, 60});
+    click({100, 60});
     EXPECT_EQ(lastAction(), L"drag");
     EXPECT_EQ(window.commands.back().controlId, L"setup.popup");
     EXPECT_EQ(window.commands.back().text, L"Instalace Tambere");
-    pressAt({100, 200});
+    click({100, 200});
     EXPECT_EQ(window.commands.size(), 1u);
 
     window.handlesCommands = true;
@@ -146,43 +66,7 @@ TEST_F(ChromeTest, APopupIsDraggedAndClosed)
     EXPECT_EQ(popup.dialogControl(DialogRole::Cancel), nullptr);
 }
 
-TEST_F(ChromeTest, ADialogIsToldAsATreeOfWhatIsShown)
-{
-    window.root.addControl(
-        std::make_unique<ChromeTitleBar>(L"chrome", Rect{0, 0, 690, 40}, L"Tamber Setup", Theme()));
-    auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 40, 690, 380}));
-    popup.setTitle(L"Nainstalovano");
-    popup.setMessage(L"Tamber je pripraven.");
-    popup.setActions({{L"Zavrit", L"", true}});
-    window.root.addControl(std::make_unique<ThemedButton>(L"hidden", Rect{0, 0, 9, 9}, L"X"))
-        .setVisible(false);
-    auto& group = window.root.addControl(std::make_unique<Panel>(L"group", Rect{0, 0, 50, 50}));
-    group.addControl(std::make_unique<ThemedButton>(L"inner", Rect{0, 0, 9, 9}, L"Uvnitr"));
-
-    struct Told {
-        AccessibleRole role;
-        std::wstring name;
-        std::size_t children;
-        bool operator==(const Told&) const = default;
-    };
-    std::vector<Told> told;
-    const auto tell = [&told](const auto& self, const AccessibleNode& node) -> void {
-        told.push_back({node.info.role, node.info.name, node.children.size()});
-        for (const AccessibleNode& child : node.children)
-            self(self, child);
-    };
-    tell(tell, accessibleTree(window.root));
-    const std::vector<Told> expected{{AccessibleRole::Pane, L"", 3},
-                                     {AccessibleRole::TitleBar, L"Tamber Setup", 1},
-                                     {AccessibleRole::PushButton, L"Zavrit", 0},
-                                     {AccessibleRole::Dialog, L"Nainstalovano", 2},
-                                     {AccessibleRole::PushButton, L"Zavrit", 0},
-                                     {AccessibleRole::PushButton, L"Zavrit", 0},
-                                     {AccessibleRole::PushButton, L"Uvnitr", 0}};
-    EXPECT_EQ(told, expected);
-}
-
-TEST_F(ChromeTest, ArrowKeysGoAlongThePopupsButtons)
+TEST_F(DesignedPopupTest, ArrowKeysGoAlongThePopupsButtons)
 {
     auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 0, 690, 380}));
     popup.setActions({{L"A", L"a"}, {L"B", L"b"}, {L"C", L"c"}});
@@ -205,7 +89,7 @@ Rect rectOf(const std::vector<TextCall>& texts, std::wstring_view text)
     return found == texts.end() ? Rect{} : found->rect;
 }
 
-TEST_F(ChromeTest, APopupPaintsItsPartsInsideItself)
+TEST_F(DesignedPopupTest, APopupPaintsItsPartsInsideItself)
 {
     auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 40, 690, 380}));
     popup.setTitle(L"Titul");
@@ -226,7 +110,7 @@ TEST_F(ChromeTest, APopupPaintsItsPartsInsideItself)
     }
 }
 
-TEST_F(ChromeTest, BitmapInsetsMoveWhatStandsOnASurface)
+TEST_F(DesignedPopupTest, BitmapInsetsMoveWhatStandsOnASurface)
 {
     SurfaceGeometry& popupInsets = styles.table<PopupStyle>().defaultRecord().surface.geometry.ensure();
     popupInsets.safeInsets = {10, 20, 30, 40};
@@ -261,7 +145,7 @@ TEST_F(ChromeTest, BitmapInsetsMoveWhatStandsOnASurface)
               (Rect{caption.x + 9, caption.y, caption.width - 9 - 6, caption.height}));
 }
 
-TEST_F(ChromeTest, APopupCastsItsShadowOnlyOnGroundThatIsSeen)
+TEST_F(DesignedPopupTest, APopupCastsItsShadowOnlyOnGroundThatIsSeen)
 {
     PopupStyle& style = styles.table<PopupStyle>().defaultRecord();
     style.shadowOffsetX = 3;

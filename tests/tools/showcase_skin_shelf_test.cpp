@@ -1,6 +1,3 @@
-#include "tools/showcase/arguments.h"
-#include "tools/showcase/commands.h"
-#include "tools/showcase/file_watch.h"
 #include "tools/showcase/skin_shelf.h"
 
 #include "vela/theme/skins/skin_catalog.h"
@@ -12,8 +9,6 @@ namespace {
 
 using vela::SkinDefinition;
 
-std::optional<Arguments> parsed(std::vector<std::wstring_view> words) { return parseArguments(words); }
-
 SkinDefinition named(std::wstring id)
 {
     SkinDefinition skin;
@@ -24,41 +19,6 @@ SkinDefinition named(std::wstring id)
 std::string fileWith(std::string_view shell)
 {
     return R"({"id": "harbour", "theme": {"shell": ")" + std::string(shell) + "\"}}";
-}
-
-TEST(ShowcaseArgumentsTest, WordsAreToldByTheirForm)
-{
-    EXPECT_EQ(parsed({}), Arguments());
-    const Arguments all{L"classic", L"a b/Harbour.JSON", 144};
-    EXPECT_EQ(parsed({L"classic", L"a b/Harbour.JSON", L"144"}), all);
-    EXPECT_EQ(parsed({L"144", L"a b/Harbour.JSON", L"classic"}), all);
-    EXPECT_EQ(parsed({L"win11-light"})->skinId, L"win11-light");
-}
-
-TEST(ShowcaseArgumentsTest, WhatSaysNothingIsRefused)
-{
-    const std::vector<std::wstring_view> refused[] = {
-        {L"--help"},      {L""},           {L"12"},          {L"9999"},
-        {L"99999999999"}, {L"96", L"144"}, {L"one", L"two"}, {L"a.json", L"b.json"}};
-    for (const auto& words : refused)
-        EXPECT_FALSE(parsed(words)) << words.front().size();
-}
-
-TEST(ShowcaseFileWatchTest, AFileIsReadOnceItHasChangedAndRested)
-{
-    FileWatch watch;
-    const FileStamp first{true, 100, 10};
-    watch.markRead(first);
-    EXPECT_FALSE(watch.tick(first));
-    EXPECT_FALSE(watch.tick(first));
-    EXPECT_FALSE(watch.tick({true, 101, 0})) << "its writer has just emptied it";
-    EXPECT_FALSE(watch.tick({true, 102, 12}));
-    EXPECT_TRUE(watch.tick({true, 102, 12}));
-    EXPECT_TRUE(watch.tick({true, 102, 12})) << "it could not be read and is tried again";
-    watch.markRead({true, 102, 12});
-    EXPECT_FALSE(watch.tick({true, 102, 12}));
-    EXPECT_FALSE(watch.tick({})) << "gone, perhaps to be renamed";
-    EXPECT_TRUE(watch.tick({}));
 }
 
 TEST(ShowcaseSkinShelfTest, TheLastGoodLookStaysWhileTheFileIsWrong)
@@ -136,26 +96,6 @@ TEST(ShowcaseSkinShelfTest, TheFilesSkinsComeFirstAndWinOverTheCatalogues)
     shelf.step(1);
     shelf.step(-1);
     EXPECT_EQ(shelf.skin().id, L"classic");
-}
-
-TEST(ShowcaseCommandsTest, KeysReachTheirCommandsUnlessAFieldNeedsThem)
-{
-    const vela::KeyEvent right{vela::kKeyRight, {}};
-    EXPECT_EQ(commandFor(right, false), Command::NextSkin);
-    EXPECT_EQ(commandFor(right, true), std::nullopt);
-    EXPECT_EQ(commandFor({vela::kKeyTab, {.control = true, .shift = true, .alt = false}}, true),
-              Command::PreviousSkin);
-    EXPECT_EQ(commandFor({vela::kKeyTab, {}}, false), std::nullopt) << "Tab moves the focus";
-    EXPECT_EQ(commandFor({vela::kKeyF12, {}}, false), std::nullopt) << "F12 is the overlay's";
-}
-
-TEST(ShowcaseCommandsTest, StepsGoThroughTheScalesOfWindowsAndStopAtTheEnds)
-{
-    EXPECT_EQ(steppedDpi(96, true), 120);
-    EXPECT_EQ(steppedDpi(100, true), 120);
-    EXPECT_EQ(steppedDpi(100, false), 96);
-    EXPECT_EQ(steppedDpi(96, false), 96);
-    EXPECT_EQ(steppedDpi(480, true), 480);
 }
 
 } // namespace
