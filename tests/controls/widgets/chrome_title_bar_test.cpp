@@ -79,5 +79,22 @@ TEST_F(ChromeTitleBarTest, TheTitleBarReportsWhatIsAskedOfTheWindow)
     EXPECT_EQ(bar.dialogControl(DialogRole::Cancel), nullptr);
 }
 
+TEST_F(ChromeTitleBarTest, ButtonsSayWhatTheyDoInTheProgramsWords)
+{
+    auto& bar = window.root.addControl(
+        std::make_unique<ChromeTitleBar>(L"chrome", Rect{0, 0, 690, 40}, L"Tamber Setup", Theme()));
+    bar.showButton(CaptionButton::Maximize, true);
+    const std::pair<CaptionButton, std::wstring_view> rows[] = {
+        {CaptionButton::ResetSize, L"Puvodni velikost"},
+        {CaptionButton::Minimize, L"Minimalizovat"},
+        {CaptionButton::Maximize, L"Maximalizovat"},
+        {CaptionButton::Close, L"Zavrit"}};
+    for (const auto& [which, hint] : rows)
+        EXPECT_EQ(bar.button(which).hint(), hint);
+    window.maximised = true;
+    bar.onContentRefresh();
+    EXPECT_EQ(bar.button(CaptionButton::Maximize).hint(), L"Obnovit");
+}
+
 } // namespace
 } // namespace vela
