@@ -25,7 +25,7 @@ int runInteractiveFlow(SetupEffects& effects, SetupScreens& screens)
     const SetupActionResult result = screens.runWithProgress(texts->progressTitle, texts->progressBody, [&] {
         return uninstalls ? runUninstall(effects) : runInstall(effects, choice.install);
     });
-    effects.showNotice(resultNotice(result, texts->result));
+    screens.showNotice(resultNotice(result, texts->result));
     if (!result.success)
         return texts->failureExitCode;
     if (!uninstalls)

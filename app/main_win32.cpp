@@ -3,9 +3,9 @@
 #include "app/exit_code.h"
 #include "app/identity.h"
 #include "app/instance_guard_win32.h"
-#include "app/interactive_win32.h"
 #include "app/process_win32.h"
 #include "app/run_options.h"
+#include "app/screens_win32.h"
 #include "app/setup_effects_win32.h"
 #include "app/silent_modes.h"
 
@@ -25,16 +25,17 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int)
     const CommandLine commandLine = parseCommandLine(processArguments());
     const SetupInstanceGuard guard(kMutexName.data());
     WindowsEffects effects(instance);
+    WindowScreens screens(instance, effects);
     if (guard.alreadyRunning()) {
         if (!commandLine.quiet)
-            showAlreadyRunning(effects);
+            showAlreadyRunning(screens);
         return kExitSuccess;
     }
     const RunMode mode = runModeOf(commandLine);
     // Its user decides what the options would say, so the machine is not asked twice before the first window.
     if (mode == RunMode::Interactive)
-        return runInteractiveSetup(instance, effects);
+        return runInteractiveSetup(effects, screens);
     const RunOptions options = readRunOptions(commandLine, effects);
-    return mode == RunMode::Install ? runSilentInstall(effects, options)
-                                    : runSilentUninstall(effects, options.quiet);
+    return mode == RunMode::Install ? runSilentInstall(effects, screens, options)
+                                    : runSilentUninstall(effects, screens, options.quiet);
 }

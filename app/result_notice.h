@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/action_result.h"
-#include "app/setup_effects.h"
+#include "app/notice.h"
 
 namespace setup {
 

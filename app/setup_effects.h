@@ -94,12 +94,6 @@ struct ShellLink {
 
 using ProductVersion = std::array<std::uint16_t, 4>;
 
-struct Notice {
-    std::wstring_view title; // still to be completed by setupTitle
-    std::wstring body;
-    bool danger = false;
-};
-
 class SetupEffects {
 public:
     SetupEffects() = default;
@@ -115,7 +109,6 @@ public:
     virtual std::wstring environmentVariable(const wchar_t* name) = 0; // empty when unset
     virtual bool fileExists(const std::wstring& path) = 0;
     virtual void writeLogLine(const std::wstring& line) = 0;
-    virtual void showNotice(const Notice& notice) = 0; // returns when it is closed
 
     // The package and the Windows Installer.
     virtual RelatedProduct relatedProduct(std::uint32_t index) = 0;

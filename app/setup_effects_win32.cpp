@@ -1,7 +1,5 @@
 #include "app/setup_effects_win32.h"
 
-#include "app/dialogs/notice_dialog.h"
-#include "app/dialogs/setup_styles.h"
 #include "app/files_win32.h"
 #include "app/paths.h"
 #include "app/process_win32.h"
@@ -52,11 +50,6 @@ void WindowsEffects::writeLogLine(const std::wstring& line)
     const std::string bytes = utf8(timeStamp() + line + L"\r\n");
     DWORD written = 0;
     ::WriteFile(log_.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-}
-
-void WindowsEffects::showNotice(const Notice& notice)
-{
-    setup::showNotice({module_, setupStyles(*this)}, notice);
 }
 
 } // namespace setup

@@ -23,7 +23,6 @@ public:
     std::wstring environmentVariable(const wchar_t* name) override;
     bool fileExists(const std::wstring& path) override;
     void writeLogLine(const std::wstring& line) override;
-    void showNotice(const Notice& notice) override;
 
     RelatedProduct relatedProduct(std::uint32_t index) override;
     PackageOutcome extractPackage(const std::wstring& target) override;

@@ -15,32 +15,32 @@ constexpr ResultTexts kUninstallTexts{kUninstalledTitle, kUninstallFailedTitle, 
 
 } // namespace
 
-int runSilentInstall(SetupEffects& effects, const RunOptions& options)
+int runSilentInstall(SetupEffects& effects, NoticeScreen& screen, const RunOptions& options)
 {
     waitForProcessExit(effects, processIdFrom(options.waitPidText), kWaitPidMilliseconds);
     const SetupActionResult result = resultOf([&] { return runInstall(effects, options.install); });
     if (!options.quiet)
-        effects.showNotice(resultNotice(result, kInstallTexts));
+        screen.showNotice(resultNotice(result, kInstallTexts));
     if (!result.success)
         return kExitInstallFailed;
     const bool started = !options.restartApp || launchInstalledApp(effects, options.install.installDir);
     return started ? kExitSuccess : kExitAppNotStarted;
 }
 
-int runSilentUninstall(SetupEffects& effects, bool quiet)
+int runSilentUninstall(SetupEffects& effects, NoticeScreen& screen, bool quiet)
 {
     const SetupActionResult result = resultOf([&] { return runUninstall(effects); });
     if (!quiet)
-        effects.showNotice(resultNotice(result, kUninstallTexts));
+        screen.showNotice(resultNotice(result, kUninstallTexts));
     return result.success ? kExitSuccess : kExitUninstallFailed;
 }
 
-void showAlreadyRunning(SetupEffects& effects)
+void showAlreadyRunning(NoticeScreen& screen)
 {
-    effects.showNotice({L"Instalace uz bezi",
-                        L"Tamber Setup uz pracuje v jinem okne. Pockej prosim na dokonceni prvni instalace; "
-                        L"dalsi spusteni ted nic noveho nepusti.",
-                        false});
+    screen.showNotice({L"Instalace uz bezi",
+                       L"Tamber Setup uz pracuje v jinem okne. Pockej prosim na dokonceni prvni instalace; "
+                       L"dalsi spusteni ted nic noveho nepusti.",
+                       false});
 }
 
 } // namespace setup

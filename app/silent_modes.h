@@ -2,14 +2,15 @@
 // wants none, and an exit code.
 #pragma once
 
+#include "app/notice.h"
 #include "app/run_options.h"
 
 namespace setup {
 
-int runSilentInstall(SetupEffects& effects, const RunOptions& options);
-int runSilentUninstall(SetupEffects& effects, bool quiet);
+int runSilentInstall(SetupEffects& effects, NoticeScreen& screen, const RunOptions& options);
+int runSilentUninstall(SetupEffects& effects, NoticeScreen& screen, bool quiet);
 
 // Tells the user that another setup is at work.
-void showAlreadyRunning(SetupEffects& effects);
+void showAlreadyRunning(NoticeScreen& screen);
 
 } // namespace setup

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/dialogs/setup_dialog.h"
-#include "app/setup_effects.h"
+#include "app/notice.h"
 
 namespace setup {
 

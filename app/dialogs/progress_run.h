@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/dialogs/setup_dialog.h"
-#include "app/interactive_flow.h"
+#include "app/setup_screens.h"
 
 namespace setup {
 

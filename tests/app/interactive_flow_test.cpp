@@ -18,7 +18,7 @@ using ::testing::IsEmpty;
 // A user who has decided beforehand.
 class DecidedUser final : public SetupScreens {
 public:
-    explicit DecidedUser(SetupAction action) : action_(action) {}
+    DecidedUser(NoticeScreen& notices, SetupAction action) : notices_(notices), action_(action) {}
 
     SetupChoice showSetupChoice(const ChoiceState& state) override
     {
@@ -35,12 +35,14 @@ public:
         progress.emplace_back(body);
         return resultOf(task);
     }
+    void showNotice(const Notice& notice) override { notices_.showNotice(notice); }
 
     std::wstring folder = L"E:\\Tamber";
     ChoiceState seen;
     std::vector<std::wstring> progress;
 
 private:
+    NoticeScreen& notices_;
     SetupAction action_;
 };
 
@@ -115,7 +117,7 @@ TEST(InteractiveFlow, GoesFromTheChoiceToTheExitCode)
         effects.products = {L"{A}"};
         effects.failingCall = row.failingCall;
         effects.failure = 1603;
-        DecidedUser user(row.action);
+        DecidedUser user(effects, row.action);
         EXPECT_EQ(runInteractiveFlow(effects, user), row.exitCode);
         EXPECT_THAT(user.progress, ElementsAre(row.progressTitle, row.progressBody));
         ASSERT_EQ(effects.notices.size(), 1U);
@@ -132,7 +134,7 @@ TEST(InteractiveFlow, GoesFromTheChoiceToTheExitCode)
 TEST(InteractiveFlow, ClosingTheChoiceDoesNothing)
 {
     RecordingEffects effects;
-    DecidedUser user(SetupAction::Close);
+    DecidedUser user(effects, SetupAction::Close);
     EXPECT_EQ(runInteractiveFlow(effects, user), 0);
     EXPECT_THAT(user.progress, IsEmpty());
     EXPECT_THAT(effects.calls, IsEmpty());
@@ -156,7 +158,7 @@ TEST(InteractiveFlow, StartsFromTheMachineAsItIs)
         effects.files = row.files;
         if (row.installed)
             effects.products = {L"{A}"};
-        DecidedUser user(SetupAction::Close);
+        DecidedUser user(effects, SetupAction::Close);
         runInteractiveFlow(effects, user);
         EXPECT_EQ(user.seen.installed, row.installed);
         EXPECT_EQ(user.seen.choice.action, SetupAction::Close);

@@ -1,6 +1,8 @@
 // A machine that does nothing but write down what the setup asked of it, and that fails where it is told to.
+// Its screen belongs to it, so that a notice has its place among the calls.
 #pragma once
 
+#include "app/notice.h"
 #include "app/setup_effects.h"
 
 #include <algorithm>
@@ -11,7 +13,7 @@ namespace setup::test {
 
 using Calls = std::vector<std::wstring>;
 
-class RecordingEffects final : public SetupEffects {
+class RecordingEffects final : public SetupEffects, public NoticeScreen {
 public:
     // What the machine is like.
     std::vector<std::wstring> products;

@@ -72,7 +72,7 @@ TEST(SilentInstall, AnswersWithItsExitCode)
         effects.failingCall = row.failingCall;
         effects.failure = 1603;
         const RunOptions options = readRunOptions(parseCommandLine(row.arguments), effects);
-        EXPECT_EQ(runSilentInstall(effects, options), row.exitCode)
+        EXPECT_EQ(runSilentInstall(effects, effects, options), row.exitCode)
             << testing::PrintToString(row.failingCall);
         EXPECT_EQ(std::count(effects.calls.begin(), effects.calls.end(), kVisible), row.appStarted);
     }
@@ -81,7 +81,7 @@ TEST(SilentInstall, AnswersWithItsExitCode)
 TEST(SilentInstall, TellsTheResultBeforeTheApplicationStarts)
 {
     RecordingEffects effects;
-    runSilentInstall(effects, readRunOptions(parseCommandLine({L"--restart-app"}), effects));
+    runSilentInstall(effects, effects, readRunOptions(parseCommandLine({L"--restart-app"}), effects));
     ASSERT_EQ(effects.notices.size(), 1U);
     EXPECT_EQ(effects.notices[0].title, L"Nainstalovano");
     EXPECT_EQ(effects.notices[0].body, L"Tamber byl nainstalovan.");
@@ -94,7 +94,7 @@ TEST(SilentInstall, TellsTheResultBeforeTheApplicationStarts)
     RecordingEffects failing;
     failing.failingCall = L"msiexec";
     failing.failure = 1620;
-    runSilentInstall(failing, readRunOptions({}, failing));
+    runSilentInstall(failing, failing, readRunOptions({}, failing));
     ASSERT_EQ(failing.notices.size(), 1U);
     EXPECT_EQ(failing.notices[0].title, L"Instalace selhala");
     EXPECT_EQ(failing.notices[0].body, L"Akce selhala ve fazi: install\nWindows Installer exit code: 1620\n"
@@ -103,7 +103,7 @@ TEST(SilentInstall, TellsTheResultBeforeTheApplicationStarts)
     EXPECT_TRUE(failing.notices[0].danger);
 
     RecordingEffects quiet;
-    runSilentInstall(quiet, readRunOptions(parseCommandLine({L"--quiet"}), quiet));
+    runSilentInstall(quiet, quiet, readRunOptions(parseCommandLine({L"--quiet"}), quiet));
     EXPECT_THAT(quiet.notices, IsEmpty());
 }
 
@@ -125,9 +125,9 @@ TEST(SilentInstall, WaitsForTheNamedProcessFirst)
         RecordingEffects effects;
         effects.failingCall = row.failingCall;
         effects.failure = 87;
-        EXPECT_EQ(
-            runSilentInstall(effects, readRunOptions(parseCommandLine({L"--wait-pid", row.pid}), effects)),
-            0);
+        EXPECT_EQ(runSilentInstall(effects, effects,
+                                   readRunOptions(parseCommandLine({L"--wait-pid", row.pid}), effects)),
+                  0);
         const auto extraction = std::find(effects.calls.begin(), effects.calls.end(),
                                           L"extract C:\\Temp\\TamberSetup-4242-Tamber.msi");
         EXPECT_THAT(Calls(effects.calls.begin(), extraction), ElementsAreArray(row.before));
@@ -138,18 +138,18 @@ TEST(SilentUninstall, AnswersWithItsExitCodeAndNotice)
 {
     RecordingEffects effects;
     effects.products = {L"{A}"};
-    EXPECT_EQ(runSilentUninstall(effects, false), 0);
+    EXPECT_EQ(runSilentUninstall(effects, effects, false), 0);
     ASSERT_EQ(effects.notices.size(), 1U);
     EXPECT_EQ(effects.notices[0].title, L"Odinstalovano");
     EXPECT_EQ(effects.notices[0].body, L"Tamber byl odebran pres Windows Installer.");
 
     effects.failingCall = L"msiexec";
     effects.failure = 1602;
-    EXPECT_EQ(runSilentUninstall(effects, false), 5);
+    EXPECT_EQ(runSilentUninstall(effects, effects, false), 5);
     ASSERT_EQ(effects.notices.size(), 2U);
     EXPECT_EQ(effects.notices[1].title, L"Odinstalace selhala");
     EXPECT_TRUE(effects.notices[1].danger);
-    EXPECT_EQ(runSilentUninstall(effects, true), 5);
+    EXPECT_EQ(runSilentUninstall(effects, effects, true), 5);
     EXPECT_EQ(effects.notices.size(), 2U);
 }
 

@@ -1,0 +1,41 @@
+#include "app/screens_win32.h"
+
+#include "app/dialogs/choice_dialog.h"
+#include "app/dialogs/notice_dialog.h"
+#include "app/dialogs/progress_run.h"
+#include "app/dialogs/setup_styles.h"
+#include "app/interactive_flow.h"
+#include "app/setup_effects_win32.h"
+#include "app/worker_thread_win32.h"
+
+#include "vela/render/text/text.h"
+
+namespace setup {
+
+WindowScreens::WindowScreens(HINSTANCE module, SetupEffects& effects) : host_{module, setupStyles(effects)} {}
+
+void WindowScreens::prepare() { host_.styles(); }
+
+void WindowScreens::showNotice(const Notice& notice) { setup::showNotice(host_, notice); }
+
+SetupChoice WindowScreens::showSetupChoice(const ChoiceState& state)
+{
+    return setup::showSetupChoice(host_, state);
+}
+
+SetupActionResult WindowScreens::runWithProgress(std::wstring_view title, std::wstring_view body,
+                                                 const SetupTask& task)
+{
+    return setup::runWithProgress(host_, title, body, task);
+}
+
+int runInteractiveSetup(SetupEffects& effects, WindowScreens& screens)
+{
+    vela::openTextEngine();
+    // The installer's library, with a dozen more behind it, is loaded while the skins are read.
+    const WorkerThread ahead(installerLibrary);
+    screens.prepare();
+    return runInteractiveFlow(effects, screens);
+}
+
+} // namespace setup

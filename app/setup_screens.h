@@ -1,0 +1,27 @@
+// What an interactive run shows, behind an interface, so that its order is tested without a window.
+#pragma once
+
+#include "app/notice.h"
+#include "app/setup_actions.h"
+
+#include <functional>
+
+namespace setup {
+
+using SetupTask = std::function<SetupActionResult()>;
+
+// What the first window starts from.
+struct ChoiceState {
+    bool installed = false;
+    SetupChoice choice;
+};
+
+class SetupScreens : public NoticeScreen {
+public:
+    virtual SetupChoice showSetupChoice(const ChoiceState& state) = 0;
+    // Returns the task's result once it has ended; the task may throw.
+    virtual SetupActionResult runWithProgress(std::wstring_view title, std::wstring_view body,
+                                              const SetupTask& task) = 0;
+};
+
+} // namespace setup
