@@ -3,7 +3,7 @@
 #include "app/files_win32.h"
 #include "app/paths.h"
 #include "app/process_win32.h"
-#include "app/setup_runs.h"
+#include "app/temp_file.h"
 
 namespace setup {
 namespace {

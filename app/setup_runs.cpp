@@ -8,6 +8,7 @@
 #include "app/running_app.h"
 #include "app/shortcuts.h"
 #include "app/step_log.h"
+#include "app/temp_file.h"
 
 #include "vela/text.h"
 
@@ -104,15 +105,6 @@ bool integrate(SetupEffects& effects, const std::wstring& folder, const InstallR
 }
 
 } // namespace
-
-std::wstring tempSetupFile(SetupEffects& effects, std::wstring_view name)
-{
-    const std::wstring fileName = std::wstring(L"TamberSetup-")
-                                      .append(vela::decimalText(effects.ownProcessId()))
-                                      .append(L"-")
-                                      .append(name);
-    return joinPath(effects.tempFolder(), fileName);
-}
 
 SetupActionResult runInstall(SetupEffects& effects, const InstallRequest& request)
 {

@@ -20,7 +20,4 @@ SetupActionResult runInstall(SetupEffects& effects, const InstallRequest& reques
 // Removes every product of the upgrade code. With none installed it succeeds and touches nothing.
 SetupActionResult runUninstall(SetupEffects& effects);
 
-// Where this process keeps the temporary file `name`.
-std::wstring tempSetupFile(SetupEffects& effects, std::wstring_view name);
-
 } // namespace setup
