@@ -1,7 +1,7 @@
 // The installed application's file: reading its version and starting it.
 #include "app/setup_effects_win32.h"
 
-#include "app/files_win32.h"
+#include "app/reachable_path_win32.h"
 
 #include "vela/library_win32.h"
 

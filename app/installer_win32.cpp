@@ -3,6 +3,7 @@
 
 #include "app/identity.h"
 #include "app/installer_command.h"
+#include "app/installer_library_win32.h"
 #include "app/paths.h"
 
 #include <shellapi.h>
@@ -50,12 +51,6 @@ InstallerExit runAndWait(const std::wstring& program, const std::wstring& parame
 }
 
 } // namespace
-
-const vela::SystemLibrary& installerLibrary() noexcept
-{
-    static const vela::SystemLibrary library(L"msi.dll");
-    return library;
-}
 
 RelatedProduct WindowsEffects::relatedProduct(std::uint32_t index)
 {

@@ -2,7 +2,7 @@
 // skins.
 #include "app/setup_effects_win32.h"
 
-#include "app/files_win32.h"
+#include "app/reachable_path_win32.h"
 
 #include <algorithm>
 #include <cstddef>

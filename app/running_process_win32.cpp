@@ -1,4 +1,4 @@
-// Other processes: listing them, asking their windows, waiting for their end, ending them.
+// Processes: the own one and others; listing them, asking their windows, waiting for their end, ending them.
 #include "app/setup_effects_win32.h"
 
 #include <tlhelp32.h>
@@ -57,6 +57,8 @@ private:
 };
 
 } // namespace
+
+std::uint32_t WindowsEffects::ownProcessId() { return ::GetCurrentProcessId(); }
 
 std::vector<ProcessEntry> WindowsEffects::runningProcesses()
 {

@@ -4,8 +4,8 @@
 #include "app/dialogs/notice_dialog.h"
 #include "app/dialogs/progress_run.h"
 #include "app/dialogs/setup_styles.h"
+#include "app/installer_library_win32.h"
 #include "app/interactive_flow.h"
-#include "app/setup_effects_win32.h"
 #include "app/worker_thread_win32.h"
 
 #include "vela/render/text/text.h"
@@ -32,7 +32,7 @@ SetupActionResult WindowScreens::runWithProgress(std::wstring_view title, std::w
 int runInteractiveSetup(SetupEffects& effects, WindowScreens& screens)
 {
     vela::openTextEngine();
-    // The installer's library, with a dozen more behind it, is loaded while the skins are read.
+    // The installer's libraries are loaded while the skins are read.
     const WorkerThread ahead(installerLibrary);
     screens.prepare();
     return runInteractiveFlow(effects, screens);

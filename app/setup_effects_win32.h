@@ -1,15 +1,12 @@
 // The setup's effects on a real machine, used by one thread at a time. Each group of them has a file of its
-// own: files, resources, installer, shell, app_start, running_process.
+// own: folders, files, resources, installer, shell, app_start, running_process, setup_log.
 #pragma once
 
 #include "app/setup_effects.h"
 
-#include "vela/library_win32.h"
+#include "vela/owned_win32.h"
 
 namespace setup {
-
-// Loaded when first asked for, by any thread.
-const vela::SystemLibrary& installerLibrary() noexcept;
 
 class WindowsEffects final : public SetupEffects {
 public:

@@ -1,33 +1,16 @@
-// The shell: known folders, links, the notification after a change.
+// The shell: links, the notification after a change.
 #include "app/setup_effects_win32.h"
 
 #include "app/paths.h"
 
 #include "vela/com_apartment_win32.h"
 #include "vela/com_pointer_win32.h"
-#include "vela/owned_win32.h"
 
 #include <objbase.h>
 #include <shlobj.h>
 
-// Last, and the ids of folders are defined here: the library that has them brings 40 KB of others along.
-#include <initguid.h>
-
-#include <knownfolders.h>
-
 namespace setup {
 namespace {
-
-struct FolderId {
-    KnownFolder folder;
-    const KNOWNFOLDERID& id;
-};
-
-constexpr FolderId kFolderIds[] = {
-    {KnownFolder::Desktop, FOLDERID_Desktop},
-    {KnownFolder::Startup, FOLDERID_Startup},
-    {KnownFolder::LocalAppData, FOLDERID_LocalAppData},
-};
 
 HRESULT describeLink(IShellLinkW& shellLink, const ShellLink& link)
 {
@@ -61,18 +44,6 @@ HRESULT writeLink(const ShellLink& link)
 }
 
 } // namespace
-
-std::wstring WindowsEffects::knownFolder(KnownFolder folder)
-{
-    for (const FolderId& row : kFolderIds) {
-        if (row.folder != folder)
-            continue;
-        vela::OwnedTaskText path;
-        const HRESULT result = ::SHGetKnownFolderPath(row.id, 0, nullptr, path.put());
-        return SUCCEEDED(result) && path ? std::wstring(path.get()) : std::wstring();
-    }
-    return {};
-}
 
 std::int32_t WindowsEffects::createShellLink(const ShellLink& link)
 {

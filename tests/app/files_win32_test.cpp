@@ -1,7 +1,8 @@
-#include "app/files_win32.h"
+#include "app/file_copy_win32.h"
 #include "app/instance_guard_win32.h"
 #include "app/paths.h"
 #include "app/process_win32.h"
+#include "app/reachable_path_win32.h"
 #include "app/setup_effects_win32.h"
 
 #include <gtest/gtest.h>

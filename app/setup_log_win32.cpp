@@ -1,8 +1,7 @@
+// The setup's own log.
 #include "app/setup_effects_win32.h"
 
-#include "app/files_win32.h"
-#include "app/paths.h"
-#include "app/process_win32.h"
+#include "app/reachable_path_win32.h"
 #include "app/temp_file.h"
 
 namespace setup {
@@ -27,18 +26,6 @@ std::wstring timeStamp()
 }
 
 } // namespace
-
-std::uint32_t WindowsEffects::ownProcessId() { return ::GetCurrentProcessId(); }
-
-std::wstring WindowsEffects::programFolder() { return parentFolder(programPath()); }
-
-std::wstring WindowsEffects::environmentVariable(const wchar_t* name)
-{
-    const DWORD size = ::GetEnvironmentVariableW(name, nullptr, 0);
-    std::wstring value(size, L'\0');
-    value.resize(size != 0 ? ::GetEnvironmentVariableW(name, value.data(), size) : 0);
-    return value;
-}
 
 void WindowsEffects::writeLogLine(const std::wstring& line)
 {
