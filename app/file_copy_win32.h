@@ -1,7 +1,9 @@
 // Copies of a file.
 #pragma once
 
-#include "app/setup_effects.h"
+#include "app/windows_error.h"
+
+#include <string>
 
 namespace setup {
 

@@ -1,13 +1,15 @@
 // What the Windows Installer already knows of this product.
 #pragma once
 
-#include "app/setup_effects.h"
+#include "app/installer_effects.h"
+
+#include <vector>
 
 namespace setup {
 
 // The product codes held for the upgrade code, in the installer's order.
-std::vector<std::wstring> relatedProductCodes(SetupEffects& effects);
+std::vector<std::wstring> relatedProductCodes(InstallerEffects& installer);
 
-bool isProductInstalled(SetupEffects& effects);
+bool isProductInstalled(InstallerEffects& installer);
 
 } // namespace setup

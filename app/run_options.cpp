@@ -24,6 +24,6 @@ bool startsWithWindowsByDefault(SetupEffects& effects)
     return effects.fileExists(startupShortcutPath(effects)) || !isProductInstalled(effects);
 }
 
-bool hasDesktopShortcut(SetupEffects& effects) { return effects.fileExists(desktopShortcutPath(effects)); }
+bool hasDesktopShortcut(FileEffects& files) { return files.fileExists(desktopShortcutPath(files)); }
 
 } // namespace setup

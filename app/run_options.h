@@ -18,6 +18,6 @@ RunOptions readRunOptions(const CommandLine& commandLine, SetupEffects& effects)
 
 // The same choice when nothing was asked for on the command line.
 bool startsWithWindowsByDefault(SetupEffects& effects);
-bool hasDesktopShortcut(SetupEffects& effects);
+bool hasDesktopShortcut(FileEffects& files);
 
 } // namespace setup

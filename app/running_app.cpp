@@ -11,9 +11,9 @@ namespace {
 constexpr std::uint32_t kCloseMilliseconds = 5000;
 constexpr std::uint32_t kTerminateMilliseconds = 1500;
 
-WindowsError terminateProcess(SetupEffects& effects, std::uint32_t id)
+WindowsError terminateProcess(ProcessEffects& processes, std::uint32_t id)
 {
-    const OpenedProcess opened = effects.openProcess(id, ProcessAccess::WaitAndTerminate);
+    const OpenedProcess opened = processes.openProcess(id, ProcessAccess::WaitAndTerminate);
     if (!opened.process)
         return opened.error;
     const WindowsError error = opened.process->terminate();

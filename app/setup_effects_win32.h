@@ -13,31 +13,36 @@ public:
     // `module` carries the package.
     explicit WindowsEffects(HMODULE module) noexcept : module_(module) {}
 
-    std::uint32_t ownProcessId() override;
+    // Folders, files and what the program carries for them.
     std::wstring programFolder() override;
     std::wstring tempFolder() override;
     std::wstring knownFolder(KnownFolder folder) override;
     std::wstring environmentVariable(const wchar_t* name) override;
     bool fileExists(const std::wstring& path) override;
-    void writeLogLine(const std::wstring& line) override;
+    WindowsError createFolders(const std::wstring& folder) override;
+    WindowsError copySetup(const std::wstring& target) override;
+    WindowsError writeSkins(const std::wstring& target) override;
+    WindowsError deleteFile(const std::wstring& path) override;
+    std::optional<ProductVersion> productVersion(const std::wstring& path) override;
 
+    // The Windows Installer and its package.
     RelatedProduct relatedProduct(std::uint32_t index) override;
     PackageOutcome extractPackage(const std::wstring& target) override;
     PinOutcome pinPackage(const std::wstring& path) override;
-    WindowsError writeSkins(const std::wstring& target) override;
     InstallerExit runInstaller(const std::wstring& parameters) override;
 
-    WindowsError createFolders(const std::wstring& folder) override;
-    WindowsError copySetup(const std::wstring& target) override;
+    // The shell.
     std::int32_t createShellLink(const ShellLink& link) override;
-    WindowsError deleteFile(const std::wstring& path) override;
     void notifyShellChanged() override;
-    std::optional<ProductVersion> productVersion(const std::wstring& path) override;
+
+    // Processes.
+    std::uint32_t ownProcessId() override;
     WindowsError startHidden(const std::wstring& commandLine, const std::wstring& folder) override;
     WindowsError startVisible(const std::wstring& program, const std::wstring& folder) override;
-
     std::vector<ProcessEntry> runningProcesses() override;
     OpenedProcess openProcess(std::uint32_t id, ProcessAccess access) override;
+
+    void writeLogLine(const std::wstring& line) override;
 
 private:
     HMODULE module_;

@@ -7,16 +7,13 @@
 namespace setup {
 namespace {
 
-std::wstring setupSkinFolder(SetupEffects& effects)
-{
-    return joinPath(userDataFolder(effects), L"setup-skins");
-}
+std::wstring setupSkinFolder(FileEffects& files) { return joinPath(userDataFolder(files), L"setup-skins"); }
 
 } // namespace
 
-std::wstring userSkinFolder(SetupEffects& effects)
+std::wstring userSkinFolder(FileEffects& files)
 {
-    const std::wstring folder = effects.programFolder();
+    const std::wstring folder = files.programFolder();
     return folder.empty() ? std::wstring() : joinPath(folder, L"skins");
 }
 

@@ -10,7 +10,7 @@ inline constexpr std::wstring_view kSetupSkin = L"win11-auto";
 
 // Beside the program: what the user put there wins over what the program brings. Empty when Windows does not
 // tell where the program lies.
-std::wstring userSkinFolder(SetupEffects& effects);
+std::wstring userSkinFolder(FileEffects& files);
 
 // Writes the document this program carries into the setup's own folder, so that it replaces that of an older
 // setup. False when it could not be written.

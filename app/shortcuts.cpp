@@ -11,7 +11,7 @@ namespace {
 constexpr std::wstring_view kDescription = L"Tamber personal local agent";
 
 struct Shortcut {
-    std::wstring (*path)(SetupEffects&);
+    std::wstring (*path)(FileEffects&);
     std::wstring_view arguments;
     std::wstring_view step;
     std::wstring_view failure;
@@ -22,19 +22,19 @@ constexpr Shortcut kStartupShortcut{startupShortcutPath, L"--start-hidden", L"st
 constexpr Shortcut kDesktopShortcut{desktopShortcutPath, L"", L"desktop shortcut",
                                     L"Nepodarilo se nastavit zastupce Tambere na plose."};
 
-WindowsError createShortcut(SetupEffects& effects, const std::wstring& link, const std::wstring& target,
+WindowsError createShortcut(ShellEffects& shell, const std::wstring& link, const std::wstring& target,
                             std::wstring_view arguments)
 {
     const std::int32_t result =
-        effects.createShellLink({link, target, arguments, parentFolder(target), kDescription});
+        shell.createShellLink({link, target, arguments, parentFolder(target), kDescription});
     return result < 0 ? static_cast<WindowsError>(result) : kNoError;
 }
 
 // A link that is not there counts as removed. A folder that is not there does not: that profile is broken,
 // and a start with Windows that the user switched off cannot be vouched for.
-WindowsError removeShortcut(SetupEffects& effects, const std::wstring& link)
+WindowsError removeShortcut(FileEffects& files, const std::wstring& link)
 {
-    const WindowsError error = effects.deleteFile(link);
+    const WindowsError error = files.deleteFile(link);
     return error == kErrorFileNotFound ? kNoError : error;
 }
 

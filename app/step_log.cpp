@@ -27,9 +27,9 @@ std::wstring stepLine(std::wstring_view step, WindowsError error, std::wstring_v
     return line;
 }
 
-bool noteStep(SetupEffects& effects, std::wstring_view step, WindowsError error, std::wstring_view about)
+bool noteStep(StepLog& log, std::wstring_view step, WindowsError error, std::wstring_view about)
 {
-    effects.writeLogLine(stepLine(step, error, about));
+    log.writeLogLine(stepLine(step, error, about));
     return error == kNoError;
 }
 

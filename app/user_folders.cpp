@@ -18,28 +18,28 @@ constexpr FolderRule kStartup{KnownFolder::Startup, L"APPDATA",
                               L"\\Microsoft\\Windows\\Start Menu\\Programs\\Startup"};
 constexpr FolderRule kLocalAppData{KnownFolder::LocalAppData, L"LOCALAPPDATA", L""};
 
-std::wstring knownFolderOr(SetupEffects& effects, const FolderRule& rule)
+std::wstring knownFolderOr(FileEffects& files, const FolderRule& rule)
 {
-    const std::wstring folder = effects.knownFolder(rule.folder);
+    const std::wstring folder = files.knownFolder(rule.folder);
     return !folder.empty() ? folder
-                           : effects.environmentVariable(rule.fallbackVariable).append(rule.fallbackBelow);
+                           : files.environmentVariable(rule.fallbackVariable).append(rule.fallbackBelow);
 }
 
 } // namespace
 
-std::wstring startupShortcutPath(SetupEffects& effects)
+std::wstring startupShortcutPath(FileEffects& files)
 {
-    return joinPath(knownFolderOr(effects, kStartup), kShortcutFile);
+    return joinPath(knownFolderOr(files, kStartup), kShortcutFile);
 }
 
-std::wstring desktopShortcutPath(SetupEffects& effects)
+std::wstring desktopShortcutPath(FileEffects& files)
 {
-    return joinPath(knownFolderOr(effects, kDesktop), kShortcutFile);
+    return joinPath(knownFolderOr(files, kDesktop), kShortcutFile);
 }
 
-std::wstring userDataFolder(SetupEffects& effects)
+std::wstring userDataFolder(FileEffects& files)
 {
-    return joinPath(knownFolderOr(effects, kLocalAppData), kProductName);
+    return joinPath(knownFolderOr(files, kLocalAppData), kProductName);
 }
 
 } // namespace setup

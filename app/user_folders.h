@@ -1,12 +1,12 @@
 // Where the current user's shortcuts and data lie.
 #pragma once
 
-#include "app/setup_effects.h"
+#include "app/file_effects.h"
 
 namespace setup {
 
-std::wstring startupShortcutPath(SetupEffects& effects);
-std::wstring desktopShortcutPath(SetupEffects& effects);
-std::wstring userDataFolder(SetupEffects& effects);
+std::wstring startupShortcutPath(FileEffects& files);
+std::wstring desktopShortcutPath(FileEffects& files);
+std::wstring userDataFolder(FileEffects& files);
 
 } // namespace setup

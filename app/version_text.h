@@ -1,7 +1,10 @@
 // Product versions as text, and when two of them count as the same.
 #pragma once
 
-#include "app/setup_effects.h"
+#include "app/product_version.h"
+
+#include <string>
+#include <string_view>
 
 namespace setup {
 
