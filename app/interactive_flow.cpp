@@ -1,8 +1,10 @@
 #include "app/interactive_flow.h"
 
+#include "app/action_texts.h"
 #include "app/installed_app.h"
 #include "app/products.h"
-#include "app/run_options.h"
+#include "app/requests.h"
+#include "app/setup_runs.h"
 
 namespace setup {
 

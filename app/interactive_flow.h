@@ -1,6 +1,7 @@
 // The order of an interactive run: choice, progress, notice, and the application after a success.
 #pragma once
 
+#include "app/setup_effects.h"
 #include "app/setup_screens.h"
 
 namespace setup {

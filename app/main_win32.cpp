@@ -4,7 +4,7 @@
 #include "app/identity.h"
 #include "app/instance_guard_win32.h"
 #include "app/process_win32.h"
-#include "app/run_options.h"
+#include "app/requests.h"
 #include "app/screens_win32.h"
 #include "app/setup_effects_win32.h"
 #include "app/silent_modes.h"
@@ -35,7 +35,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int)
     // Its user decides what the options would say, so the machine is not asked twice before the first window.
     if (mode == RunMode::Interactive)
         return runInteractiveSetup(effects, screens);
-    const RunOptions options = readRunOptions(commandLine, effects);
-    return mode == RunMode::Install ? runSilentInstall(effects, screens, options)
-                                    : runSilentUninstall(effects, screens, options.quiet);
+    const RunRequest request = readRunRequest(commandLine, effects);
+    return mode == RunMode::Install ? runSilentInstall(effects, screens, request)
+                                    : runSilentUninstall(effects, screens, request.quiet);
 }

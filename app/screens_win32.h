@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/dialogs/setup_dialog.h"
+#include "app/setup_effects.h"
 #include "app/setup_screens.h"
 
 namespace setup {

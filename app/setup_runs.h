@@ -4,15 +4,10 @@
 #pragma once
 
 #include "app/action_result.h"
+#include "app/install_request.h"
 #include "app/setup_effects.h"
 
 namespace setup {
-
-struct InstallRequest {
-    std::wstring installDir;
-    bool startWithWindows = true;
-    bool desktopShortcut = false;
-};
 
 // Hands the embedded package to the Windows Installer and finishes the install.
 SetupActionResult runInstall(SetupEffects& effects, const InstallRequest& request);

@@ -1,20 +1,15 @@
 // What an interactive run shows, behind an interface, so that its order is tested without a window.
 #pragma once
 
+#include "app/action_result.h"
 #include "app/notice.h"
-#include "app/setup_actions.h"
+#include "app/setup_choice.h"
 
 #include <functional>
 
 namespace setup {
 
 using SetupTask = std::function<SetupActionResult()>;
-
-// What the first window starts from.
-struct ChoiceState {
-    bool installed = false;
-    SetupChoice choice;
-};
 
 class SetupScreens : public NoticeScreen {
 public:

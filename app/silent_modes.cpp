@@ -1,29 +1,26 @@
 #include "app/silent_modes.h"
 
-#include "app/exit_code.h"
+#include "app/action_texts.h"
 #include "app/installed_app.h"
-#include "app/result_notice.h"
 #include "app/running_app.h"
+#include "app/setup_runs.h"
 
 namespace setup {
 namespace {
 
 constexpr std::uint32_t kWaitPidMilliseconds = 8000;
 
-constexpr ResultTexts kInstallTexts{kInstalledTitle, kInstallFailedTitle, L"Tamber byl nainstalovan."};
-constexpr ResultTexts kUninstallTexts{kUninstalledTitle, kUninstallFailedTitle, kUninstalledText};
-
 } // namespace
 
-int runSilentInstall(SetupEffects& effects, NoticeScreen& screen, const RunOptions& options)
+int runSilentInstall(SetupEffects& effects, NoticeScreen& screen, const RunRequest& request)
 {
-    waitForProcessExit(effects, processIdFrom(options.waitPidText), kWaitPidMilliseconds);
-    const SetupActionResult result = resultOf([&] { return runInstall(effects, options.install); });
-    if (!options.quiet)
-        screen.showNotice(resultNotice(result, kInstallTexts));
+    waitForProcessExit(effects, processIdFrom(request.waitPidText), kWaitPidMilliseconds);
+    const SetupActionResult result = resultOf([&] { return runInstall(effects, request.install); });
+    if (!request.quiet)
+        screen.showNotice(resultNotice(result, kSilentInstallTexts));
     if (!result.success)
         return kExitInstallFailed;
-    const bool started = !options.restartApp || launchInstalledApp(effects, options.install.installDir);
+    const bool started = !request.restartApp || launchInstalledApp(effects, request.install.installDir);
     return started ? kExitSuccess : kExitAppNotStarted;
 }
 
@@ -31,7 +28,7 @@ int runSilentUninstall(SetupEffects& effects, NoticeScreen& screen, bool quiet)
 {
     const SetupActionResult result = resultOf([&] { return runUninstall(effects); });
     if (!quiet)
-        screen.showNotice(resultNotice(result, kUninstallTexts));
+        screen.showNotice(resultNotice(result, kSilentUninstallTexts));
     return result.success ? kExitSuccess : kExitUninstallFailed;
 }
 

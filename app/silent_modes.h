@@ -3,11 +3,11 @@
 #pragma once
 
 #include "app/notice.h"
-#include "app/run_options.h"
+#include "app/requests.h"
 
 namespace setup {
 
-int runSilentInstall(SetupEffects& effects, NoticeScreen& screen, const RunOptions& options);
+int runSilentInstall(SetupEffects& effects, NoticeScreen& screen, const RunRequest& request);
 int runSilentUninstall(SetupEffects& effects, NoticeScreen& screen, bool quiet);
 
 // Tells the user that another setup is at work.

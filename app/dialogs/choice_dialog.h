@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/dialogs/setup_dialog.h"
-#include "app/setup_screens.h"
+#include "app/setup_choice.h"
 
 #include "vela/controls/widgets/check_box.h"
 #include "vela/controls/widgets/text_input.h"

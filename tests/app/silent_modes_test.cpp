@@ -1,5 +1,6 @@
 #include "app/silent_modes.h"
 
+#include "app/action_result.h"
 #include "app/user_folders.h"
 #include "tests/app/recording_effects.h"
 
@@ -19,7 +20,7 @@ using ::testing::Not;
 
 const std::wstring kVisible = L"visible C:\\Program Files\\Tamber\\Tamber.exe in C:\\Program Files\\Tamber";
 
-TEST(RunOptions, ReinstallKeepsTheShortcutsAndAFirstInstallStartsWithWindows)
+TEST(RunRequest, ReinstallKeepsTheShortcutsAndAFirstInstallStartsWithWindows)
 {
     const std::wstring startup = L"D:\\Startup\\Tamber.lnk";
     const std::wstring desktop = L"D:\\Desktop\\Tamber.lnk";
@@ -43,10 +44,10 @@ TEST(RunOptions, ReinstallKeepsTheShortcutsAndAFirstInstallStartsWithWindows)
         effects.files = row.files;
         if (row.installed)
             effects.products = {L"{A}"};
-        const RunOptions options = readRunOptions(parseCommandLine(row.arguments), effects);
-        EXPECT_EQ(options.install.startWithWindows, row.startWithWindows);
-        EXPECT_EQ(options.install.desktopShortcut, row.desktopShortcut);
-        EXPECT_EQ(options.install.installDir, L"C:\\Program Files\\Tamber");
+        const RunRequest request = readRunRequest(parseCommandLine(row.arguments), effects);
+        EXPECT_EQ(request.install.startWithWindows, row.startWithWindows);
+        EXPECT_EQ(request.install.desktopShortcut, row.desktopShortcut);
+        EXPECT_EQ(request.install.installDir, L"C:\\Program Files\\Tamber");
     }
 }
 
@@ -71,8 +72,8 @@ TEST(SilentInstall, AnswersWithItsExitCode)
         RecordingEffects effects;
         effects.failingCall = row.failingCall;
         effects.failure = 1603;
-        const RunOptions options = readRunOptions(parseCommandLine(row.arguments), effects);
-        EXPECT_EQ(runSilentInstall(effects, effects, options), row.exitCode)
+        const RunRequest request = readRunRequest(parseCommandLine(row.arguments), effects);
+        EXPECT_EQ(runSilentInstall(effects, effects, request), row.exitCode)
             << testing::PrintToString(row.failingCall);
         EXPECT_EQ(std::count(effects.calls.begin(), effects.calls.end(), kVisible), row.appStarted);
     }
@@ -81,7 +82,7 @@ TEST(SilentInstall, AnswersWithItsExitCode)
 TEST(SilentInstall, TellsTheResultBeforeTheApplicationStarts)
 {
     RecordingEffects effects;
-    runSilentInstall(effects, effects, readRunOptions(parseCommandLine({L"--restart-app"}), effects));
+    runSilentInstall(effects, effects, readRunRequest(parseCommandLine({L"--restart-app"}), effects));
     ASSERT_EQ(effects.notices.size(), 1U);
     EXPECT_EQ(effects.notices[0].title, L"Nainstalovano");
     EXPECT_EQ(effects.notices[0].body, L"Tamber byl nainstalovan.");
@@ -94,7 +95,7 @@ TEST(SilentInstall, TellsTheResultBeforeTheApplicationStarts)
     RecordingEffects failing;
     failing.failingCall = L"msiexec";
     failing.failure = 1620;
-    runSilentInstall(failing, failing, readRunOptions({}, failing));
+    runSilentInstall(failing, failing, readRunRequest({}, failing));
     ASSERT_EQ(failing.notices.size(), 1U);
     EXPECT_EQ(failing.notices[0].title, L"Instalace selhala");
     EXPECT_EQ(failing.notices[0].body, L"Akce selhala ve fazi: install\nWindows Installer exit code: 1620\n"
@@ -103,7 +104,7 @@ TEST(SilentInstall, TellsTheResultBeforeTheApplicationStarts)
     EXPECT_TRUE(failing.notices[0].danger);
 
     RecordingEffects quiet;
-    runSilentInstall(quiet, quiet, readRunOptions(parseCommandLine({L"--quiet"}), quiet));
+    runSilentInstall(quiet, quiet, readRunRequest(parseCommandLine({L"--quiet"}), quiet));
     EXPECT_THAT(quiet.notices, IsEmpty());
 }
 
@@ -126,7 +127,7 @@ TEST(SilentInstall, WaitsForTheNamedProcessFirst)
         effects.failingCall = row.failingCall;
         effects.failure = 87;
         EXPECT_EQ(runSilentInstall(effects, effects,
-                                   readRunOptions(parseCommandLine({L"--wait-pid", row.pid}), effects)),
+                                   readRunRequest(parseCommandLine({L"--wait-pid", row.pid}), effects)),
                   0);
         const auto extraction = std::find(effects.calls.begin(), effects.calls.end(),
                                           L"extract C:\\Temp\\TamberSetup-4242-Tamber.msi");

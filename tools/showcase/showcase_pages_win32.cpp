@@ -2,10 +2,10 @@
 
 #include "tools/showcase_content/exhibits.h"
 
+#include "app/action_texts.h"
 #include "app/dialogs/choice_dialog.h"
 #include "app/dialogs/notice_dialog.h"
 #include "app/dialogs/progress_dialog.h"
-#include "app/result_notice.h"
 
 #include "vela/render/paint/paint.h"
 #include "vela/theme/fields/record_scale.h"
@@ -94,14 +94,14 @@ constexpr DialogRow kNotices[] = {
      }},
     {L"setup.success",
      [](DialogHost host) {
-         return makeNotice(std::move(host),
-                           {setup::kUninstalledTitle, std::wstring(setup::kUninstalledText)});
+         return makeNotice(std::move(host), {setup::kSilentUninstallTexts.successTitle,
+                                             std::wstring(setup::kSilentUninstallTexts.successText)});
      }},
     {L"setup.failure",
      [](DialogHost host) {
          return makeNotice(
              std::move(host),
-             {setup::kInstallFailedTitle,
+             {setup::kSilentInstallTexts.failureTitle,
               L"Instalacni balicek se nepodarilo zapsat do docasne slozky. Zkontroluj volne misto "
               L"na disku.\n\nZaznam: C:\\Users\\Public\\TamberSetup-1234-install.log",
               true});

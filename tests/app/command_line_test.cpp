@@ -1,11 +1,11 @@
-#include "app/options.h"
+#include "app/command_line.h"
 
 #include <gtest/gtest.h>
 
 namespace setup {
 namespace {
 
-TEST(Options, AreFoundAnywhereInAnyCaseAndOthersArePassedOver)
+TEST(CommandLine, AreFoundAnywhereInAnyCaseAndOthersArePassedOver)
 {
     const CommandLine line =
         parseCommandLine({L"stray", L"--INSTALL", L"--no-Startup", L"/quiet", L"--desktop", L"--quietly"});
@@ -21,7 +21,7 @@ TEST(Options, AreFoundAnywhereInAnyCaseAndOthersArePassedOver)
     EXPECT_FALSE(rest.install || rest.noStartup || rest.desktop);
 }
 
-TEST(Options, TakeTheArgumentRightAfterTheFirstMatchingName)
+TEST(CommandLine, TakeTheArgumentRightAfterTheFirstMatchingName)
 {
     const struct {
         std::vector<std::wstring> arguments;
@@ -42,14 +42,14 @@ TEST(Options, TakeTheArgumentRightAfterTheFirstMatchingName)
     EXPECT_TRUE(parseCommandLine({L"--install-dir", L"--install"}).install) << "a value is still an argument";
 }
 
-TEST(Options, InstallWinsOverUninstall)
+TEST(CommandLine, InstallWinsOverUninstall)
 {
     EXPECT_EQ(runModeOf(parseCommandLine({L"--uninstall", L"--install"})), RunMode::Install);
     EXPECT_EQ(runModeOf(parseCommandLine({L"--uninstall"})), RunMode::Uninstall);
     EXPECT_EQ(runModeOf(parseCommandLine({L"--restart-app", L"--quiet"})), RunMode::Interactive);
 }
 
-TEST(Options, AProcessIdIsADecimalNumberOrNothing)
+TEST(CommandLine, AProcessIdIsADecimalNumberOrNothing)
 {
     const struct {
         std::wstring_view text;

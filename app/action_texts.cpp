@@ -1,32 +1,18 @@
-// What the user can have done, and what the setup says while and after it does it.
-#pragma once
+#include "app/action_texts.h"
 
-#include "app/exit_code.h"
-#include "app/identity.h"
-#include "app/result_notice.h"
-#include "app/setup_runs.h"
-
-#include <cstdint>
+#include <algorithm>
+#include <iterator>
 
 namespace setup {
+namespace {
 
-enum class SetupAction : std::int32_t { Close = 0, Install = 1, Reinstall = 2, Uninstall = 3 };
+constexpr std::wstring_view kInstalledTitle = L"Nainstalovano";
+constexpr std::wstring_view kInstallFailedTitle = L"Instalace selhala";
+constexpr std::wstring_view kUninstalledTitle = L"Odinstalovano";
+constexpr std::wstring_view kUninstallFailedTitle = L"Odinstalace selhala";
+constexpr std::wstring_view kUninstalledText = L"Tamber byl odebran pres Windows Installer.";
 
-// What the user chose in the first window.
-struct SetupChoice {
-    SetupAction action = SetupAction::Close;
-    InstallRequest install{std::wstring(kDefaultInstallFolder)};
-};
-
-struct ActionTexts {
-    SetupAction action;
-    std::wstring_view progressTitle;
-    std::wstring_view progressBody;
-    ResultTexts result;
-    ExitCode failureExitCode;
-};
-
-inline constexpr ActionTexts kActionTexts[] = {
+constexpr ActionTexts kActionTexts[] = {
     {SetupAction::Install,
      L"Instaluju Tambere",
      L"Instaluju Tambere a pripadne zavru starsi bezici instanci. Okno zustane ovladatelne; vysledek se "
@@ -50,7 +36,17 @@ inline constexpr ActionTexts kActionTexts[] = {
      kExitUninstallFailed},
 };
 
-// Null for closing, which does nothing and says nothing.
-const ActionTexts* textsOf(SetupAction action) noexcept;
+} // namespace
+
+constinit const ResultTexts kSilentInstallTexts{kInstalledTitle, kInstallFailedTitle,
+                                                L"Tamber byl nainstalovan."};
+constinit const ResultTexts kSilentUninstallTexts{kUninstalledTitle, kUninstallFailedTitle, kUninstalledText};
+
+const ActionTexts* textsOf(SetupAction action) noexcept
+{
+    const auto* const row = std::find_if(std::begin(kActionTexts), std::end(kActionTexts),
+                                         [action](const ActionTexts& each) { return each.action == action; });
+    return row == std::end(kActionTexts) ? nullptr : row;
+}
 
 } // namespace setup

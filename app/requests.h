@@ -1,12 +1,13 @@
-// What this run is to do: the command line completed by the state of the machine.
+// What a silent run is to do: the command line completed by the state of the machine.
 #pragma once
 
-#include "app/options.h"
-#include "app/setup_runs.h"
+#include "app/command_line.h"
+#include "app/install_request.h"
+#include "app/setup_effects.h"
 
 namespace setup {
 
-struct RunOptions {
+struct RunRequest {
     bool quiet = false;
     bool restartApp = false;
     std::wstring waitPidText;
@@ -14,7 +15,7 @@ struct RunOptions {
 };
 
 // A reinstall keeps the shortcuts as the user has them now; a first install turns the start with Windows on.
-RunOptions readRunOptions(const CommandLine& commandLine, SetupEffects& effects);
+RunRequest readRunRequest(const CommandLine& commandLine, SetupEffects& effects);
 
 // The same choice when nothing was asked for on the command line.
 bool startsWithWindowsByDefault(SetupEffects& effects);
