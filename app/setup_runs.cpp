@@ -1,5 +1,6 @@
 #include "app/setup_runs.h"
 
+#include "app/embedded_package.h"
 #include "app/identity.h"
 #include "app/installed_app.h"
 #include "app/installer_command.h"
@@ -18,49 +19,12 @@ namespace {
 constexpr std::wstring_view kSetupNotCopied =
     L"MSI probehlo, ale setup nedokazal zkopirovat TamberSetup.exe do instalacni slozky.";
 
-struct PackageSentence {
-    PackageFault fault;
-    std::wstring_view text;
-    bool namesFile; // followed by the path of the package file
-};
-
-constexpr PackageSentence kPackageSentences[] = {
-    {PackageFault::Absent, L"Setup nema vlozeny MSI balicek. Stahni setup znovu.", false},
-    {PackageFault::Unreadable, L"Vlozeny MSI balicek nejde nacist. Stahni setup znovu.", false},
-    {PackageFault::NotCreated, L"Setup nedokazal vytvorit docasny MSI soubor: ", true},
-    {PackageFault::NotWritten, L"Setup nedokazal zapsat cely docasny MSI soubor: ", true},
-};
-
-std::wstring packageSentence(PackageFault fault, const std::wstring& package)
-{
-    for (const PackageSentence& row : kPackageSentences) {
-        if (row.fault == fault)
-            return std::wstring(row.text).append(row.namesFile ? package : std::wstring());
-    }
-    return {};
-}
-
 SetupActionResult beginRun(SetupEffects& effects, std::wstring_view phase)
 {
     SetupActionResult result;
     result.phase = phase;
     result.logPath = tempSetupFile(effects, std::wstring(phase).append(L".log"));
     return result;
-}
-
-// Writes the package file and keeps others from changing it; null with the sentence for the user.
-std::unique_ptr<PackagePin> preparePackage(SetupEffects& effects, const std::wstring& package,
-                                           std::wstring& message)
-{
-    const PackageOutcome extracted = effects.extractPackage(package);
-    if (!noteStep(effects, L"extract package", extracted.error, package)) {
-        message = packageSentence(extracted.fault, package);
-        return nullptr;
-    }
-    PinOutcome pinned = effects.pinPackage(package);
-    if (!noteStep(effects, L"pin package", pinned.error))
-        message = packageSentence(PackageFault::NotWritten, package);
-    return std::move(pinned.pin);
 }
 
 bool runInstaller(SetupEffects& effects, const std::wstring& parameters, SetupActionResult& result)
