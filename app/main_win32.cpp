@@ -1,13 +1,13 @@
 // Entry of TamberSetup.exe.
+#include "app/cli/requests.h"
+#include "app/cli/silent_modes.h"
 #include "app/dialogs/toolkit_texts.h"
-#include "app/exit_code.h"
-#include "app/identity.h"
-#include "app/instance_guard_win32.h"
-#include "app/process_win32.h"
-#include "app/requests.h"
+#include "app/run/exit_code.h"
+#include "app/run/identity.h"
 #include "app/screens_win32.h"
-#include "app/setup_effects_win32.h"
-#include "app/silent_modes.h"
+#include "app/windows/instance_guard_win32.h"
+#include "app/windows/process_win32.h"
+#include "app/windows/setup_effects_win32.h"
 
 #include <windows.h>
 

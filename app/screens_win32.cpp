@@ -1,12 +1,12 @@
 #include "app/screens_win32.h"
 
+#include "app/cli/interactive_flow.h"
 #include "app/dialogs/choice_dialog.h"
 #include "app/dialogs/notice_dialog.h"
 #include "app/dialogs/progress_run.h"
 #include "app/dialogs/setup_styles.h"
-#include "app/installer_library_win32.h"
-#include "app/interactive_flow.h"
-#include "app/worker_thread_win32.h"
+#include "app/windows/installer_library_win32.h"
+#include "app/windows/worker_thread_win32.h"
 
 #include "vela/render/text/text.h"
 

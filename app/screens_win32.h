@@ -2,9 +2,9 @@
 // neither skins nor fonts.
 #pragma once
 
+#include "app/cli/setup_screens.h"
 #include "app/dialogs/setup_dialog.h"
-#include "app/setup_effects.h"
-#include "app/setup_screens.h"
+#include "app/effects/setup_effects.h"
 
 namespace setup {
 

@@ -1,6 +1,6 @@
 // Parts of the C++ library that the finished file has in a smaller form. Programs that link the library's
 // own, such as the tests, leave this file out.
-#include "app/exit_code.h"
+#include "app/run/exit_code.h"
 
 #include <chrono>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "app/dialogs/choice_dialog.h"
 
-#include "app/folder_picker.h"
+#include "app/dialogs/folder_picker.h"
 
 #include "vela/controls/widgets/label.h"
 

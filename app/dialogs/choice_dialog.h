@@ -1,8 +1,8 @@
 // The first window: install, or reinstall and uninstall when the product is there.
 #pragma once
 
+#include "app/cli/setup_choice.h"
 #include "app/dialogs/setup_dialog.h"
-#include "app/setup_choice.h"
 
 #include "vela/controls/widgets/check_box.h"
 #include "vela/controls/widgets/text_input.h"

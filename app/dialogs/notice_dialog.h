@@ -1,8 +1,8 @@
 // How a run ended, or why there is none: a title, a text and OK. Ctrl+C copies it.
 #pragma once
 
+#include "app/cli/notice.h"
 #include "app/dialogs/setup_dialog.h"
-#include "app/notice.h"
 
 namespace setup {
 

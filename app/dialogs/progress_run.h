@@ -1,8 +1,8 @@
 // A task on a thread of its own while the progress dialog is up.
 #pragma once
 
+#include "app/cli/setup_screens.h"
 #include "app/dialogs/setup_dialog.h"
-#include "app/setup_screens.h"
 
 namespace setup {
 

@@ -1,7 +1,7 @@
 #include "app/dialogs/progress_run.h"
 
 #include "app/dialogs/progress_dialog.h"
-#include "app/worker_thread_win32.h"
+#include "app/windows/worker_thread_win32.h"
 
 #include <atomic>
 #include <optional>

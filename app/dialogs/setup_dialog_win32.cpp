@@ -1,6 +1,6 @@
 #include "app/dialogs/setup_dialog.h"
 
-#include "app/window_title.h"
+#include "app/dialogs/window_title.h"
 
 #include "vela/controls/window/window_geometry.h"
 #include "vela/theme/records/style_sheet.h"

@@ -1,7 +1,7 @@
 // The looks of the setup's own windows: the automatic Windows 11 skin of the catalogue.
 #pragma once
 
-#include "app/setup_effects.h"
+#include "app/effects/setup_effects.h"
 
 #include "vela/controls/window/window.h"
 

@@ -1,7 +1,7 @@
 #include "app/dialogs/setup_styles.h"
 
-#include "app/paths.h"
-#include "app/setup_skins.h"
+#include "app/dialogs/setup_skins.h"
+#include "app/run/paths.h"
 
 #include "vela/render/bitmaps/surface_bitmaps.h"
 #include "vela/render/text/fonts.h"

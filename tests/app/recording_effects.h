@@ -2,8 +2,8 @@
 // Its screen belongs to it, so that a notice has its place among the calls.
 #pragma once
 
-#include "app/notice.h"
-#include "app/setup_effects.h"
+#include "app/cli/notice.h"
+#include "app/effects/setup_effects.h"
 
 #include <algorithm>
 #include <map>

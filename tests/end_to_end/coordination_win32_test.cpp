@@ -1,5 +1,5 @@
 // Other processes: a second setup, the process to wait for, the running application.
-#include "app/identity.h"
+#include "app/run/identity.h"
 #include "tests/end_to_end/setup_test_win32.h"
 
 namespace end_to_end {

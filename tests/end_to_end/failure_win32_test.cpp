@@ -1,5 +1,5 @@
 // Runs that end early: what they report, and that they leave the machine as it was.
-#include "app/identity.h"
+#include "app/run/identity.h"
 #include "tests/end_to_end/setup_test_win32.h"
 
 #include <filesystem>

@@ -1,6 +1,6 @@
 #include "tests/end_to_end/machine_win32.h"
 
-#include "app/identity.h"
+#include "app/run/identity.h"
 #include "vela/com_pointer_win32.h"
 
 #include <filesystem>

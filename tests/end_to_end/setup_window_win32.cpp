@@ -3,7 +3,7 @@
 #include "app/dialogs/choice_dialog.h"
 #include "app/dialogs/notice_dialog.h"
 #include "app/dialogs/progress_dialog.h"
-#include "app/setup_skins.h"
+#include "app/dialogs/setup_skins.h"
 #include "tests/support/test_window_win32.h"
 #include "tools/png_file_win32.h"
 #include "vela/com_apartment_win32.h"

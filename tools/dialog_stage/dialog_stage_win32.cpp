@@ -1,6 +1,6 @@
 #include "tools/dialog_stage/dialog_stage_win32.h"
 
-#include "app/action_texts.h"
+#include "app/cli/action_texts.h"
 #include "app/dialogs/choice_dialog.h"
 #include "app/dialogs/notice_dialog.h"
 #include "app/dialogs/progress_dialog.h"

@@ -2,7 +2,7 @@
 
 #include "tools/showcase_content/exhibits.h"
 
-#include "app/action_texts.h"
+#include "app/cli/action_texts.h"
 #include "app/dialogs/choice_dialog.h"
 #include "app/dialogs/notice_dialog.h"
 #include "app/dialogs/progress_dialog.h"

@@ -1,0 +1,15 @@
+// The application's installer package, from inside this program to a file that nobody can change.
+#pragma once
+
+#include "app/effects/setup_effects.h"
+
+namespace setup {
+
+// Writes the package file; else false with the sentence for the user.
+bool extractEmbeddedPackage(SetupEffects& effects, const std::wstring& package, std::wstring& message);
+
+// Writes the package file and keeps others from changing it; null with the sentence for the user.
+std::unique_ptr<PackagePin> preparePackage(SetupEffects& effects, const std::wstring& package,
+                                           std::wstring& message);
+
+} // namespace setup
