@@ -9,7 +9,7 @@
 
 namespace setup {
 
-enum class WaitOutcome : std::uint8_t { Ended, TimedOut, Failed };
+enum class WaitResult : std::uint8_t { Ended, TimedOut, Failed };
 
 // A process held open: its id cannot pass to another one meanwhile.
 class RunningProcess {
@@ -21,13 +21,8 @@ public:
 
     // Posts `message` to every unowned top-level window; true when there was at least one.
     virtual bool postToWindows(std::uint32_t message) = 0;
-    virtual WaitOutcome wait(std::uint32_t milliseconds) = 0;
+    virtual WaitResult wait(std::uint32_t milliseconds) = 0;
     virtual WindowsError terminate() = 0;
-};
-
-struct OpenedProcess {
-    std::unique_ptr<RunningProcess> process; // null when it is gone or may not be opened
-    WindowsError error = kNoError;
 };
 
 enum class ProcessAccess : std::uint8_t { Wait, WaitAndTerminate };
@@ -47,7 +42,9 @@ public:
     virtual WindowsError startHidden(const std::wstring& commandLine, const std::wstring& folder) = 0;
     virtual WindowsError startVisible(const std::wstring& program, const std::wstring& folder) = 0;
     virtual std::vector<ProcessEntry> runningProcesses() = 0;
-    virtual OpenedProcess openProcess(std::uint32_t id, ProcessAccess access) = 0;
+    // Fails when it is gone or may not be opened.
+    virtual WindowsOutcome<std::unique_ptr<RunningProcess>> openProcess(std::uint32_t id,
+                                                                        ProcessAccess access) = 0;
 
 protected:
     ~ProcessEffects() = default; // borrowed by whoever uses it, never owned

@@ -1,5 +1,7 @@
-// How Windows says that something failed.
+// How Windows says that something failed, and what an effect gives that can.
 #pragma once
+
+#include "vela/outcome.h"
 
 #include <cstdint>
 
@@ -14,5 +16,17 @@ inline constexpr WindowsError kErrorGenFailure = 31;
 inline constexpr WindowsError kWaitTimeout = 258;
 inline constexpr WindowsError kErrorNoMoreItems = 259;
 inline constexpr WindowsError kErrorRevisionMismatch = 1306;
+
+template <typename Value>
+using WindowsOutcome = vela::Outcome<Value, WindowsError>;
+
+// A failure for which Windows left no error is a failure all the same.
+template <typename Value>
+WindowsError errorOf(const WindowsOutcome<Value>& outcome) noexcept
+{
+    if (outcome)
+        return kNoError;
+    return outcome.error() != kNoError ? outcome.error() : kErrorGenFailure;
+}
 
 } // namespace setup

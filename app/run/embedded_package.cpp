@@ -29,22 +29,23 @@ std::wstring packageSentence(PackageFault fault, const std::wstring& package)
 
 bool extractEmbeddedPackage(SetupEffects& effects, const std::wstring& package, std::wstring& message)
 {
-    const PackageOutcome extracted = effects.extractPackage(package);
-    if (noteStep(effects, L"extract package", extracted.error, package))
-        return true;
-    message = packageSentence(extracted.fault, package);
-    return false;
+    const auto extracted = effects.extractPackage(package);
+    noteStep(effects, L"extract package", extracted ? kNoError : extracted.error().error, package);
+    if (!extracted)
+        message = packageSentence(extracted.error().fault, package);
+    return static_cast<bool>(extracted);
 }
 
-std::unique_ptr<PackagePin> preparePackage(SetupEffects& effects, const std::wstring& package,
-                                           std::wstring& message)
+vela::Outcome<std::unique_ptr<PackagePin>, std::wstring> preparePackage(SetupEffects& effects,
+                                                                        const std::wstring& package)
 {
+    std::wstring message;
     if (!extractEmbeddedPackage(effects, package, message))
-        return nullptr;
-    PinOutcome pinned = effects.pinPackage(package);
-    if (!noteStep(effects, L"pin package", pinned.error))
-        message = packageSentence(PackageFault::NotWritten, package);
-    return std::move(pinned.pin);
+        return vela::Failure{std::move(message)};
+    auto pinned = effects.pinPackage(package);
+    if (!noteStep(effects, L"pin package", errorOf(pinned)))
+        return vela::Failure{packageSentence(PackageFault::NotWritten, package)};
+    return std::move(pinned.value());
 }
 
 } // namespace setup

@@ -9,11 +9,11 @@ std::vector<std::wstring> relatedProductCodes(InstallerEffects& installer)
     constexpr std::uint32_t kMostProducts = 1000;
     std::vector<std::wstring> codes;
     for (std::uint32_t index = 0; index < kMostProducts; ++index) {
-        RelatedProduct product = installer.relatedProduct(index);
-        if (product.error == kErrorNoMoreItems)
+        WindowsOutcome<std::wstring> product = installer.relatedProduct(index);
+        if (errorOf(product) == kErrorNoMoreItems)
             break;
-        if (product.error == kNoError)
-            codes.push_back(std::move(product.code));
+        if (product)
+            codes.push_back(std::move(product.value()));
     }
     return codes;
 }

@@ -13,26 +13,26 @@ constexpr std::uint32_t kTerminateMilliseconds = 1500;
 
 WindowsError terminateProcess(ProcessEffects& processes, std::uint32_t id)
 {
-    const OpenedProcess opened = processes.openProcess(id, ProcessAccess::WaitAndTerminate);
-    if (!opened.process)
-        return opened.error;
-    const WindowsError error = opened.process->terminate();
+    const auto process = processes.openProcess(id, ProcessAccess::WaitAndTerminate);
+    if (!process)
+        return errorOf(process);
+    const WindowsError error = process.value()->terminate();
     if (error == kNoError)
-        opened.process->wait(kTerminateMilliseconds);
+        process.value()->wait(kTerminateMilliseconds);
     return error;
 }
 
 void closeProcess(SetupEffects& effects, std::uint32_t id)
 {
     const std::wstring idText = vela::decimalText(id);
-    const OpenedProcess opened = effects.openProcess(id, ProcessAccess::Wait);
-    if (!opened.process) {
-        noteStep(effects, L"open running application", opened.error, idText);
+    const auto process = effects.openProcess(id, ProcessAccess::Wait);
+    if (!process) {
+        noteStep(effects, L"open running application", errorOf(process), idText);
         return;
     }
-    const bool asked = opened.process->postToWindows(kCloseRequest);
-    const WaitOutcome outcome = asked ? opened.process->wait(kCloseMilliseconds) : WaitOutcome::TimedOut;
-    if (outcome != WaitOutcome::TimedOut) {
+    const bool asked = process.value()->postToWindows(kCloseRequest);
+    const WaitResult result = asked ? process.value()->wait(kCloseMilliseconds) : WaitResult::TimedOut;
+    if (result != WaitResult::TimedOut) {
         noteStep(effects, L"close running application", kNoError, idText);
         return;
     }
@@ -46,9 +46,9 @@ void waitForProcessExit(SetupEffects& effects, std::uint32_t id, std::uint32_t m
 {
     if (id == 0 || id == effects.ownProcessId())
         return;
-    const OpenedProcess opened = effects.openProcess(id, ProcessAccess::Wait);
-    const bool stays = opened.process && opened.process->wait(milliseconds) == WaitOutcome::TimedOut;
-    noteStep(effects, L"wait for process", stays ? kWaitTimeout : opened.error, vela::decimalText(id));
+    const auto process = effects.openProcess(id, ProcessAccess::Wait);
+    const bool stays = process && process.value()->wait(milliseconds) == WaitResult::TimedOut;
+    noteStep(effects, L"wait for process", stays ? kWaitTimeout : errorOf(process), vela::decimalText(id));
 }
 
 void closeRunningApp(SetupEffects& effects)

@@ -16,8 +16,11 @@
 namespace setup {
 namespace {
 
-constexpr std::wstring_view kSetupNotCopied =
+constexpr const wchar_t* kSetupNotCopied =
     L"MSI probehlo, ale setup nedokazal zkopirovat TamberSetup.exe do instalacni slozky.";
+
+// A step after the installer's success.
+using SentenceOnFailure = vela::Outcome<vela::Done, std::wstring>;
 
 SetupActionResult beginRun(SetupEffects& effects, std::wstring_view phase)
 {
@@ -29,23 +32,21 @@ SetupActionResult beginRun(SetupEffects& effects, std::wstring_view phase)
 
 bool runInstaller(SetupEffects& effects, const std::wstring& parameters, SetupActionResult& result)
 {
-    const InstallerExit exit = effects.runInstaller(parameters);
-    result.exitCode = exit.code;
-    const bool succeeded = exit.finished && exit.code == 0;
-    const WindowsError error = exit.finished || exit.code != 0 ? exit.code : kErrorGenFailure;
-    noteStep(effects, exit.finished ? L"run installer" : L"start installer", error, parameters);
+    const WindowsOutcome<std::uint32_t> exit = effects.runInstaller(parameters);
+    result.exitCode = exit ? exit.value() : exit.error();
+    const bool succeeded = noteStep(effects, exit ? L"run installer" : L"start installer",
+                                    exit ? exit.value() : errorOf(exit), parameters);
     if (!succeeded)
-        result.message = describeInstallerExitCode(exit.code);
+        result.message = describeInstallerExitCode(result.exitCode);
     return succeeded;
 }
 
-bool copySetupInto(SetupEffects& effects, const std::wstring& folder, std::wstring& message)
+SentenceOnFailure copySetupInto(SetupEffects& effects, const std::wstring& folder)
 {
     if (noteStep(effects, L"create install folder", effects.createFolders(folder), folder) &&
         noteStep(effects, L"copy setup", effects.copySetup(joinPath(folder, kSetupFile))))
-        return true;
-    message = kSetupNotCopied;
-    return false;
+        return vela::Done{};
+    return vela::Failure{kSetupNotCopied};
 }
 
 void notifyShell(SetupEffects& effects)
@@ -54,18 +55,19 @@ void notifyShell(SetupEffects& effects)
     noteStep(effects, L"notify shell", kNoError);
 }
 
-bool integrate(SetupEffects& effects, const std::wstring& folder, const InstallRequest& request,
-               std::wstring& message)
+SentenceOnFailure integrate(SetupEffects& effects, const std::wstring& folder, const InstallRequest& request)
 {
-    if (!copySetupInto(effects, folder, message) ||
-        !configureShortcuts(effects, folder, request.startWithWindows, request.desktopShortcut, message))
-        return false;
+    if (SentenceOnFailure copied = copySetupInto(effects, folder); !copied)
+        return copied;
+    std::wstring message;
+    if (!configureShortcuts(effects, folder, request.startWithWindows, request.desktopShortcut, message))
+        return vela::Failure{std::move(message)};
     notifyShell(effects);
     const std::wstring exePath = joinPath(folder, kApplicationFile);
     if (!verifyInstalledVersion(effects, exePath, message))
-        return false;
+        return vela::Failure{std::move(message)};
     startInBackground(effects, exePath);
-    return true;
+    return vela::Done{};
 }
 
 } // namespace
@@ -74,15 +76,20 @@ SetupActionResult runInstall(SetupEffects& effects, const InstallRequest& reques
 {
     SetupActionResult result = beginRun(effects, L"install");
     const std::wstring package = tempSetupFile(effects, L"Tamber.msi");
-    std::unique_ptr<PackagePin> pin = preparePackage(effects, package, result.message);
-    if (!pin)
+    auto pin = preparePackage(effects, package);
+    if (!pin) {
+        result.message = pin.error();
         return result;
+    }
     closeRunningApp(effects);
     const std::wstring folder = normalizeInstallFolder(request.installDir);
     if (!runInstaller(effects, installParameters(package, folder, result.logPath), result))
         return result;
-    pin.reset();
-    result.success = integrate(effects, folder, request, result.message);
+    pin.value().reset();
+    const SentenceOnFailure integrated = integrate(effects, folder, request);
+    result.success = static_cast<bool>(integrated);
+    if (!integrated)
+        result.message = integrated.error();
     return result;
 }
 

@@ -26,8 +26,8 @@ std::wstring systemFolder()
     return length < folder.size() ? std::wstring(folder.data(), length) : std::wstring();
 }
 
-InstallerExit runAndWait(const std::wstring& program, const std::wstring& parameters,
-                         const std::wstring& folder)
+WindowsOutcome<std::uint32_t> runAndWait(const std::wstring& program, const std::wstring& parameters,
+                                         const std::wstring& folder)
 {
     SHELLEXECUTEINFOW info{};
     info.cbSize = sizeof info;
@@ -42,17 +42,18 @@ InstallerExit runAndWait(const std::wstring& program, const std::wstring& parame
     const DWORD error = ::GetLastError();
     const vela::OwnedKernelObject process(started ? info.hProcess : nullptr);
     if (!process)
-        return {false, error};
+        return vela::Failure{error};
     const AwakeGuard awake;
     ::WaitForSingleObject(process.get(), INFINITE);
     DWORD exitCode = 0;
-    const bool known = ::GetExitCodeProcess(process.get(), &exitCode) != FALSE;
-    return {known, exitCode};
+    if (!::GetExitCodeProcess(process.get(), &exitCode))
+        return vela::Failure{kNoError}; // it ran, and whatever Windows says now is not its answer
+    return exitCode;
 }
 
 } // namespace
 
-RelatedProduct WindowsEffects::relatedProduct(std::uint32_t index)
+WindowsOutcome<std::wstring> WindowsEffects::relatedProduct(std::uint32_t index)
 {
     using EnumRelatedProducts =
         UINT WINAPI(LPCWSTR upgradeCode, DWORD reserved, DWORD index, LPWSTR productCode);
@@ -61,15 +62,17 @@ RelatedProduct WindowsEffects::relatedProduct(std::uint32_t index)
     std::array<wchar_t, 39> code{};
     const UINT error =
         enumerate ? enumerate(kUpgradeCode.data(), 0, index, code.data()) : ERROR_NO_MORE_ITEMS;
-    return {error, code.data()};
+    if (error != ERROR_SUCCESS)
+        return vela::Failure{error};
+    return code.data();
 }
 
-InstallerExit WindowsEffects::runInstaller(const std::wstring& parameters)
+WindowsOutcome<std::uint32_t> WindowsEffects::runInstaller(const std::wstring& parameters)
 {
     // By its full path, and working in the system folder: nothing that lies beside the setup can be meant.
     const std::wstring folder = systemFolder();
     if (folder.empty())
-        return {false, ERROR_PATH_NOT_FOUND};
+        return vela::Failure{ERROR_PATH_NOT_FOUND};
     return runAndWait(joinPath(folder, kInstallerProgram), parameters, folder);
 }
 

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
-#include <optional>
 #include <span>
 
 namespace setup {
@@ -17,10 +16,12 @@ constexpr WORD kPackageResource = 3001;
 constexpr WORD kSkinsResource = 3002;
 
 // Straight from the mapped program: a resource is never copied in memory.
-struct EmbeddedFile {
-    std::span<const std::byte> bytes;
-    PackageOutcome outcome;
-};
+using EmbeddedFile = vela::Outcome<std::span<const std::byte>, PackageFailure>;
+
+vela::Failure<PackageFailure> failed(PackageFault fault, WindowsError error) noexcept
+{
+    return {{fault, error}};
+}
 
 // The error of the call that has just failed, or a stand-in when it left none: a fault is never "done".
 WindowsError lastErrorOr(WindowsError fallback) noexcept
@@ -34,29 +35,30 @@ EmbeddedFile findResource(HMODULE module, WORD id) noexcept
     ::SetLastError(kNoError);
     const HRSRC resource = ::FindResourceW(module, MAKEINTRESOURCEW(id), RT_RCDATA);
     if (!resource)
-        return {{}, {PackageFault::Absent, lastErrorOr(ERROR_RESOURCE_NAME_NOT_FOUND)}};
+        return failed(PackageFault::Absent, lastErrorOr(ERROR_RESOURCE_NAME_NOT_FOUND));
     const HGLOBAL loaded = ::LoadResource(module, resource);
     const DWORD size = ::SizeofResource(module, resource);
     const void* const data = loaded ? ::LockResource(loaded) : nullptr;
     if (!data || size == 0)
-        return {{}, {PackageFault::Unreadable, lastErrorOr(ERROR_INVALID_DATA)}};
-    return {{static_cast<const std::byte*>(data), size}, {}};
+        return failed(PackageFault::Unreadable, lastErrorOr(ERROR_INVALID_DATA));
+    return std::span(static_cast<const std::byte*>(data), size);
 }
 
 // In one write, over whatever is there.
-PackageOutcome writeWhole(std::span<const std::byte> bytes, const std::wstring& target, DWORD attributes)
+vela::Outcome<vela::Done, PackageFailure> writeWhole(std::span<const std::byte> bytes,
+                                                     const std::wstring& target, DWORD attributes)
 {
     const vela::OwnedFile file(::CreateFileW(reachablePath(target).c_str(), GENERIC_WRITE, 0, nullptr,
                                              CREATE_ALWAYS, attributes, nullptr));
     if (!file)
-        return {PackageFault::NotCreated, ::GetLastError()};
+        return failed(PackageFault::NotCreated, ::GetLastError());
     const auto size = static_cast<DWORD>(bytes.size());
     DWORD written = 0;
     if (!::WriteFile(file.get(), bytes.data(), size, &written, nullptr))
-        return {PackageFault::NotWritten, ::GetLastError()};
+        return failed(PackageFault::NotWritten, ::GetLastError());
     if (written != size)
-        return {PackageFault::NotWritten, ERROR_DISK_FULL};
-    return {};
+        return failed(PackageFault::NotWritten, ERROR_DISK_FULL);
+    return vela::Done{};
 }
 
 // Chunk by chunk, so that comparing costs no memory to speak of.
@@ -91,32 +93,35 @@ private:
 
 } // namespace
 
-PackageOutcome WindowsEffects::extractPackage(const std::wstring& target)
+vela::Outcome<vela::Done, PackageFailure> WindowsEffects::extractPackage(const std::wstring& target)
 {
     const EmbeddedFile package = findResource(module_, kPackageResource);
-    if (package.outcome.fault != PackageFault::None)
-        return package.outcome;
-    return writeWhole(package.bytes, target, FILE_ATTRIBUTE_TEMPORARY);
+    if (!package)
+        return vela::Failure{package.error()};
+    return writeWhole(package.value(), target, FILE_ATTRIBUTE_TEMPORARY);
 }
 
 WindowsError WindowsEffects::writeSkins(const std::wstring& target)
 {
     const EmbeddedFile skins = findResource(module_, kSkinsResource);
-    return skins.outcome.fault != PackageFault::None
-               ? skins.outcome.error
-               : writeWhole(skins.bytes, target, FILE_ATTRIBUTE_NORMAL).error;
+    if (!skins)
+        return skins.error().error;
+    const auto written = writeWhole(skins.value(), target, FILE_ATTRIBUTE_NORMAL);
+    return written ? kNoError : written.error().error;
 }
 
-PinOutcome WindowsEffects::pinPackage(const std::wstring& path)
+WindowsOutcome<std::unique_ptr<PackagePin>> WindowsEffects::pinPackage(const std::wstring& path)
 {
     const EmbeddedFile package = findResource(module_, kPackageResource);
+    if (!package)
+        return vela::Failure{package.error().error};
     vela::OwnedFile file(::CreateFileW(reachablePath(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
                                        OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!file)
-        return {nullptr, ::GetLastError()};
-    if (const WindowsError error = compareWithFile(package.bytes, file.get()))
-        return {nullptr, error};
-    return {std::make_unique<FilePin>(std::move(file)), kNoError};
+        return vela::Failure{::GetLastError()};
+    if (const WindowsError error = compareWithFile(package.value(), file.get()))
+        return vela::Failure{error};
+    return std::make_unique<FilePin>(std::move(file));
 }
 
 } // namespace setup

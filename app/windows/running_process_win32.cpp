@@ -37,12 +37,12 @@ public:
         return request.found;
     }
 
-    WaitOutcome wait(std::uint32_t milliseconds) override
+    WaitResult wait(std::uint32_t milliseconds) override
     {
         switch (::WaitForSingleObject(process_.get(), milliseconds)) {
-        case WAIT_OBJECT_0: return WaitOutcome::Ended;
-        case WAIT_TIMEOUT: return WaitOutcome::TimedOut;
-        default: return WaitOutcome::Failed;
+        case WAIT_OBJECT_0: return WaitResult::Ended;
+        case WAIT_TIMEOUT: return WaitResult::TimedOut;
+        default: return WaitResult::Failed;
         }
     }
 
@@ -74,13 +74,14 @@ std::vector<ProcessEntry> WindowsEffects::runningProcesses()
     return processes;
 }
 
-OpenedProcess WindowsEffects::openProcess(std::uint32_t id, ProcessAccess access)
+WindowsOutcome<std::unique_ptr<RunningProcess>> WindowsEffects::openProcess(std::uint32_t id,
+                                                                            ProcessAccess access)
 {
     const DWORD rights = SYNCHRONIZE | (access == ProcessAccess::WaitAndTerminate ? PROCESS_TERMINATE : 0);
     vela::OwnedKernelObject process(::OpenProcess(rights, FALSE, id));
     if (!process)
-        return {nullptr, ::GetLastError()};
-    return {std::make_unique<WindowsProcess>(std::move(process), id), kNoError};
+        return vela::Failure{::GetLastError()};
+    return std::make_unique<WindowsProcess>(std::move(process), id);
 }
 
 } // namespace setup

@@ -26,10 +26,10 @@ public:
     std::optional<ProductVersion> productVersion(const std::wstring& path) override;
 
     // The Windows Installer and its package.
-    RelatedProduct relatedProduct(std::uint32_t index) override;
-    PackageOutcome extractPackage(const std::wstring& target) override;
-    PinOutcome pinPackage(const std::wstring& path) override;
-    InstallerExit runInstaller(const std::wstring& parameters) override;
+    WindowsOutcome<std::wstring> relatedProduct(std::uint32_t index) override;
+    vela::Outcome<vela::Done, PackageFailure> extractPackage(const std::wstring& target) override;
+    WindowsOutcome<std::unique_ptr<PackagePin>> pinPackage(const std::wstring& path) override;
+    WindowsOutcome<std::uint32_t> runInstaller(const std::wstring& parameters) override;
 
     // The shell.
     std::int32_t createShellLink(const ShellLink& link) override;
@@ -40,7 +40,8 @@ public:
     WindowsError startHidden(const std::wstring& commandLine, const std::wstring& folder) override;
     WindowsError startVisible(const std::wstring& program, const std::wstring& folder) override;
     std::vector<ProcessEntry> runningProcesses() override;
-    OpenedProcess openProcess(std::uint32_t id, ProcessAccess access) override;
+    WindowsOutcome<std::unique_ptr<RunningProcess>> openProcess(std::uint32_t id,
+                                                                ProcessAccess access) override;
 
     void writeLogLine(const std::wstring& line) override;
 

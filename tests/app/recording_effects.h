@@ -28,7 +28,7 @@ public:
     // What fails: the call that begins with this text, with this error (an exit code for the installer).
     std::wstring failingCall;
     WindowsError failure = kNoError;
-    PackageFault packageFault = PackageFault::None;
+    PackageFault packageFault = PackageFault::Absent; // of a failing extraction
 
     // What was seen.
     Calls calls;
@@ -55,28 +55,36 @@ public:
         notices.push_back(notice);
     }
 
-    RelatedProduct relatedProduct(std::uint32_t index) override
+    WindowsOutcome<std::wstring> relatedProduct(std::uint32_t index) override
     {
         if (index >= products.size())
-            return {kErrorNoMoreItems, {}};
+            return vela::Failure{kErrorNoMoreItems};
         // An entry without a code stands for one that the installer cannot read.
-        return {products[index].empty() ? 1610U : kNoError, products[index]};
+        if (products[index].empty())
+            return vela::Failure{1610U};
+        return products[index];
     }
-    PackageOutcome extractPackage(const std::wstring& target) override
+    vela::Outcome<vela::Done, PackageFailure> extractPackage(const std::wstring& target) override
     {
         const WindowsError error = call(L"extract ", target);
-        return {error != kNoError ? packageFault : PackageFault::None, error};
+        if (error != kNoError)
+            return vela::Failure{PackageFailure{packageFault, error}};
+        return vela::Done{};
     }
-    PinOutcome pinPackage(const std::wstring& path) override
+    WindowsOutcome<std::unique_ptr<PackagePin>> pinPackage(const std::wstring& path) override
     {
         const WindowsError error = call(L"pin ", path);
-        return {error == kNoError ? std::make_unique<Pin>(*this) : nullptr, error};
+        if (error != kNoError)
+            return vela::Failure{error};
+        return std::make_unique<Pin>(*this);
     }
     WindowsError writeSkins(const std::wstring& target) override { return call(L"skins ", target); }
-    InstallerExit runInstaller(const std::wstring& parameters) override
+    WindowsOutcome<std::uint32_t> runInstaller(const std::wstring& parameters) override
     {
         const WindowsError code = call(L"msiexec ", parameters);
-        return {code != kErrorNotStarted, code};
+        if (code == kErrorNotStarted)
+            return vela::Failure{code};
+        return code;
     }
 
     WindowsError createFolders(const std::wstring& folder) override { return call(L"create ", folder); }
@@ -106,11 +114,14 @@ public:
         call(L"processes", L"");
         return processes;
     }
-    OpenedProcess openProcess(std::uint32_t id, ProcessAccess access) override
+    WindowsOutcome<std::unique_ptr<RunningProcess>> openProcess(std::uint32_t id,
+                                                                ProcessAccess access) override
     {
         const WindowsError error =
             call(access == ProcessAccess::Wait ? L"open " : L"reopen ", std::to_wstring(id));
-        return {error == kNoError ? std::make_unique<Process>(*this) : nullptr, error};
+        if (error != kNoError)
+            return vela::Failure{error};
+        return std::make_unique<Process>(*this);
     }
 
     static constexpr WindowsError kErrorNotStarted = 1223;
@@ -129,11 +140,11 @@ private:
             owner.call(L"post ", std::to_wstring(message));
             return !owner.windowless;
         }
-        WaitOutcome wait(std::uint32_t milliseconds) override
+        WaitResult wait(std::uint32_t milliseconds) override
         {
             if (owner.call(L"wait ", std::to_wstring(milliseconds)) != kNoError)
-                return WaitOutcome::Failed;
-            return owner.deaf ? WaitOutcome::TimedOut : WaitOutcome::Ended;
+                return WaitResult::Failed;
+            return owner.deaf ? WaitResult::TimedOut : WaitResult::Ended;
         }
         WindowsError terminate() override { return owner.call(L"terminate", L""); }
         RecordingEffects& owner;

@@ -115,12 +115,14 @@ TEST_F(Files, TheSameFileUnderAnotherNameCountsAsCopied)
 TEST_F(Files, AProgramWithoutAPackageSaysSoAndPinsNothing)
 {
     const std::wstring path = in(L"package");
-    EXPECT_EQ(effects_.extractPackage(path).fault, PackageFault::Absent);
+    const auto extracted = effects_.extractPackage(path);
+    ASSERT_FALSE(extracted);
+    EXPECT_EQ(extracted.error().fault, PackageFault::Absent);
     EXPECT_FALSE(effects_.fileExists(path)) << "nothing is created before the package is found";
     write(path, "not the package");
-    const PinOutcome pinned = effects_.pinPackage(path);
-    EXPECT_EQ(pinned.pin, nullptr);
-    EXPECT_NE(pinned.error, kNoError);
+    const auto pinned = effects_.pinPackage(path);
+    ASSERT_FALSE(pinned);
+    EXPECT_NE(pinned.error(), kNoError);
     EXPECT_EQ(effects_.deleteFile(path), kNoError) << "a file that was refused is not held";
 }
 
