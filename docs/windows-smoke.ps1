@@ -2,7 +2,7 @@
 # Exit code: the number of failed checks.
 param(
     [Parameter(Mandatory = $true)] [string] $Setup,
-    [string] $Version = '0.1.492'
+    [string] $Version # what the file must be; not given, whatever it says of itself
 )
 
 $ErrorActionPreference = 'Stop'
@@ -31,7 +31,10 @@ if ((Get-ProductCount) -ne 0) { throw 'Tamber is installed here. Use a machine w
 
 Write-Host '-- the file'
 $info = (Get-Item $Setup).VersionInfo
-Check 'version block' ($info.ProductName -eq 'Tamber' -and $info.ProductVersion -eq $Version)
+if (-not $Version) { $Version = $info.ProductVersion }
+Write-Host "version $Version"
+Check 'version block' ($info.ProductName -eq 'Tamber' -and $info.ProductVersion -eq $Version -and
+    $info.FileVersion -eq $Version -and $Version -match '^\d+\.\d+\.\d+$')
 Check 'signature is valid' ((Get-AuthenticodeSignature $Setup).Status -eq 'Valid')
 
 Write-Host '-- first install'

@@ -1,12 +1,14 @@
-// What the setup installs: the names and numbers that every part of the program shares.
+// What the setup installs: the names and numbers that every part of the program shares. The version comes
+// from the build.
 #pragma once
+
+#include "app/run/version.h"
 
 #include <string_view>
 
 namespace setup {
 
 inline constexpr std::wstring_view kProductName = L"Tamber";
-inline constexpr std::wstring_view kVersionText = L"0.1.492";
 inline constexpr std::wstring_view kApplicationFile = L"Tamber.exe";
 inline constexpr std::wstring_view kSetupFile = L"TamberSetup.exe";
 inline constexpr std::wstring_view kShortcutFile = L"Tamber.lnk";

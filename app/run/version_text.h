@@ -11,8 +11,8 @@ namespace setup {
 // The four parts in decimal, joined with dots.
 std::wstring versionText(const ProductVersion& version);
 
-// Commas count as dots, white space around the text and ".0" from the fourth part on do not count: 0.1.492.0
-// is 0.1.492.
+// Commas count as dots, white space around the text and ".0" from the fourth part on do not count: 1.2.3.0 is
+// 1.2.3.
 std::wstring normalizeVersion(std::wstring_view text);
 
 } // namespace setup

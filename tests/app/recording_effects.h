@@ -20,7 +20,7 @@ public:
     std::vector<std::wstring> files;
     std::map<KnownFolder, std::wstring> folders{{KnownFolder::Desktop, L"D:\\Desktop"},
                                                 {KnownFolder::Startup, L"D:\\Startup"}};
-    std::optional<ProductVersion> installedVersion = ProductVersion{0, 1, 492, 0};
+    std::optional<ProductVersion> installedVersion = ProductVersion{TAMBER_VERSION_NUMBERS, 0};
     std::vector<ProcessEntry> processes;
     bool windowless = false;
     bool deaf = false; // running applications do not close when asked

@@ -56,7 +56,7 @@ TEST_F(Failure, OfTheVersionCheckStartsNoOldApplication)
     EXPECT_EQ(runSetup(L"--install --quiet --restart-app", builtFile(L"setup_with_old_version_package.exe")),
               4U);
     EXPECT_NE(stepLog().find("check installed version: failed"), std::string::npos) << stepLog();
-    EXPECT_NE(stepLog().find("0.1.491.0"), std::string::npos) << stepLog();
+    EXPECT_NE(stepLog().find(TAMBER_OLD_VERSION), std::string::npos) << stepLog();
     EXPECT_EQ(installedProducts().size(), 1U);
     EXPECT_TRUE(exists(startupShortcut()));
     EXPECT_TRUE(applicationStarts().empty());

@@ -14,7 +14,7 @@ const std::wstring kPlaygroundFolder = kPlayground;
 
 std::wstring completed(std::wstring_view title)
 {
-    return std::wstring(title).append(L" - Tamber - v0.1.492");
+    return std::wstring(title).append(L" - Tamber - v" TAMBER_VERSION);
 }
 
 // How often the setup has opened the application for its user.

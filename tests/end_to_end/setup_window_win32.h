@@ -29,7 +29,7 @@ private:
     std::map<std::wstring, vela::Rect, std::less<>> places_;
 };
 
-inline constexpr std::wstring_view kSetupTitle = L"Tamber - v0.1.492 Setup";
+inline constexpr std::wstring_view kSetupTitle = L"Tamber - v" TAMBER_VERSION L" Setup";
 
 const DialogPlan& installPlan();   // the first window where nothing is installed
 const DialogPlan& installedPlan(); // and where the product is there

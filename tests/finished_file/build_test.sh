@@ -1,8 +1,8 @@
 #!/bin/sh
-# build_test.sh EXE OTHER_PACKAGE FOLDER: builds the product once more in FOLDER and compares. Then changes the
+# build_test.sh EXE OTHER_PACKAGE FOLDER VERSION: builds the product once more in FOLDER and compares. Then changes the
 # package and the signing command there and looks for the effect of both.
 set -eu
-exe=$1 other_package=$2 folder=$3
+exe=$1 other_package=$2 folder=$3 version=$4
 cd "$(dirname "$0")/../.."
 again=$folder/TamberSetup.exe
 
@@ -22,4 +22,4 @@ grep -q "$(sha256sum "$again" | cut -d' ' -f1)" "$folder.log" || fail "The build
 build -D TAMBER_PACKAGE="$other_package" -D 'TAMBER_SIGN_COMMAND=sh;-c;cat "$0" >"$0.signed"'
 cmp -s "$exe" "$again" && fail "The other package is not embedded."
 cmp "$again" "$again.signed" || fail "The signing command did not get the finished file."
-/usr/bin/python3 tests/finished_file/finished_file_test.py "$again" "$other_package" "$PWD"
+/usr/bin/python3 tests/finished_file/finished_file_test.py "$again" "$other_package" "$PWD" "$version"

@@ -1,6 +1,6 @@
 """Reads the finished TamberSetup.exe and checks what it promises Windows and its users.
 
-Usage: finished_file_test.py EXE PACKAGE SOURCE_FOLDER
+Usage: finished_file_test.py EXE PACKAGE SOURCE_FOLDER VERSION
 """
 
 import json
@@ -12,6 +12,7 @@ from pathlib import Path
 import pefile
 
 EXE, PACKAGE, SOURCE = (Path(argument) for argument in sys.argv[1:4])
+VERSION = sys.argv[4]
 
 # Windows maps these from its own folder whatever lies beside the program; all others are loaded on demand.
 SAFE_IMPORTS = {"kernel32.dll", "user32.dll", "gdi32.dll", "advapi32.dll", "shell32.dll", "ole32.dll",
@@ -101,7 +102,7 @@ class FinishedFile(unittest.TestCase):
             (element,) = root.findall(path, MANIFEST_NAMES)
             return element
 
-        self.assertEqual(only("asm1:assemblyIdentity").get("version"), "0.1.492.0")
+        self.assertEqual(only("asm1:assemblyIdentity").get("version"), f"{VERSION}.0")
         level = only(".//asm3:requestedExecutionLevel")
         self.assertEqual((level.get("level"), level.get("uiAccess")), ("requireAdministrator", "false"))
         self.assertEqual(only(".//ws2016:dpiAwareness").text, "PerMonitorV2")
@@ -117,12 +118,13 @@ class FinishedFile(unittest.TestCase):
         (fixed,) = self.pe.VS_FIXEDFILEINFO
         for most, least in ((fixed.FileVersionMS, fixed.FileVersionLS),
                             (fixed.ProductVersionMS, fixed.ProductVersionLS)):
-            self.assertEqual((most >> 16, most & 0xFFFF, least >> 16, least & 0xFFFF), (0, 1, 492, 0))
+            numbers = (most >> 16, most & 0xFFFF, least >> 16, least & 0xFFFF)
+            self.assertEqual(".".join(map(str, numbers)), f"{VERSION}.0")
         strings = {key.decode(): value.decode() for info in self.pe.FileInfo[0] if info.Key == b"StringFileInfo"
                    for table in info.StringTable for key, value in table.entries.items()}
         self.assertEqual({key: strings[key] for key in ("ProductName", "ProductVersion", "FileVersion",
                                                         "OriginalFilename", "FileDescription")},
-                         {"ProductName": "Tamber", "ProductVersion": "0.1.492", "FileVersion": "0.1.492",
+                         {"ProductName": "Tamber", "ProductVersion": VERSION, "FileVersion": VERSION,
                           "OriginalFilename": "TamberSetup.exe", "FileDescription": "Tamber Setup"})
 
     def test_icon_has_every_size_in_full_colour(self):

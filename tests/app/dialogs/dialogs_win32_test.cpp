@@ -71,7 +71,7 @@ constexpr Part kFolderLabel{L"install-folder-label", {64, 180, 220, 24}, L"Insta
 TEST(ChoiceDialogTest, OffersToInstallWhatIsNotThere)
 {
     ChoiceDialog dialog(host(), {});
-    expectWindow(dialog, {690, 420}, L"Tamber - v0.1.492 Setup");
+    expectWindow(dialog, {690, 420}, L"Tamber - v" TAMBER_VERSION L" Setup");
     expectParts(dialog,
                 {kFolderLabel,
                  {L"install-folder",
@@ -98,7 +98,7 @@ TEST(ChoiceDialogTest, OffersToReinstallOrRemoveWhatIs)
     state.choice.install.startWithWindows = false;
     state.choice.install.desktopShortcut = true;
     ChoiceDialog dialog(host(), state);
-    expectWindow(dialog, {690, 420}, L"Tamber - v0.1.492 Setup");
+    expectWindow(dialog, {690, 420}, L"Tamber - v" TAMBER_VERSION L" Setup");
     expectParts(dialog, {kFolderLabel,
                          {L"install-folder",
                           {64, 206, 560, 32},
@@ -187,7 +187,7 @@ TEST(ChoiceDialogTest, ReturnsWhatTheUserChanged)
 TEST(ProgressDialogTest, ShowsWhatIsUnderWay)
 {
     ProgressDialog dialog(host(), L"Instaluju Tambere", L"Telo.");
-    expectWindow(dialog, {640, 286}, L"Instaluju Tambere - Tamber - v0.1.492");
+    expectWindow(dialog, {640, 286}, L"Instaluju Tambere - Tamber - v" TAMBER_VERSION);
     expectParts(dialog, {{L"setup-progress.bar", {74, 166, 492, 28}, L"8%", L""},
                          {L"setup-progress.status",
                           {74, 204, 492, 28},
@@ -231,7 +231,7 @@ TEST(NoticeDialogTest, TellsHowItEnded)
 {
     for (const bool danger : {false, true}) {
         NoticeDialog dialog(host(), {L"Nadpis", L"Telo.", danger});
-        expectWindow(dialog, {620, 276}, L"Nadpis - Tamber - v0.1.492");
+        expectWindow(dialog, {620, 276}, L"Nadpis - Tamber - v" TAMBER_VERSION);
         EXPECT_EQ(dialog.popup().id(), L"notice.popup");
         EXPECT_EQ(dialog.popup().styleKey(), danger ? L"danger" : L"default");
         EXPECT_EQ(actionsOf(dialog, {L"ok"}), L"OK ");

@@ -13,7 +13,7 @@
 namespace setup {
 namespace {
 
-constexpr const wchar_t* kTitle = L"Zkousim - Tamber - v0.1.492";
+constexpr const wchar_t* kTitle = L"Zkousim - Tamber - v" TAMBER_VERSION;
 
 HWND findDialog() { return ::FindWindowW(L"VelaDesignWindow", kTitle); }
 

@@ -145,12 +145,13 @@ TEST(InstallRun, EveryStepThatCanFailHasARowAbove)
 TEST(InstallRun, AnotherVersionInTheFolderIsNamedAndNotStarted)
 {
     RecordingEffects effects;
-    effects.installedVersion = ProductVersion{0, 1, 492, 5};
+    effects.installedVersion = ProductVersion{TAMBER_VERSION_NUMBERS, 5};
     const SetupActionResult result = runInstall(effects, kRequest);
     EXPECT_FALSE(result.success);
-    EXPECT_EQ(result.message,
-              L"Instalace probehla, ale nainstalovany Tamber.exe ma verzi 0.1.492.5 misto ocekavane 0.1.492. "
-              L"Setup nespusti starou aplikaci; spust instalaci znovu.");
+    const std::wstring version = L"" TAMBER_VERSION;
+    EXPECT_EQ(result.message, L"Instalace probehla, ale nainstalovany Tamber.exe ma verzi " + version +
+                                  L".5 misto ocekavane " + version +
+                                  L". Setup nespusti starou aplikaci; spust instalaci znovu.");
     EXPECT_EQ(effects.calls.back(), L"version E:\\Apps\\Tamber\\Tamber.exe");
 }
 

@@ -119,11 +119,11 @@ TEST(ResultText, NamesWhatIsKnownLineByLine)
 TEST(WindowTitle, NamesTheVersion)
 {
     const Pair rows[] = {
-        {L"", L"Tamber - v0.1.492 Setup"},
-        {L"Tamber Setup", L"Tamber - v0.1.492 Setup"},
-        {L"Tamber - v0.1.492 Setup", L"Tamber - v0.1.492 Setup"},
-        {L"Nainstalovano", L"Nainstalovano - Tamber - v0.1.492"},
-        {L"tamber setup", L"tamber setup - Tamber - v0.1.492"},
+        {L"", L"Tamber - v" TAMBER_VERSION L" Setup"},
+        {L"Tamber Setup", L"Tamber - v" TAMBER_VERSION L" Setup"},
+        {L"Tamber - v" TAMBER_VERSION L" Setup", L"Tamber - v" TAMBER_VERSION L" Setup"},
+        {L"Nainstalovano", L"Nainstalovano - Tamber - v" TAMBER_VERSION},
+        {L"tamber setup", L"tamber setup - Tamber - v" TAMBER_VERSION},
     };
     for (const Pair& row : rows)
         EXPECT_EQ(setupTitle(row.from), row.to);
