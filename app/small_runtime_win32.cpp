@@ -1,5 +1,6 @@
-// Parts of the C++ library that the finished file has in a smaller form. Programs that link the library's
-// own, such as the tests, leave this file out.
+// Parts of the C++ library that the finished file has in a smaller form. They go by the library's own names,
+// which the linker then takes from here: CMakeLists.txt names the compiler versions that this is known to
+// suit.
 #include "app/run/exit_code.h"
 
 #include <chrono>

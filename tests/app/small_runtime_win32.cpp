@@ -1,6 +1,6 @@
 // The parts of the C++ library that app/small_runtime_win32.cpp replaces, linked as the finished file links
-// them: a test program of its own, because the test library needs the originals. Its exit code is the number
-// of checks that failed.
+// them: a test program of its own, because the test library brings originals along. Its exit code is the
+// number of checks that failed.
 #include "app/windows/worker_thread_win32.h"
 
 #include <atomic>

@@ -19,7 +19,7 @@ SAFE_IMPORTS = {"kernel32.dll", "user32.dll", "gdi32.dll", "advapi32.dll", "shel
                 "oleaut32.dll", "msvcrt.dll", "shlwapi.dll"}
 EXPORTS = {b"NvOptimusEnablement", b"AmdPowerXpressRequestHighPerformance"}
 ICON_SIZES = {16, 20, 24, 32, 40, 48, 64, 256}
-LARGEST_OWN_SIZE = 700_000
+LARGEST_OWN_SIZE = 750_000
 MANIFEST_NAMES = {
     "asm1": "urn:schemas-microsoft-com:asm.v1", "asm3": "urn:schemas-microsoft-com:asm.v3",
     "compat": "urn:schemas-microsoft-com:compatibility.v1",
