@@ -5,7 +5,7 @@
 namespace setup {
 namespace {
 
-TEST(CommandLine, AreFoundAnywhereInAnyCaseAndOthersArePassedOver)
+TEST(CommandLineOptions, AreFoundAnywhereInAnyCaseAndOthersArePassedOver)
 {
     const CommandLine line =
         parseCommandLine({L"stray", L"--INSTALL", L"--no-Startup", L"/quiet", L"--desktop", L"--quietly"});
@@ -21,7 +21,7 @@ TEST(CommandLine, AreFoundAnywhereInAnyCaseAndOthersArePassedOver)
     EXPECT_FALSE(rest.install || rest.noStartup || rest.desktop);
 }
 
-TEST(CommandLine, TakeTheArgumentRightAfterTheFirstMatchingName)
+TEST(CommandLineOptions, TakeTheArgumentRightAfterTheFirstMatchingName)
 {
     const struct {
         std::vector<std::wstring> arguments;
@@ -42,14 +42,14 @@ TEST(CommandLine, TakeTheArgumentRightAfterTheFirstMatchingName)
     EXPECT_TRUE(parseCommandLine({L"--install-dir", L"--install"}).install) << "a value is still an argument";
 }
 
-TEST(CommandLine, InstallWinsOverUninstall)
+TEST(CommandLineOptions, InstallWinsOverUninstall)
 {
     EXPECT_EQ(runModeOf(parseCommandLine({L"--uninstall", L"--install"})), RunMode::Install);
     EXPECT_EQ(runModeOf(parseCommandLine({L"--uninstall"})), RunMode::Uninstall);
     EXPECT_EQ(runModeOf(parseCommandLine({L"--restart-app", L"--quiet"})), RunMode::Interactive);
 }
 
-TEST(CommandLine, AProcessIdIsADecimalNumberOrNothing)
+TEST(CommandLineOptions, AProcessIdIsADecimalNumberOrNothing)
 {
     const struct {
         std::wstring_view text;

@@ -1,7 +1,5 @@
 #include "app/cli/interactive_flow.h"
 
-#include "app/dialogs/progress_dialog.h"
-#include "app/dialogs/setup_skins.h"
 #include "tests/app/recording_effects.h"
 
 #include <gmock/gmock.h>
@@ -165,38 +163,6 @@ TEST(InteractiveFlow, StartsFromTheMachineAsItIs)
         EXPECT_EQ(user.seen.choice.install.installDir, L"C:\\Program Files\\Tamber");
         EXPECT_EQ(user.seen.choice.install.startWithWindows, row.startWithWindows);
         EXPECT_EQ(user.seen.choice.install.desktopShortcut, row.desktopShortcut);
-    }
-}
-
-TEST(ProgressCycle, FillsAndBeginsAnew)
-{
-    std::vector<std::int32_t> values{kFirstProgress};
-    while (values.size() < 16)
-        values.push_back(nextProgress(values.back()));
-    EXPECT_THAT(values, ElementsAre(8, 15, 22, 29, 36, 43, 50, 57, 64, 71, 78, 85, 92, 18, 25, 32));
-}
-
-TEST(SetupSkins, TheOwnFolderIsWrittenAnewAndLeftOutWhenItCannotBe)
-{
-    const std::wstring beside = L"C:\\Downloads\\skins";
-    const std::wstring own = L"D:\\Local\\Tamber\\setup-skins";
-    const struct {
-        std::wstring failingCall;
-        std::vector<std::wstring> folders;
-        Calls calls;
-    } rows[] = {
-        {L"", {beside, own}, {L"create " + own, L"skins " + own + L"\\00-vela-default-skins.json"}},
-        {L"create", {beside}, {L"create " + own}},
-        {L"skins", {beside}, {L"create " + own, L"skins " + own + L"\\00-vela-default-skins.json"}},
-    };
-    for (const auto& row : rows) {
-        RecordingEffects effects;
-        effects.folders = {{KnownFolder::LocalAppData, L"D:\\Local"}};
-        effects.failingCall = row.failingCall;
-        effects.failure = 5;
-        EXPECT_EQ(prepareSkinFolders(effects), row.folders);
-        EXPECT_EQ(effects.calls, row.calls);
-        EXPECT_EQ(effects.log.empty(), row.failingCall.empty());
     }
 }
 

@@ -1,7 +1,5 @@
 #include "app/cli/silent_modes.h"
 
-#include "app/run/action_result.h"
-#include "app/run/user_folders.h"
 #include "tests/app/recording_effects.h"
 
 #include <gmock/gmock.h>
@@ -12,44 +10,11 @@ namespace {
 
 using test::Calls;
 using test::RecordingEffects;
-using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
-using ::testing::Not;
 
 const std::wstring kVisible = L"visible C:\\Program Files\\Tamber\\Tamber.exe in C:\\Program Files\\Tamber";
-
-TEST(RunRequest, ReinstallKeepsTheShortcutsAndAFirstInstallStartsWithWindows)
-{
-    const std::wstring startup = L"D:\\Startup\\Tamber.lnk";
-    const std::wstring desktop = L"D:\\Desktop\\Tamber.lnk";
-    const struct {
-        std::vector<std::wstring> arguments;
-        bool installed;
-        std::vector<std::wstring> files;
-        bool startWithWindows;
-        bool desktopShortcut;
-    } rows[] = {
-        {{}, false, {}, true, false},
-        {{}, true, {}, false, false},
-        {{}, true, {startup, desktop}, true, true},
-        {{}, false, {desktop}, true, true},
-        {{L"--desktop"}, true, {startup}, true, true},
-        {{L"--no-startup"}, false, {}, false, false},
-        {{L"--no-startup"}, true, {startup}, false, false},
-    };
-    for (const auto& row : rows) {
-        RecordingEffects effects;
-        effects.files = row.files;
-        if (row.installed)
-            effects.products = {L"{A}"};
-        const RunRequest request = readRunRequest(parseCommandLine(row.arguments), effects);
-        EXPECT_EQ(request.install.startWithWindows, row.startWithWindows);
-        EXPECT_EQ(request.install.desktopShortcut, row.desktopShortcut);
-        EXPECT_EQ(request.install.installDir, L"C:\\Program Files\\Tamber");
-    }
-}
 
 struct InstallRow {
     std::vector<std::wstring> arguments;
@@ -152,25 +117,6 @@ TEST(SilentUninstall, AnswersWithItsExitCodeAndNotice)
     EXPECT_TRUE(effects.notices[1].danger);
     EXPECT_EQ(runSilentUninstall(effects, effects, true), 5);
     EXPECT_EQ(effects.notices.size(), 2U);
-}
-
-TEST(SilentModes, WhateverARunThrowsBecomesAResult)
-{
-    const SetupActionResult result = resultOf([]() -> SetupActionResult { throw std::bad_alloc(); });
-    EXPECT_FALSE(result.success);
-    EXPECT_EQ(
-        composeResultText(result, L"unused"),
-        L"Akce selhala ve fazi: setup\nSetup narazil na neocekavanou chybu. Zkus ho prosim spustit znovu.\n");
-}
-
-TEST(UserFolders, FallBackToTheEnvironment)
-{
-    RecordingEffects effects;
-    effects.folders = {{KnownFolder::LocalAppData, L"D:\\Local"}};
-    EXPECT_EQ(userDataFolder(effects), L"D:\\Local\\Tamber");
-    EXPECT_EQ(desktopShortcutPath(effects), L"%USERPROFILE%\\Desktop\\Tamber.lnk");
-    effects.folders.clear();
-    EXPECT_EQ(userDataFolder(effects), L"%LOCALAPPDATA%\\Tamber");
 }
 
 } // namespace

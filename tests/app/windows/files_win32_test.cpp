@@ -1,6 +1,5 @@
 #include "app/run/paths.h"
 #include "app/windows/file_copy_win32.h"
-#include "app/windows/instance_guard_win32.h"
 #include "app/windows/process_win32.h"
 #include "app/windows/reachable_path_win32.h"
 #include "app/windows/setup_effects_win32.h"
@@ -135,19 +134,6 @@ TEST_F(Files, AVersionIsReadOnlyFromAVersionBlock)
     EXPECT_FALSE(effects_.productVersion(text));
     EXPECT_FALSE(effects_.productVersion(in(L"absent")));
     effects_.deleteFile(text);
-}
-
-TEST(SetupInstanceGuard, LetsOneSetupWorkAtATime)
-{
-    const wchar_t* const name = L"Local\\Corvalin.Tamber.Setup.Test";
-    {
-        const SetupInstanceGuard first(name);
-        EXPECT_FALSE(first.alreadyRunning());
-        EXPECT_TRUE(SetupInstanceGuard(name).alreadyRunning());
-        EXPECT_TRUE(SetupInstanceGuard(name).alreadyRunning())
-            << "one that was turned away takes nothing with it";
-    }
-    EXPECT_FALSE(SetupInstanceGuard(name).alreadyRunning());
 }
 
 } // namespace
