@@ -6,9 +6,9 @@
 #include "app/dialogs/progress_run.h"
 #include "app/dialogs/setup_styles.h"
 #include "app/windows/installer_library_win32.h"
-#include "app/windows/worker_thread_win32.h"
 
 #include "vela/render/text/text.h"
+#include "vela/worker_thread_win32.h"
 
 namespace setup {
 
@@ -33,7 +33,7 @@ int runInteractiveSetup(SetupEffects& effects, WindowScreens& screens)
 {
     vela::openTextEngine();
     // The installer's libraries are loaded while the skins are read.
-    const WorkerThread ahead(installerLibrary);
+    const vela::WorkerThread ahead(installerLibrary);
     screens.prepare();
     return runInteractiveFlow(effects, screens);
 }

@@ -1,7 +1,8 @@
 #include "app/dialogs/progress_run.h"
 
 #include "app/dialogs/progress_dialog.h"
-#include "app/windows/worker_thread_win32.h"
+
+#include "vela/worker_thread_win32.h"
 
 #include <atomic>
 #include <optional>
@@ -81,7 +82,7 @@ SetupActionResult runWithProgress(DialogHost host, std::wstring_view title, std:
     handOver.window = dialog.handle();
     dialog.setMessageHook(progressHook(dialog, handOver));
     ::SetTimer(dialog.handle(), kProgressTimer, kProgressPeriod, nullptr);
-    const WorkerThread worker([&handOver] { work(handOver); });
+    const vela::WorkerThread worker([&handOver] { work(handOver); });
     if (!worker) {
         dialog.destroy();
         return resultOf(task);

@@ -1,7 +1,7 @@
 // The parts of the C++ library that app/small_runtime_win32.cpp replaces, linked as the finished file links
 // them: a test program of its own, because the test library brings originals along. Its exit code is the
 // number of checks that failed.
-#include "app/windows/worker_thread_win32.h"
+#include "vela/worker_thread_win32.h"
 
 #include <atomic>
 #include <chrono>
@@ -23,13 +23,13 @@ void check(bool holds, const char* what)
     ++failures;
 }
 
-using Threads = std::vector<std::unique_ptr<setup::WorkerThread>>;
+using Threads = std::vector<std::unique_ptr<vela::WorkerThread>>;
 
 void inThreads(int count, const std::function<void()>& work)
 {
     Threads threads;
     for (int i = 0; i < count; ++i)
-        threads.push_back(std::make_unique<setup::WorkerThread>(work));
+        threads.push_back(std::make_unique<vela::WorkerThread>(work));
 }
 
 std::atomic<int> attempts = 0;

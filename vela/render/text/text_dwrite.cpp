@@ -1,10 +1,10 @@
 #include "vela/render/text/text_dwrite.h"
 
 #include "vela/library_win32.h"
-#include "vela/owned_win32.h"
 #include "vela/render/text/glyph_store_dwrite.h"
 #include "vela/text_clusters.h"
 #include "vela/toolkit_texts.h"
+#include "vela/worker_thread_win32.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,7 +12,6 @@
 #include <utility>
 
 #include <dwrite_3.h>
-#include <process.h>
 
 namespace vela {
 namespace {
@@ -301,12 +300,6 @@ constexpr std::int32_t alignedLeft(TextAlign align, std::int32_t room) noexcept
     return align == TextAlign::Left ? 0 : align == TextAlign::Center ? room / 2 : room;
 }
 
-unsigned __stdcall openEngine(void*)
-{
-    Engine::instance();
-    return 0;
-}
-
 } // namespace
 
 void openTextEngine()
@@ -316,8 +309,7 @@ void openTextEngine()
     WNDCLASSEXW known{};
     known.cbSize = sizeof known;
     ::GetClassInfoExW(nullptr, L"Static", &known);
-    static const OwnedKernelObject thread(
-        reinterpret_cast<HANDLE>(::_beginthreadex(nullptr, 0, openEngine, nullptr, 0, nullptr)));
+    static const WorkerThread thread([] { Engine::instance(); });
 }
 
 ComPointer<IDWriteTextLayout> makeDirectWriteLayout(const TextLines& lines, const Font& font,

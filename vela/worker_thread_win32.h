@@ -5,7 +5,7 @@
 
 #include <functional>
 
-namespace setup {
+namespace vela {
 
 // Begins at once and is waited for at the latest when the object goes. Empty when Windows gives no thread:
 // then the work has not been done.
@@ -23,7 +23,7 @@ public:
 
 private:
     std::function<void()> work_;
-    vela::OwnedKernelObject thread_;
+    OwnedKernelObject thread_;
 };
 
-} // namespace setup
+} // namespace vela

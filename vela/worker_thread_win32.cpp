@@ -1,8 +1,8 @@
-#include "app/windows/worker_thread_win32.h"
+#include "vela/worker_thread_win32.h"
 
 #include <process.h>
 
-namespace setup {
+namespace vela {
 namespace {
 
 unsigned __stdcall runWork(void* work)
@@ -26,4 +26,4 @@ WorkerThread::~WorkerThread()
         ::WaitForSingleObject(thread_.get(), INFINITE);
 }
 
-} // namespace setup
+} // namespace vela
