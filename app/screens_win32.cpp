@@ -12,7 +12,10 @@
 
 namespace setup {
 
-WindowScreens::WindowScreens(HINSTANCE module, SetupEffects& effects) : host_{module, setupStyles(effects)} {}
+WindowScreens::WindowScreens(HINSTANCE module, SetupEffects& effects)
+    : host_{module, setupStyles(effects), nullptr, &lastMiddle_}
+{
+}
 
 void WindowScreens::prepare() { host_.styles(); }
 

@@ -22,6 +22,7 @@ public:
                                       const SetupTask& task) override;
 
 private:
+    std::optional<vela::Point> lastMiddle_;
     DialogHost host_;
 };
 

@@ -9,16 +9,19 @@
 #include "vela/controls/window/dialog_window.h"
 #include "vela/controls/window/window_edge.h"
 
+#include <optional>
 #include <string_view>
 
 namespace setup {
 
 // What every dialog needs of its program. The module carries the icon; the owner, when there is one, is
-// disabled while the dialog runs.
+// disabled while the dialog runs. Where dialogs share a place, each begins around the middle of the one
+// before, in screen pixels; the place is borrowed.
 struct DialogHost {
     HINSTANCE module = nullptr;
     vela::Window::StyleSource styles;
     HWND owner = nullptr;
+    std::optional<vela::Point>* lastMiddle = nullptr;
 };
 
 // Gives a window of that width its title bar, as tall as the style's buttons need, and carries out what it
@@ -33,8 +36,7 @@ public:
     SetupDialog& operator=(const SetupDialog&) = delete;
     ~SetupDialog() override;
 
-    // Once. The window stands around the point around which the user left the one before. False when Windows
-    // refuses the window.
+    // Once. False when Windows refuses the window.
     bool open();
 
     vela::Size designSize() const noexcept { return size_; }
@@ -61,7 +63,7 @@ protected:
     void onDestroyed() override;
 
 private:
-    void followTheLastDialog();
+    void followLastDialog(vela::Point middle);
 
     DialogHost host_;
     vela::Size size_;

@@ -5,8 +5,6 @@
 #include "vela/controls/window/window_geometry.h"
 #include "vela/theme/records/style_sheet.h"
 
-#include <optional>
-
 #include <windows.h>
 
 namespace setup {
@@ -14,17 +12,6 @@ namespace setup {
 using vela::CaptionButton;
 using vela::ChromeTitleBar;
 using vela::CommandEvent;
-
-namespace {
-
-// Of the dialog that was open last, in screen pixels.
-std::optional<POINT>& lastCentre()
-{
-    static std::optional<POINT> centre;
-    return centre;
-}
-
-} // namespace
 
 ChromeTitleBar& applySetupChrome(vela::Window& window, const vela::StyleSheet& styles, std::int32_t width,
                                  std::wstring_view title, bool closable, bool minimizable)
@@ -88,25 +75,23 @@ bool SetupDialog::open()
     // The system's menu and the taskbar's offer what the title bar does.
     if (!titleBar_->button(CaptionButton::Close).isEnabled())
         ::EnableMenuItem(::GetSystemMenu(handle(), FALSE), SC_CLOSE, MF_BYCOMMAND | MF_GRAYED);
-    followTheLastDialog();
+    if (host_.lastMiddle && *host_.lastMiddle)
+        followLastDialog(**host_.lastMiddle);
     return true;
 }
 
-void SetupDialog::followTheLastDialog()
+void SetupDialog::followLastDialog(vela::Point middle)
 {
-    if (!lastCentre())
-        return;
-    const POINT centre = *lastCentre();
     RECT own{};
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     if (!::GetWindowRect(handle(), &own) ||
-        !::GetMonitorInfoW(::MonitorFromPoint(centre, MONITOR_DEFAULTTONEAREST), &monitor))
+        !::GetMonitorInfoW(::MonitorFromPoint({middle.x, middle.y}, MONITOR_DEFAULTTONEAREST), &monitor))
         return;
     const vela::Size size{own.right - own.left, own.bottom - own.top};
     const RECT& work = monitor.rcWork;
     const vela::Rect place =
-        vela::keptInside({centre.x - size.width / 2, centre.y - size.height / 2, size.width, size.height},
+        vela::keptInside({middle.x - size.width / 2, middle.y - size.height / 2, size.width, size.height},
                          {work.left, work.top, work.right - work.left, work.bottom - work.top});
     ::SetWindowPos(handle(), nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -114,8 +99,8 @@ void SetupDialog::followTheLastDialog()
 void SetupDialog::onDestroyed()
 {
     RECT own{};
-    if (!::IsIconic(handle()) && ::GetWindowRect(handle(), &own))
-        lastCentre() = POINT{(own.left + own.right) / 2, (own.top + own.bottom) / 2};
+    if (host_.lastMiddle && !::IsIconic(handle()) && ::GetWindowRect(handle(), &own))
+        *host_.lastMiddle = vela::Point{(own.left + own.right) / 2, (own.top + own.bottom) / 2};
     DialogWindow::onDestroyed();
 }
 

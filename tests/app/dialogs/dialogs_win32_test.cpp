@@ -213,17 +213,20 @@ TEST(SetupDialogTest, OpensWhereTheUserLeftTheOneBefore)
         {{work.width - 400, work.height - 250}, {work.width - 710, work.height - 388}},
         {{345, 210}, {35, 72}}};
     for (const auto& [middle, corner] : rows) {
-        ChoiceDialog first(host(), {});
+        DialogHost sharing = host();
+        std::optional<vela::Point> place;
+        sharing.lastMiddle = &place;
+        ChoiceDialog first(sharing, {});
         ASSERT_TRUE(first.open());
         ::SetWindowPos(first.handle(), nullptr, middle.x - 345, middle.y - 210, 0, 0,
                        SWP_NOSIZE | SWP_NOZORDER);
         first.destroy();
-        NoticeDialog second(host(), {L"Nadpis", L"Telo.", false});
+        NoticeDialog second(sharing, {L"Nadpis", L"Telo.", false});
         ASSERT_TRUE(second.open());
-        RECT place{};
-        ::GetWindowRect(second.handle(), &place);
-        EXPECT_EQ(place.left, corner.x);
-        EXPECT_EQ(place.top, corner.y);
+        RECT own{};
+        ::GetWindowRect(second.handle(), &own);
+        EXPECT_EQ(own.left, corner.x);
+        EXPECT_EQ(own.top, corner.y);
     }
 }
 
