@@ -1,6 +1,6 @@
 #include "vela/theme/derive/derive_style_sheet.h"
 
-#include "vela/theme/derive/derive_builders.h"
+#include "vela/theme/derive/builders.h"
 
 namespace vela {
 namespace {

@@ -1,7 +1,7 @@
 #include "vela/theme/derive/high_contrast.h"
 
 #include "vela/theme/color/contrast.h"
-#include "vela/theme/derive/derive_surfaces.h"
+#include "vela/theme/derive/surfaces.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "vela/theme/derive/derive_surfaces.h"
+#include "vela/theme/derive/surfaces.h"
 
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/records/surface_tones.h"

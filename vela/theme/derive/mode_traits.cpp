@@ -1,4 +1,4 @@
-#include "vela/theme/derive/derive_look.h"
+#include "vela/theme/derive/mode_traits.h"
 
 #include <iterator>
 

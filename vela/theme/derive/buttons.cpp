@@ -1,7 +1,7 @@
-#include "vela/theme/derive/derive_buttons.h"
+#include "vela/theme/derive/buttons.h"
 
 #include "vela/theme/color/oklab.h"
-#include "vela/theme/derive/derive_builders.h"
+#include "vela/theme/derive/builders.h"
 
 namespace vela {
 namespace {

@@ -2,7 +2,7 @@
 // a builder may use the records of kinds that were built before it.
 #pragma once
 
-#include "vela/theme/derive/derive_context.h"
+#include "vela/theme/derive/context.h"
 #include "vela/theme/records/style_sheet.h"
 
 namespace vela {

@@ -2,7 +2,7 @@
 // surface record, and the faces that a control shows in its states.
 #pragma once
 
-#include "vela/theme/derive/derive_context.h"
+#include "vela/theme/derive/context.h"
 #include "vela/theme/records/control_styles.h"
 
 namespace vela {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "vela/theme/color/contrast.h"
-#include "vela/theme/derive/derive_look.h"
+#include "vela/theme/derive/mode_traits.h"
 #include "vela/theme/records/control_styles.h"
 #include "vela/theme/records/theme.h"
 

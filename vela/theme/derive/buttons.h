@@ -1,7 +1,7 @@
 // Buttons of every emphasis, on any bed: the button kind itself and the buttons that other records contain.
 #pragma once
 
-#include "vela/theme/derive/derive_surfaces.h"
+#include "vela/theme/derive/surfaces.h"
 
 namespace vela {
 

@@ -1,7 +1,7 @@
-#include "vela/theme/derive/derive_builders.h"
+#include "vela/theme/derive/builders.h"
 
 #include "vela/theme/color/oklab.h"
-#include "vela/theme/derive/derive_surfaces.h"
+#include "vela/theme/derive/surfaces.h"
 
 namespace vela {
 namespace {

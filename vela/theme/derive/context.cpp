@@ -1,4 +1,4 @@
-#include "vela/theme/derive/derive_context.h"
+#include "vela/theme/derive/context.h"
 
 #include "vela/theme/color/oklab.h"
 
