@@ -2,7 +2,6 @@
 
 #include "vela/controls/tree/panel.h"
 #include "vela/render/paint/paint.h"
-#include "vela/theme/derive/surfaces.h"
 
 namespace vela {
 

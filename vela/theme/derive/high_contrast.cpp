@@ -1,7 +1,6 @@
 #include "vela/theme/derive/high_contrast.h"
 
 #include "vela/theme/color/contrast.h"
-#include "vela/theme/derive/surfaces.h"
 
 #include <algorithm>
 #include <iterator>

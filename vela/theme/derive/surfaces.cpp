@@ -23,11 +23,6 @@ MaterialPreset presetFor(const MaterialProfile& profile, Substance substance)
     return MaterialPreset::None;
 }
 
-std::uint8_t percentOf(std::uint8_t value, int percent)
-{
-    return static_cast<std::uint8_t>(value * percent / 100);
-}
-
 void wearMaterial(SurfaceStyle& surface, const DeriveContext& context, const Face& face)
 {
     const MaterialProfile& profile = context.theme.materials;
@@ -61,7 +56,7 @@ void shade(SurfaceStyle& surface, const DeriveContext& context, const Face& face
     surface.shadowOffsetY = context.look.shadowOffset;
 
     surface.showInnerShadow = face.drawn && form.innerShadow > 0;
-    surface.innerShadow = percentOf(surface.innerShadow, form.innerShadow);
+    surface.innerShadow = static_cast<std::uint8_t>(surface.innerShadow * form.innerShadow / 100);
     surface.innerShadowColor = mixed(face.fill, hexColor(0x000000), 0.85F);
 
     surface.useNoise = face.drawn && face.form == Form::Ground && context.look.noiseOpacity > 0;
@@ -69,15 +64,6 @@ void shade(SurfaceStyle& surface, const DeriveContext& context, const Face& face
 }
 
 } // namespace
-
-void dimLight(MaterialShading& shading, int percent) noexcept
-{
-    for (std::uint8_t MaterialShading::*const light :
-         {&MaterialShading::highlightOpacity, &MaterialShading::reflectionOpacity,
-          &MaterialShading::materialDepth, &MaterialShading::backlightOpacity, &MaterialShading::innerGlow,
-          &MaterialShading::rimLight, &MaterialShading::ambientOcclusion, &MaterialShading::edgeWear})
-        shading.*light = percentOf(shading.*light, percent);
-}
 
 SurfaceStyle surfaceOf(const DeriveContext& context, const Face& face, ShapeKind shape)
 {

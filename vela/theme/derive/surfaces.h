@@ -19,9 +19,6 @@ struct Face {
     bool bordered = true;
 };
 
-// Highlights, relief and edges by that share; what a material is made of stays.
-void dimLight(MaterialShading& shading, int percent) noexcept;
-
 SurfaceStyle surfaceOf(const DeriveContext& context, const Face& face, ShapeKind shape);
 // Draws nothing, but knows its shape and focus colour.
 SurfaceStyle bareSurface(const DeriveContext& context, ShapeKind shape);

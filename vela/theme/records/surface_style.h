@@ -45,6 +45,9 @@ struct MaterialShading {
     friend bool operator==(const MaterialShading&, const MaterialShading&) = default;
 };
 
+// Highlights, relief and edges by that share; what a material is made of stays.
+void dimLight(MaterialShading& shading, int percent) noexcept;
+
 // Where textures and gradients lie on a surface.
 struct SurfaceMapping {
     MappingSpace uvMapping = MappingSpace::Local;
