@@ -3,7 +3,7 @@
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/derive/surfaces.h"
 
-namespace vela {
+namespace vela::derive {
 namespace {
 
 // A thin bar without a frame: the track is an outline, its inset makes it six pixels of the control's 28.
@@ -119,4 +119,4 @@ void buildScrollBar(const DeriveContext& context, StyleSheet& sheet)
     deriveScrollBar(context, context.ground, sheet.table<ScrollBarStyle>().defaultRecord());
 }
 
-} // namespace vela
+} // namespace vela::derive

@@ -5,7 +5,7 @@
 #include "vela/theme/derive/context.h"
 #include "vela/theme/records/style_sheet.h"
 
-namespace vela {
+namespace vela::derive {
 
 // The scroll bar of a list, on the list's own surface.
 void deriveScrollBar(const DeriveContext& context, const Bed& bed, ScrollBarStyle& style);
@@ -32,4 +32,4 @@ void buildSelectableText(const DeriveContext& context, StyleSheet& sheet);
 void buildPopups(const DeriveContext& context, StyleSheet& sheet);
 void buildTooltips(const DeriveContext& context, StyleSheet& sheet);
 
-} // namespace vela
+} // namespace vela::derive

@@ -3,7 +3,7 @@
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/derive/builders.h"
 
-namespace vela {
+namespace vela::derive {
 namespace {
 
 using Faces = PerState<Face>;
@@ -199,4 +199,4 @@ void buildBitmapButtons(const DeriveContext& context, StyleSheet& sheet)
     }
 }
 
-} // namespace vela
+} // namespace vela::derive

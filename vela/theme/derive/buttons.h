@@ -3,7 +3,7 @@
 
 #include "vela/theme/derive/surfaces.h"
 
-namespace vela {
+namespace vela::derive {
 
 enum class Emphasis : std::uint8_t {
     Solid,    // filled with the hue: the action that the dialog is about
@@ -22,4 +22,4 @@ struct ButtonRecipe {
 void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, const Bed& bed, ShapeKind shape,
                   ButtonStyle& style);
 
-} // namespace vela
+} // namespace vela::derive

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace vela {
+namespace vela::derive {
 namespace {
 
 constexpr Type kPopupTitle = {.points = 8, .weight = 200};
@@ -222,4 +222,4 @@ void buildTooltips(const DeriveContext& context, StyleSheet& sheet)
     help.gap = 10;
 }
 
-} // namespace vela
+} // namespace vela::derive

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace vela {
+namespace vela::derive {
 namespace {
 
 constexpr float kRimOfRatio = 0.04F; // above the rule, so that rounding never falls below it
@@ -242,4 +242,4 @@ Color DeriveContext::faint(Color normal, const Tones& on) const noexcept
     return reaching(mixed(on.darkest, normal, 0.35F), on, wanted);
 }
 
-} // namespace vela
+} // namespace vela::derive

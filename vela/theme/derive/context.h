@@ -7,7 +7,7 @@
 #include "vela/theme/records/control_styles.h"
 #include "vela/theme/records/theme.h"
 
-namespace vela {
+namespace vela::derive {
 
 // What a part lies on: the colour it is mixed with and every tone it has to stand out from.
 struct Bed {
@@ -108,4 +108,4 @@ private:
 // At most that visual distance away from a colour, in the direction of another.
 Color towards(Color from, Color to, float distance) noexcept;
 
-} // namespace vela
+} // namespace vela::derive

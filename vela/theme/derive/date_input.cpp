@@ -3,7 +3,7 @@
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/derive/surfaces.h"
 
-namespace vela {
+namespace vela::derive {
 namespace {
 
 // Every day of the calendar is written in one of the day texts whatever its surface, so the surfaces stay
@@ -67,4 +67,4 @@ void buildDateInput(const DeriveContext& context, StyleSheet& sheet)
     deriveCalendar(context, style);
 }
 
-} // namespace vela
+} // namespace vela::derive

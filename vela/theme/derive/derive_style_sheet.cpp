@@ -3,6 +3,7 @@
 #include "vela/theme/derive/builders.h"
 
 namespace vela {
+namespace derive {
 namespace {
 
 using Builder = void (*)(const DeriveContext&, StyleSheet&);
@@ -17,12 +18,13 @@ constexpr Builder kBuilders[] = {
 static_assert(std::size(kBuilders) == kControlKindCount);
 
 } // namespace
+} // namespace derive
 
 StyleSheet deriveStyleSheet(const Theme& theme)
 {
-    const DeriveContext context(theme);
+    const derive::DeriveContext context(theme);
     StyleSheet sheet;
-    for (const Builder build : kBuilders)
+    for (const derive::Builder build : derive::kBuilders)
         build(context, sheet);
     return sheet;
 }

@@ -3,7 +3,7 @@
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/derive/builders.h"
 
-namespace vela {
+namespace vela::derive {
 namespace {
 
 // The fills of a field. One text colour serves all its states, so they stay close enough to each other.
@@ -183,4 +183,4 @@ void buildSelectBox(const DeriveContext& context, StyleSheet& sheet)
     style.itemHeight = 32;
 }
 
-} // namespace vela
+} // namespace vela::derive

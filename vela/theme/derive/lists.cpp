@@ -3,7 +3,7 @@
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/derive/builders.h"
 
-namespace vela {
+namespace vela::derive {
 namespace {
 
 // What lists, tables and menus show of a row: one text colour is read on all of them.
@@ -187,4 +187,4 @@ void buildRichText(const DeriveContext& context, StyleSheet& sheet)
     style.paddingY = 12;
 }
 
-} // namespace vela
+} // namespace vela::derive

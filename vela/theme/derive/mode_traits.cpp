@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-namespace vela {
+namespace vela::derive {
 namespace {
 
 constexpr FormLook kLevel = {0, 0, 0, 0};
@@ -79,4 +79,4 @@ const ModeLook& lookOf(SurfaceMode mode) noexcept
     return kLooks[index < std::size(kLooks) ? index : static_cast<std::size_t>(SurfaceMode::Sculpted3d)];
 }
 
-} // namespace vela
+} // namespace vela::derive

@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-namespace vela {
+namespace vela::derive {
 
 // How a surface stands in the light.
 enum class Form : std::uint8_t {
@@ -46,4 +46,4 @@ struct ModeLook {
 
 const ModeLook& lookOf(SurfaceMode mode) noexcept;
 
-} // namespace vela
+} // namespace vela::derive

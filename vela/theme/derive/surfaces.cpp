@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace vela {
+namespace vela::derive {
 namespace {
 
 constexpr int kHalfTurn = 180;
@@ -157,4 +157,4 @@ FontSpec textOn(const DeriveContext& context, const Tones& on, std::initializer_
     return textOf(context, color, context.faint(color, on), type);
 }
 
-} // namespace vela
+} // namespace vela::derive

@@ -5,7 +5,7 @@
 #include "vela/theme/derive/context.h"
 #include "vela/theme/records/control_styles.h"
 
-namespace vela {
+namespace vela::derive {
 
 // Which of the theme's three materials a part is made of.
 enum class Substance : std::uint8_t { None, Surface, Control, Accent };
@@ -50,4 +50,4 @@ FontSpec textOf(const DeriveContext& context, Color color, Color disabledColor, 
 FontSpec textOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted,
                 Type type = kBody);
 
-} // namespace vela
+} // namespace vela::derive
