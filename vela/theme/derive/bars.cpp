@@ -1,7 +1,8 @@
+// Progress bar, scroll bar, title bar and menu bar.
 #include "vela/theme/derive/builders.h"
 
 #include "vela/theme/color/oklab.h"
-#include "vela/theme/derive/surfaces.h"
+#include "vela/theme/derive/buttons.h"
 
 namespace vela::derive {
 namespace {
@@ -117,6 +118,70 @@ void deriveScrollBar(const DeriveContext& context, const Bed& bed, ScrollBarStyl
 void buildScrollBar(const DeriveContext& context, StyleSheet& sheet)
 {
     deriveScrollBar(context, context.ground, sheet.table<ScrollBarStyle>().defaultRecord());
+}
+
+void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
+{
+    const bool flush = context.look.flushCaptionButtons;
+    ChromeTitleBarStyle& style = sheet.table<ChromeTitleBarStyle>().defaultRecord();
+    style.shape = ShapeKind::Rect;
+    style.surface = groundOf(context, context.header.fill, context.hairline, style.shape);
+    style.surface.showOutline = false;
+    const Bed bed = bedOn(style.surface, context.ground);
+    style.titleText = textOn(context, bed.tones, {context.text, context.strongText}, flush ? kSmall : kLabel);
+    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, bed,
+                 flush ? ShapeKind::Rect : context.look.controlShape, style.titleButton);
+    const Color closing = solidFill(context, context.solid(Hue::Danger), Form::Plate);
+    style.closeHotColor = context.inkOn(context.shades(closing, Form::Plate));
+    style.closePressedColor = style.closeHotColor;
+    const Color closingNow = context.fillUnder(style.closeHotColor, closing, mixed(closing, bed.fill, 0.2F),
+                                               Form::Plate, {closing});
+    style.closeHotSurface = plateOf(context, closing, style.titleButton.shape);
+    style.closePressedSurface = plateOf(context, closingNow, style.titleButton.shape);
+    style.buttonWidth = flush ? 46 : 34;
+    style.buttonHeight = flush ? 32 : 26;
+    style.buttonTop = flush ? 0 : 7;
+    style.buttonGap = flush ? 0 : 4;
+    style.rightMargin = flush ? 0 : 8;
+    style.headerActionGap = 4;
+    style.headerActionGroupGap = 12;
+    style.iconSize = 16;
+    style.iconLeft = 12;
+    style.titleLeft = 36;
+}
+
+void buildMenuBar(const DeriveContext& context, StyleSheet& sheet)
+{
+    const Color bar = context.ground.fill;
+    const Color ink = context.text;
+    const Bed bed = {bar, context.shades(bar, Form::Ground)};
+    const auto item = [&](float amount, std::initializer_list<Color> others) {
+        return context.fillUnder(ink, bar, context.veil(bed, amount), Form::Plate, others);
+    };
+    const Color hot = item(0.055F, {bar});
+    const Color pressed = item(0.09F, {bar, hot});
+    const Color active = context.fillUnder(ink, bar, mixed(bar, context.theme.accent, 0.18F), Form::Plate,
+                                           {bar, hot, pressed});
+    MenuBarStyle& style = sheet.table<MenuBarStyle>().defaultRecord();
+    style.surface = groundOf(context, bar, context.hairline, style.shape);
+    style.surface.showOutline = false;
+    style.popupSurface = groundOf(context, bar, mixed(bar, context.edge, 0.6F), style.popupShape);
+    style.popupSurface.useNoise = false;
+    style.itemSurface = bareSurface(context, style.itemShape);
+    style.itemHotSurface = plateOf(context, hot, style.itemShape);
+    style.itemPressedSurface = plateOf(context, pressed, style.itemShape);
+    style.itemActiveSurface = plateOf(context, active, style.itemShape);
+    style.popupItemHotSurface = plateOf(context, hot, style.popupItemShape);
+    style.popupItemPressedSurface = plateOf(context, pressed, style.popupItemShape);
+
+    Tones faces = bed.tones;
+    for (const Color fill : {hot, pressed, active})
+        faces.include(context.shades(fill, Form::Plate));
+    style.itemText = textOn(context, faces, {context.text});
+    style.shortcutText = textOn(context, faces, {context.mutedText, context.text}, kSmall);
+    style.arrow = context.mark(context.theme.mutedText, faces);
+    style.check = context.mark(context.theme.accent, faces);
+    style.separator = towards(bar, context.theme.border, 0.12F);
 }
 
 } // namespace vela::derive

@@ -1,3 +1,4 @@
+// Buttons, bitmap buttons, and tabs, which are made of buttons.
 #include "vela/theme/derive/buttons.h"
 
 #include "vela/theme/color/oklab.h"
@@ -197,6 +198,30 @@ void buildBitmapButtons(const DeriveContext& context, StyleSheet& sheet)
             style.text.color = context.mutedText;
         style.tint = style.text.color;
     }
+}
+
+void buildTabs(const DeriveContext& context, StyleSheet& sheet)
+{
+    TabsStyle& style = sheet.table<TabsStyle>().defaultRecord();
+    style.shape = context.look.controlShape;
+    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, context.ground, style.shape, style.itemButton);
+    // The open tab is told by more than a veil: its face is the control's own, with an edge in the accent.
+    SurfaceStyle& open = style.itemButton.surface.active;
+    const Bed& ground = context.ground;
+    const Color fill =
+        context.stateFill(context.control.normal, Form::Raised,
+                          {style.itemButton.surface.hot.fill, style.itemButton.surface.pressed.fill});
+    const Color focus = open.glow;
+    open = surfaceOf(context,
+                     {.fill = fill,
+                      .border = context.mark(context.theme.accent, ground.tones),
+                      .form = Form::Raised,
+                      .substance = Substance::Control},
+                     style.shape);
+    open.glow = focus;
+    style.itemButton.text.active =
+        textOn(context, bedOn(open, ground).tones, {context.strongText, context.text});
+    style.verticalItemHeight = 36;
 }
 
 } // namespace vela::derive

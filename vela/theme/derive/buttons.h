@@ -2,6 +2,7 @@
 #pragma once
 
 #include "vela/theme/derive/surfaces.h"
+#include "vela/theme/derive/texts.h"
 
 namespace vela::derive {
 

@@ -1,9 +1,8 @@
+// Panels, cards, status chips, popups and tooltips.
 #include "vela/theme/derive/buttons.h"
 
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/derive/builders.h"
-
-#include <algorithm>
 
 namespace vela::derive {
 namespace {
@@ -12,15 +11,6 @@ constexpr Type kPopupTitle = {.points = 8, .weight = 200};
 constexpr Type kCardTitle = {.points = 2, .weight = 200};
 constexpr Type kGlyph = {.points = 4, .weight = 300};
 constexpr std::uint8_t kGlassOpacity = 214;
-
-// Sentences are read in the regular weight, however heavy a skin makes its captions.
-FontSpec readingTextOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted)
-{
-    constexpr std::int32_t kRegular = 400;
-    FontSpec font = textOn(context, on, wanted);
-    font.weight = std::min(font.weight, kRegular);
-    return font;
-}
 
 void deriveCard(const DeriveContext& context, Color fill, CardStyle& style)
 {
@@ -120,20 +110,6 @@ void deriveTooltip(const DeriveContext& context, TooltipStyle& style)
 
 } // namespace
 
-void buildTexts(const DeriveContext& context, StyleSheet& sheet)
-{
-    VariantTable<TextStyle>& texts = sheet.table<TextStyle>();
-    const Tones& ground = context.ground.tones;
-    texts.ensure(L"default") = readingTextOn(context, ground, {context.text});
-    texts.ensure(L"title") = textOn(context, ground, {context.strongText}, kLabel);
-    texts.ensure(L"muted") = readingTextOn(context, ground, {context.mutedText});
-    FontSpec& mono = texts.ensure(L"mono");
-    mono = context.theme.monoFont;
-    mono.color = context.text;
-    mono.disabledColor = context.disabledText;
-    texts.ensure(L"danger") = textOn(context, ground, {context.inkOf(Hue::Danger)});
-}
-
 void buildPanels(const DeriveContext& context, StyleSheet& sheet)
 {
     const auto panel = [&](std::wstring_view variant, Color fill, Color border) -> PanelStyle& {
@@ -155,36 +131,6 @@ void buildCards(const DeriveContext& context, StyleSheet& sheet)
     deriveCard(context, context.grounds.card, cards.ensure(L"default"));
     deriveRaisedCard(context, cards.ensure(L"raised"));
     deriveDashboardCard(context, cards.ensure(L"dashboard"));
-}
-
-void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
-{
-    const bool flush = context.look.flushCaptionButtons;
-    ChromeTitleBarStyle& style = sheet.table<ChromeTitleBarStyle>().defaultRecord();
-    style.shape = ShapeKind::Rect;
-    style.surface = groundOf(context, context.header.fill, context.hairline, style.shape);
-    style.surface.showOutline = false;
-    const Bed bed = bedOn(style.surface, context.ground);
-    style.titleText = textOn(context, bed.tones, {context.text, context.strongText}, flush ? kSmall : kLabel);
-    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, bed,
-                 flush ? ShapeKind::Rect : context.look.controlShape, style.titleButton);
-    const Color closing = solidFill(context, context.solid(Hue::Danger), Form::Plate);
-    style.closeHotColor = context.inkOn(context.shades(closing, Form::Plate));
-    style.closePressedColor = style.closeHotColor;
-    const Color closingNow = context.fillUnder(style.closeHotColor, closing, mixed(closing, bed.fill, 0.2F),
-                                               Form::Plate, {closing});
-    style.closeHotSurface = plateOf(context, closing, style.titleButton.shape);
-    style.closePressedSurface = plateOf(context, closingNow, style.titleButton.shape);
-    style.buttonWidth = flush ? 46 : 34;
-    style.buttonHeight = flush ? 32 : 26;
-    style.buttonTop = flush ? 0 : 7;
-    style.buttonGap = flush ? 0 : 4;
-    style.rightMargin = flush ? 0 : 8;
-    style.headerActionGap = 4;
-    style.headerActionGroupGap = 12;
-    style.iconSize = 16;
-    style.iconLeft = 12;
-    style.titleLeft = 36;
 }
 
 void buildStatusChips(const DeriveContext& context, StyleSheet& sheet)

@@ -2,6 +2,7 @@
 
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/derive/surfaces.h"
+#include "vela/theme/derive/texts.h"
 
 namespace vela::derive {
 namespace {

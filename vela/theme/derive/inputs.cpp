@@ -1,3 +1,4 @@
+// Text inputs, selectable texts, check boxes and select boxes.
 #include "vela/theme/derive/buttons.h"
 
 #include "vela/theme/color/oklab.h"

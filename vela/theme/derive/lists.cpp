@@ -1,12 +1,14 @@
-#include "vela/theme/derive/buttons.h"
+// List boxes and table lists.
+#include "vela/theme/derive/builders.h"
 
 #include "vela/theme/color/oklab.h"
-#include "vela/theme/derive/builders.h"
+#include "vela/theme/derive/surfaces.h"
+#include "vela/theme/derive/texts.h"
 
 namespace vela::derive {
 namespace {
 
-// What lists, tables and menus show of a row: one text colour is read on all of them.
+// What lists and tables show of a row: one text colour is read on all of them.
 struct RowFills {
     Color ink;
     Color list;
@@ -113,78 +115,6 @@ void buildTableList(const DeriveContext& context, StyleSheet& sheet)
     style.sortIndicator = context.mark(context.theme.mutedText, head);
     style.sortIndicatorHot = context.mark(context.theme.accentHot, head);
     style.rowHeight = 32;
-}
-
-void buildTabs(const DeriveContext& context, StyleSheet& sheet)
-{
-    TabsStyle& style = sheet.table<TabsStyle>().defaultRecord();
-    style.shape = context.look.controlShape;
-    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, context.ground, style.shape, style.itemButton);
-    // The open tab is told by more than a veil: its face is the control's own, with an edge in the accent.
-    SurfaceStyle& open = style.itemButton.surface.active;
-    const Bed& ground = context.ground;
-    const Color fill =
-        context.stateFill(context.control.normal, Form::Raised,
-                          {style.itemButton.surface.hot.fill, style.itemButton.surface.pressed.fill});
-    const Color focus = open.glow;
-    open = surfaceOf(context,
-                     {.fill = fill,
-                      .border = context.mark(context.theme.accent, ground.tones),
-                      .form = Form::Raised,
-                      .substance = Substance::Control},
-                     style.shape);
-    open.glow = focus;
-    style.itemButton.text.active =
-        textOn(context, bedOn(open, ground).tones, {context.strongText, context.text});
-    style.verticalItemHeight = 36;
-}
-
-void buildMenuBar(const DeriveContext& context, StyleSheet& sheet)
-{
-    const Color bar = context.ground.fill;
-    const Color ink = context.text;
-    const Bed bed = {bar, context.shades(bar, Form::Ground)};
-    const auto item = [&](float amount, std::initializer_list<Color> others) {
-        return context.fillUnder(ink, bar, context.veil(bed, amount), Form::Plate, others);
-    };
-    const Color hot = item(0.055F, {bar});
-    const Color pressed = item(0.09F, {bar, hot});
-    const Color active = context.fillUnder(ink, bar, mixed(bar, context.theme.accent, 0.18F), Form::Plate,
-                                           {bar, hot, pressed});
-    MenuBarStyle& style = sheet.table<MenuBarStyle>().defaultRecord();
-    style.surface = groundOf(context, bar, context.hairline, style.shape);
-    style.surface.showOutline = false;
-    style.popupSurface = groundOf(context, bar, mixed(bar, context.edge, 0.6F), style.popupShape);
-    style.popupSurface.useNoise = false;
-    style.itemSurface = bareSurface(context, style.itemShape);
-    style.itemHotSurface = plateOf(context, hot, style.itemShape);
-    style.itemPressedSurface = plateOf(context, pressed, style.itemShape);
-    style.itemActiveSurface = plateOf(context, active, style.itemShape);
-    style.popupItemHotSurface = plateOf(context, hot, style.popupItemShape);
-    style.popupItemPressedSurface = plateOf(context, pressed, style.popupItemShape);
-
-    Tones faces = bed.tones;
-    for (const Color fill : {hot, pressed, active})
-        faces.include(context.shades(fill, Form::Plate));
-    style.itemText = textOn(context, faces, {context.text});
-    style.shortcutText = textOn(context, faces, {context.mutedText, context.text}, kSmall);
-    style.arrow = context.mark(context.theme.mutedText, faces);
-    style.check = context.mark(context.theme.accent, faces);
-    style.separator = towards(bar, context.theme.border, 0.12F);
-}
-
-void buildRichText(const DeriveContext& context, StyleSheet& sheet)
-{
-    RichTextStyle& style = sheet.table<RichTextStyle>().defaultRecord();
-    style.shape = context.look.panelShape;
-    style.surface = groundOf(context, context.grounds.card, context.hairline, style.shape);
-    const Bed bed = bedOn(style.surface, context.ground);
-    style.text = textOn(context, bed.tones, {context.text});
-    style.linkText = textOn(context, bed.tones, {context.theme.accent});
-    style.linkText.underline = true;
-    style.icon = badgeOf(context, Hue::Accent, bed, style.iconShape);
-    style.paddingX = 16;
-    style.paddingY = 12;
 }
 
 } // namespace vela::derive

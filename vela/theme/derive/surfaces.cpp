@@ -138,23 +138,4 @@ Bed bedOn(const SurfaceStyle& surface, const Bed& under)
     return {surface.drawFill ? surface.fill : under.fill, facesOf(surface, under.tones)};
 }
 
-// A skin may name any number; no text of this size fits a screen.
-constexpr std::int32_t kLargestPoints = 1000;
-
-FontSpec textOf(const DeriveContext& context, Color color, Color disabledColor, Type type)
-{
-    FontSpec font = context.theme.uiFont;
-    font.pointSize = std::max(std::clamp(font.pointSize, 1, kLargestPoints) + type.points, 1);
-    font.weight = std::clamp(font.weight + type.weight, 100, std::max(font.weight, 700));
-    font.color = color;
-    font.disabledColor = disabledColor;
-    return font;
-}
-
-FontSpec textOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted, Type type)
-{
-    const Color color = context.readable(wanted, on);
-    return textOf(context, color, context.faint(color, on), type);
-}
-
 } // namespace vela::derive

@@ -36,18 +36,4 @@ SurfaceStyle badgeOf(const DeriveContext& context, Hue hue, const Bed& bed, Shap
 
 Bed bedOn(const SurfaceStyle& surface, const Bed& under);
 
-// How the text of a part differs from the theme's.
-struct Type {
-    std::int32_t points = 0; // added to the theme's size
-    std::int32_t weight = 0; // added to the theme's weight
-};
-inline constexpr Type kBody = {};
-inline constexpr Type kLabel = {.points = 0, .weight = 200};
-inline constexpr Type kSmall = {.points = -1, .weight = 0};
-
-FontSpec textOf(const DeriveContext& context, Color color, Color disabledColor, Type type = kBody);
-// Text in the first of the wanted colours that can be read on the bed.
-FontSpec textOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted,
-                Type type = kBody);
-
 } // namespace vela::derive

@@ -1,0 +1,69 @@
+// Texts and rich texts.
+#include "vela/theme/derive/texts.h"
+
+#include "vela/theme/derive/builders.h"
+#include "vela/theme/derive/surfaces.h"
+
+#include <algorithm>
+
+namespace vela::derive {
+namespace {
+
+// A skin may name any number; no text of this size fits a screen.
+constexpr std::int32_t kLargestPoints = 1000;
+
+} // namespace
+
+FontSpec textOf(const DeriveContext& context, Color color, Color disabledColor, Type type)
+{
+    FontSpec font = context.theme.uiFont;
+    font.pointSize = std::max(std::clamp(font.pointSize, 1, kLargestPoints) + type.points, 1);
+    font.weight = std::clamp(font.weight + type.weight, 100, std::max(font.weight, 700));
+    font.color = color;
+    font.disabledColor = disabledColor;
+    return font;
+}
+
+FontSpec textOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted, Type type)
+{
+    const Color color = context.readable(wanted, on);
+    return textOf(context, color, context.faint(color, on), type);
+}
+
+FontSpec readingTextOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted)
+{
+    constexpr std::int32_t kRegular = 400;
+    FontSpec font = textOn(context, on, wanted);
+    font.weight = std::min(font.weight, kRegular);
+    return font;
+}
+
+void buildTexts(const DeriveContext& context, StyleSheet& sheet)
+{
+    VariantTable<TextStyle>& texts = sheet.table<TextStyle>();
+    const Tones& ground = context.ground.tones;
+    texts.ensure(L"default") = readingTextOn(context, ground, {context.text});
+    texts.ensure(L"title") = textOn(context, ground, {context.strongText}, kLabel);
+    texts.ensure(L"muted") = readingTextOn(context, ground, {context.mutedText});
+    FontSpec& mono = texts.ensure(L"mono");
+    mono = context.theme.monoFont;
+    mono.color = context.text;
+    mono.disabledColor = context.disabledText;
+    texts.ensure(L"danger") = textOn(context, ground, {context.inkOf(Hue::Danger)});
+}
+
+void buildRichText(const DeriveContext& context, StyleSheet& sheet)
+{
+    RichTextStyle& style = sheet.table<RichTextStyle>().defaultRecord();
+    style.shape = context.look.panelShape;
+    style.surface = groundOf(context, context.grounds.card, context.hairline, style.shape);
+    const Bed bed = bedOn(style.surface, context.ground);
+    style.text = textOn(context, bed.tones, {context.text});
+    style.linkText = textOn(context, bed.tones, {context.theme.accent});
+    style.linkText.underline = true;
+    style.icon = badgeOf(context, Hue::Accent, bed, style.iconShape);
+    style.paddingX = 16;
+    style.paddingY = 12;
+}
+
+} // namespace vela::derive
