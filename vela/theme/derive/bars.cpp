@@ -19,9 +19,10 @@ void makeSlim(const DeriveContext& context, ProgressBarStyle& style)
 
 void makeFramed(const DeriveContext& context, ProgressBarStyle& style)
 {
-    const Color well = context.groundFill(towards(context.ground.fill, context.theme.shell, 0.05F));
-    style.frame = surfaceOf(context, {.fill = context.ground.fill, .border = context.edge}, style.frameShape);
-    style.track = sunkenOf(context, well, context.hairline, style.trackShape);
+    const Color well = context.containerFill(towards(context.backdrop.fill, context.theme.shell, 0.05F));
+    style.frame =
+        surfaceOf(context, {.fill = context.backdrop.fill, .border = context.edge}, style.frameShape);
+    style.track = sunkenSurface(context, well, context.hairline, style.trackShape);
     style.insetX = 4;
     style.insetY = 4;
 }
@@ -33,19 +34,19 @@ SurfaceStyle thumbOf(const DeriveContext& context, Color fill, Form form, ShapeK
 }
 
 // Bare until the pointer comes, and always where the arrow's one colour is seen.
-PerState<SurfaceStyle> arrowButtons(const DeriveContext& context, Color arrow, const Bed& bed,
+PerState<SurfaceStyle> arrowButtons(const DeriveContext& context, Color arrow, const Backdrop& backdrop,
                                     ShapeKind shape)
 {
     const auto veil = [&](float amount, std::initializer_list<Color> others) {
-        return context.fillUnder(arrow, bed.fill, context.veil(bed, amount), Form::Plate, others);
+        return context.fillUnder(arrow, backdrop.fill, context.veil(backdrop, amount), Form::Plate, others);
     };
-    const Color hot = veil(0.055F, {bed.fill});
-    const Color pressed = veil(0.10F, {bed.fill, hot});
+    const Color hot = veil(0.055F, {backdrop.fill});
+    const Color pressed = veil(0.10F, {backdrop.fill, hot});
     return {.normal = bareSurface(context, shape),
-            .hot = plateOf(context, hot, shape),
-            .pressed = plateOf(context, pressed, shape),
+            .hot = flatSurface(context, hot, shape),
+            .pressed = flatSurface(context, pressed, shape),
             .disabled = bareSurface(context, shape),
-            .active = plateOf(context, veil(0.075F, {bed.fill, hot, pressed}), shape)};
+            .active = flatSurface(context, veil(0.075F, {backdrop.fill, hot, pressed}), shape)};
 }
 
 } // namespace
@@ -61,7 +62,7 @@ void buildProgressBar(const DeriveContext& context, StyleSheet& sheet)
         makeSlim(context, style);
     else
         makeFramed(context, style);
-    const Bed track = bedOn(style.track, context.ground);
+    const Backdrop track = backdropOf(style.track, context.backdrop);
     const Color fill = context.markFill(context.theme.accent, track.tones, Form::Raised);
     // Without a border: it would be open at the end that moves.
     style.fill = surfaceOf(context,
@@ -72,23 +73,23 @@ void buildProgressBar(const DeriveContext& context, StyleSheet& sheet)
                             .bordered = false},
                            style.fillShape);
     style.fill.showShadow = false;
-    Tones label = bedOn(style.frame, context.ground).tones;
-    label.include(context.ground.tones);
+    Tones label = backdropOf(style.frame, context.backdrop).tones;
+    label.include(context.backdrop.tones);
     style.labelText = textOn(context, label, {context.text}, kLabel);
     style.labelWidth = 52;
     style.labelPadding = 8;
 }
 
-void deriveScrollBar(const DeriveContext& context, const Bed& bed, ScrollBarStyle& style)
+void deriveScrollBar(const DeriveContext& context, const Backdrop& backdrop, ScrollBarStyle& style)
 {
     style.trackShape = context.look.trackShape;
     style.thumbShape = context.look.trackShape;
     style.buttonShape = context.look.controlShape;
-    const Color groove = context.stateFill(context.veil(bed, 0.035F), Form::Sunken, {});
+    const Color groove = context.stateFill(context.veil(backdrop, 0.035F), Form::Sunken, {});
     style.track =
         surfaceOf(context, {.fill = groove, .border = groove, .form = Form::Sunken, .bordered = false},
                   style.trackShape);
-    const Bed track = bedOn(style.track, bed);
+    const Backdrop track = backdropOf(style.track, backdrop);
 
     const Color rest = context.mark(mixed(context.edge, context.theme.mutedText, 0.3F), track.tones);
     const Color pole = strongestOn(track.tones);
@@ -102,10 +103,10 @@ void deriveScrollBar(const DeriveContext& context, const Bed& bed, ScrollBarStyl
     style.thumb = {.normal = thumbOf(context, normal, Form::Raised, style.thumbShape),
                    .hot = thumbOf(context, hot, Form::Raised, style.thumbShape),
                    .pressed = thumbOf(context, pressed, Form::Pressed, style.thumbShape),
-                   .disabled = plateOf(context, mixed(track.fill, rest, 0.35F), style.thumbShape),
+                   .disabled = flatSurface(context, mixed(track.fill, rest, 0.35F), style.thumbShape),
                    .active = thumbOf(context, active, Form::Raised, style.thumbShape)};
-    style.arrow = context.readable({context.theme.mutedText, context.text}, bed.tones);
-    style.decrementButton = arrowButtons(context, style.arrow, bed, style.buttonShape);
+    style.arrow = context.readable({context.theme.mutedText, context.text}, backdrop.tones);
+    style.decrementButton = arrowButtons(context, style.arrow, backdrop, style.buttonShape);
     style.incrementButton = style.decrementButton;
     style.buttonExtent = 16;
     style.minThumbExtent = 28;
@@ -117,7 +118,7 @@ void deriveScrollBar(const DeriveContext& context, const Bed& bed, ScrollBarStyl
 
 void buildScrollBar(const DeriveContext& context, StyleSheet& sheet)
 {
-    deriveScrollBar(context, context.ground, sheet.table<ScrollBarStyle>().defaultRecord());
+    deriveScrollBar(context, context.backdrop, sheet.table<ScrollBarStyle>().defaultRecord());
 }
 
 void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
@@ -125,19 +126,20 @@ void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
     const bool flush = context.look.flushCaptionButtons;
     ChromeTitleBarStyle& style = sheet.table<ChromeTitleBarStyle>().defaultRecord();
     style.shape = ShapeKind::Rect;
-    style.surface = groundOf(context, context.header.fill, context.hairline, style.shape);
+    style.surface = containerSurface(context, context.headerFill, context.hairline, style.shape);
     style.surface.showOutline = false;
-    const Bed bed = bedOn(style.surface, context.ground);
-    style.titleText = textOn(context, bed.tones, {context.text, context.strongText}, flush ? kSmall : kLabel);
-    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, bed,
+    const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
+    style.titleText =
+        textOn(context, backdrop.tones, {context.text, context.strongText}, flush ? kSmall : kLabel);
+    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, backdrop,
                  flush ? ShapeKind::Rect : context.look.controlShape, style.titleButton);
     const Color closing = solidFill(context, context.solid(Hue::Danger), Form::Plate);
     style.closeHotColor = context.inkOn(context.shades(closing, Form::Plate));
     style.closePressedColor = style.closeHotColor;
-    const Color closingNow = context.fillUnder(style.closeHotColor, closing, mixed(closing, bed.fill, 0.2F),
-                                               Form::Plate, {closing});
-    style.closeHotSurface = plateOf(context, closing, style.titleButton.shape);
-    style.closePressedSurface = plateOf(context, closingNow, style.titleButton.shape);
+    const Color closingNow = context.fillUnder(style.closeHotColor, closing,
+                                               mixed(closing, backdrop.fill, 0.2F), Form::Plate, {closing});
+    style.closeHotSurface = flatSurface(context, closing, style.titleButton.shape);
+    style.closePressedSurface = flatSurface(context, closingNow, style.titleButton.shape);
     style.buttonWidth = flush ? 46 : 34;
     style.buttonHeight = flush ? 32 : 26;
     style.buttonTop = flush ? 0 : 7;
@@ -152,29 +154,29 @@ void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
 
 void buildMenuBar(const DeriveContext& context, StyleSheet& sheet)
 {
-    const Color bar = context.ground.fill;
+    const Color bar = context.backdrop.fill;
     const Color ink = context.text;
-    const Bed bed = {bar, context.shades(bar, Form::Ground)};
+    const Backdrop backdrop = {bar, context.shades(bar, Form::Container)};
     const auto item = [&](float amount, std::initializer_list<Color> others) {
-        return context.fillUnder(ink, bar, context.veil(bed, amount), Form::Plate, others);
+        return context.fillUnder(ink, bar, context.veil(backdrop, amount), Form::Plate, others);
     };
     const Color hot = item(0.055F, {bar});
     const Color pressed = item(0.09F, {bar, hot});
     const Color active = context.fillUnder(ink, bar, mixed(bar, context.theme.accent, 0.18F), Form::Plate,
                                            {bar, hot, pressed});
     MenuBarStyle& style = sheet.table<MenuBarStyle>().defaultRecord();
-    style.surface = groundOf(context, bar, context.hairline, style.shape);
+    style.surface = containerSurface(context, bar, context.hairline, style.shape);
     style.surface.showOutline = false;
-    style.popupSurface = groundOf(context, bar, mixed(bar, context.edge, 0.6F), style.popupShape);
+    style.popupSurface = containerSurface(context, bar, mixed(bar, context.edge, 0.6F), style.popupShape);
     style.popupSurface.useNoise = false;
     style.itemSurface = bareSurface(context, style.itemShape);
-    style.itemHotSurface = plateOf(context, hot, style.itemShape);
-    style.itemPressedSurface = plateOf(context, pressed, style.itemShape);
-    style.itemActiveSurface = plateOf(context, active, style.itemShape);
-    style.popupItemHotSurface = plateOf(context, hot, style.popupItemShape);
-    style.popupItemPressedSurface = plateOf(context, pressed, style.popupItemShape);
+    style.itemHotSurface = flatSurface(context, hot, style.itemShape);
+    style.itemPressedSurface = flatSurface(context, pressed, style.itemShape);
+    style.itemActiveSurface = flatSurface(context, active, style.itemShape);
+    style.popupItemHotSurface = flatSurface(context, hot, style.popupItemShape);
+    style.popupItemPressedSurface = flatSurface(context, pressed, style.popupItemShape);
 
-    Tones faces = bed.tones;
+    Tones faces = backdrop.tones;
     for (const Color fill : {hot, pressed, active})
         faces.include(context.shades(fill, Form::Plate));
     style.itemText = textOn(context, faces, {context.text});

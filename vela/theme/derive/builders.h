@@ -8,7 +8,7 @@
 namespace vela::derive {
 
 // The scroll bar of a list, on the list's own surface.
-void deriveScrollBar(const DeriveContext& context, const Bed& bed, ScrollBarStyle& style);
+void deriveScrollBar(const DeriveContext& context, const Backdrop& backdrop, ScrollBarStyle& style);
 
 void buildTexts(const DeriveContext& context, StyleSheet& sheet);
 void buildButtons(const DeriveContext& context, StyleSheet& sheet);

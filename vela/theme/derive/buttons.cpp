@@ -14,23 +14,23 @@ Face controlFace(Color fill, Color border, Form form)
     return {.fill = fill, .border = border, .form = form, .substance = Substance::Control};
 }
 
-Faces standardFaces(const DeriveContext& context, const Bed& bed)
+Faces standardFaces(const DeriveContext& context, const Backdrop& backdrop)
 {
     const PerState<Color>& fills = context.control;
-    const Color edge = context.mark(context.edge, bed.tones);
-    const Color activeEdge = context.mark(context.theme.accent, bed.tones);
+    const Color edge = context.mark(context.edge, backdrop.tones);
+    const Color activeEdge = context.mark(context.theme.accent, backdrop.tones);
     return {.normal = controlFace(fills.normal, edge, Form::Raised),
-            .hot = controlFace(fills.hot, context.mark(context.hotEdge, bed.tones), Form::Raised),
+            .hot = controlFace(fills.hot, context.mark(context.hotEdge, backdrop.tones), Form::Raised),
             .pressed = controlFace(fills.pressed, edge, Form::Pressed),
             .disabled = controlFace(fills.disabled, context.quietEdge, Form::Plate),
             .active = controlFace(fills.active, activeEdge, Form::Pressed)};
 }
 
-Faces outlineFaces(const DeriveContext& context, const Bed& bed)
+Faces outlineFaces(const DeriveContext& context, const Backdrop& backdrop)
 {
-    Faces faces = standardFaces(context, bed);
+    Faces faces = standardFaces(context, backdrop);
     const auto faded = [&](Color fill, Form form, std::initializer_list<Color> others) {
-        return context.stateFill(mixed(fill, bed.fill, 0.55F), form, others);
+        return context.stateFill(mixed(fill, backdrop.fill, 0.55F), form, others);
     };
     faces.normal.fill = faded(faces.normal.fill, Form::Raised, {});
     faces.hot.fill = faded(faces.hot.fill, Form::Raised, {faces.normal.fill});
@@ -40,16 +40,16 @@ Faces outlineFaces(const DeriveContext& context, const Bed& bed)
     return faces;
 }
 
-Faces quietFaces(const DeriveContext& context, const Bed& bed)
+Faces quietFaces(const DeriveContext& context, const Backdrop& backdrop)
 {
-    // The faintest face must stand out from the light that a material throws on a dark ground.
+    // The faintest face must stand out from the light that a material throws on a dark backdrop.
     const float light = context.materials && context.dark ? 0.03F : 0.0F;
     const auto veil = [&](float amount) {
-        return Face{.fill = context.stateFill(context.veil(bed, amount), Form::Plate, {bed.fill}),
+        return Face{.fill = context.stateFill(context.veil(backdrop, amount), Form::Plate, {backdrop.fill}),
                     .border = context.hairline,
                     .bordered = false};
     };
-    const Face bare = {.fill = bed.fill, .border = context.hairline, .drawn = false};
+    const Face bare = {.fill = backdrop.fill, .border = context.hairline, .drawn = false};
     Faces faces = {.normal = bare,
                    .hot = veil(0.055F + light),
                    .pressed = veil(0.10F),
@@ -61,16 +61,16 @@ Faces quietFaces(const DeriveContext& context, const Bed& bed)
     return faces;
 }
 
-Faces softFaces(const DeriveContext& context, Hue hue, const Bed& bed)
+Faces softFaces(const DeriveContext& context, Hue hue, const Backdrop& backdrop)
 {
     const Color solid = context.solid(hue);
-    const Color border = context.mark(solid, bed.tones);
+    const Color border = context.mark(solid, backdrop.tones);
     const auto tinted = [&](float amount, Form form, std::initializer_list<Color> others) {
         Face face =
-            controlFace(context.stateFill(mixed(bed.fill, solid, amount), form, others), border, form);
+            controlFace(context.stateFill(mixed(backdrop.fill, solid, amount), form, others), border, form);
         return face;
     };
-    Faces faces = standardFaces(context, bed);
+    Faces faces = standardFaces(context, backdrop);
     faces.normal = tinted(0.14F, Form::Raised, {});
     faces.hot = tinted(0.24F, Form::Raised, {faces.normal.fill});
     faces.pressed = tinted(0.08F, Form::Pressed, {faces.normal.fill, faces.hot.fill});
@@ -78,37 +78,37 @@ Faces softFaces(const DeriveContext& context, Hue hue, const Bed& bed)
     return faces;
 }
 
-Faces solidFaces(const DeriveContext& context, Hue hue, const Bed& bed)
+Faces solidFaces(const DeriveContext& context, Hue hue, const Backdrop& backdrop)
 {
     const Color solid = context.solid(hue);
     const Color hot =
         hue == Hue::Accent ? context.theme.accentHot : lightened(solid, context.dark ? 0.05F : -0.05F);
-    Faces faces = standardFaces(context, bed);
+    Faces faces = standardFaces(context, backdrop);
     const Color normal = solidFill(context, solid, Form::Raised);
     // The caption keeps its colour while the button is used.
     const Color ink = context.inkOn(context.shades(normal, Form::Raised));
     const auto face = [&](Color wanted, Form form, std::initializer_list<Color> others) {
         const Color fill = context.fillUnder(ink, normal, wanted, form, others, context.solidAim);
-        return solidFace(context, fill, bed, form);
+        return solidFace(context, fill, backdrop, form);
     };
-    faces.normal = solidFace(context, normal, bed, Form::Raised);
+    faces.normal = solidFace(context, normal, backdrop, Form::Raised);
     faces.hot = face(hot, Form::Raised, {normal});
-    faces.pressed = face(mixed(solid, bed.fill, 0.2F), Form::Pressed, {normal, faces.hot.fill});
+    faces.pressed = face(mixed(solid, backdrop.fill, 0.2F), Form::Pressed, {normal, faces.hot.fill});
     faces.active = face(mixed(solid, context.strongText, 0.15F), Form::Pressed,
                         {normal, faces.hot.fill, faces.pressed.fill});
     return faces;
 }
 
-Faces facesFor(const DeriveContext& context, const ButtonRecipe& recipe, const Bed& bed)
+Faces facesFor(const DeriveContext& context, const ButtonRecipe& recipe, const Backdrop& backdrop)
 {
     switch (recipe.emphasis) {
-    case Emphasis::Solid: return solidFaces(context, recipe.hue, bed);
-    case Emphasis::Outline: return outlineFaces(context, bed);
-    case Emphasis::Soft: return softFaces(context, recipe.hue, bed);
-    case Emphasis::Quiet: return quietFaces(context, bed);
+    case Emphasis::Solid: return solidFaces(context, recipe.hue, backdrop);
+    case Emphasis::Outline: return outlineFaces(context, backdrop);
+    case Emphasis::Soft: return softFaces(context, recipe.hue, backdrop);
+    case Emphasis::Quiet: return quietFaces(context, backdrop);
     case Emphasis::Standard: break;
     }
-    return standardFaces(context, bed);
+    return standardFaces(context, backdrop);
 }
 
 Color captionOn(const DeriveContext& context, const ButtonRecipe& recipe, VisualState state,
@@ -158,20 +158,20 @@ constexpr BitmapButtonRow kBitmapButtonRows[] = {
 
 } // namespace
 
-void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, const Bed& bed, ShapeKind shape,
-                  ButtonStyle& style)
+void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, const Backdrop& backdrop,
+                  ShapeKind shape, ButtonStyle& style)
 {
-    const Faces faces = facesFor(context, recipe, bed);
+    const Faces faces = facesFor(context, recipe, backdrop);
     style.shape = shape;
     style.hitShape = shape;
-    const Color focus = context.mark(context.focus, bed.tones);
+    const Color focus = context.mark(context.focus, backdrop.tones);
     const Color solidInk = context.inkOn(context.shades(faces.normal.fill, faces.normal.form));
     for (int index = 0; index < kVisualStateCount; ++index) {
         const auto state = static_cast<VisualState>(index);
         SurfaceStyle& surface = style.surface[state];
         surface = surfaceOf(context, faces[state], shape);
         surface.glow = focus;
-        const Tones face = bedOn(surface, bed).tones;
+        const Tones face = backdropOf(surface, backdrop).tones;
         const bool solid = recipe.emphasis == Emphasis::Solid && state != VisualState::Disabled;
         const Color caption = solid ? solidInk : captionOn(context, recipe, state, face);
         style.text[state] = textOf(context, caption, context.faint(caption, face), recipe.type);
@@ -182,7 +182,7 @@ void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, cons
 void buildButtons(const DeriveContext& context, StyleSheet& sheet)
 {
     for (const ButtonRow& row : kButtonRows)
-        deriveButton(context, row.recipe, context.ground, context.look.controlShape,
+        deriveButton(context, row.recipe, context.backdrop, context.look.controlShape,
                      sheet.table<ButtonStyle>().ensure(row.variant));
 }
 
@@ -190,7 +190,7 @@ void buildBitmapButtons(const DeriveContext& context, StyleSheet& sheet)
 {
     ButtonStyle face;
     for (const BitmapButtonRow& row : kBitmapButtonRows) {
-        deriveButton(context, row.recipe, context.ground, context.look.controlShape, face);
+        deriveButton(context, row.recipe, context.backdrop, context.look.controlShape, face);
         BitmapButtonStyle& style = sheet.table<BitmapButtonStyle>().ensure(row.variant);
         style.text = face.text.normal;
         style.image = face.surface.normal;
@@ -204,23 +204,23 @@ void buildTabs(const DeriveContext& context, StyleSheet& sheet)
 {
     TabsStyle& style = sheet.table<TabsStyle>().defaultRecord();
     style.shape = context.look.controlShape;
-    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, context.ground, style.shape, style.itemButton);
+    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, context.backdrop, style.shape, style.itemButton);
     // The open tab is told by more than a veil: its face is the control's own, with an edge in the accent.
     SurfaceStyle& open = style.itemButton.surface.active;
-    const Bed& ground = context.ground;
+    const Backdrop& backdrop = context.backdrop;
     const Color fill =
         context.stateFill(context.control.normal, Form::Raised,
                           {style.itemButton.surface.hot.fill, style.itemButton.surface.pressed.fill});
     const Color focus = open.glow;
     open = surfaceOf(context,
                      {.fill = fill,
-                      .border = context.mark(context.theme.accent, ground.tones),
+                      .border = context.mark(context.theme.accent, backdrop.tones),
                       .form = Form::Raised,
                       .substance = Substance::Control},
                      style.shape);
     open.glow = focus;
     style.itemButton.text.active =
-        textOn(context, bedOn(open, ground).tones, {context.strongText, context.text});
+        textOn(context, backdropOf(open, backdrop).tones, {context.strongText, context.text});
     style.verticalItemHeight = 36;
 }
 

@@ -16,30 +16,30 @@ void deriveCard(const DeriveContext& context, Color fill, CardStyle& style)
 {
     style.shape = context.look.panelShape;
     style.headerShape = context.look.panelShape;
-    style.surface = groundOf(context, fill, context.hairline, style.shape);
+    style.surface = containerSurface(context, fill, context.hairline, style.shape);
     style.header = bareSurface(context, style.headerShape);
-    const Bed bed = bedOn(style.surface, context.ground);
-    style.titleText = textOn(context, bed.tones, {context.strongText, context.text}, kCardTitle);
-    style.subtitleText = textOn(context, bed.tones, {context.mutedText, context.text});
+    const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
+    style.titleText = textOn(context, backdrop.tones, {context.strongText, context.text}, kCardTitle);
+    style.subtitleText = textOn(context, backdrop.tones, {context.mutedText, context.text});
     style.headerHeight = 48;
     style.contentPadding = 16;
 }
 
 void deriveRaisedCard(const DeriveContext& context, CardStyle& style)
 {
-    deriveCard(context, context.grounds.raisedCard, style);
+    deriveCard(context, context.containerFills.raisedCard, style);
     const FormLook& raised = context.look.form(Form::Raised);
     style.surface.showShadow = raised.shadow > 0;
     style.surface.shadowOpacity = raised.shadow;
 }
 
-// Figures at a glance: a deeper ground, and a title that leaves the stage to them.
+// Figures at a glance: a deeper fill, and a title that leaves the stage to them.
 void deriveDashboardCard(const DeriveContext& context, CardStyle& style)
 {
-    deriveCard(context, context.grounds.dashboard, style);
-    const Bed bed = bedOn(style.surface, context.ground);
-    style.titleText = textOn(context, bed.tones, {context.text}, kLabel);
-    style.subtitleText = textOn(context, bed.tones, {context.mutedText, context.text}, kSmall);
+    deriveCard(context, context.containerFills.dashboard, style);
+    const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
+    style.titleText = textOn(context, backdrop.tones, {context.text}, kLabel);
+    style.subtitleText = textOn(context, backdrop.tones, {context.mutedText, context.text}, kSmall);
     style.headerHeight = 40;
 }
 
@@ -47,14 +47,15 @@ void deriveChip(const DeriveContext& context, Hue hue, StatusChipStyle& style)
 {
     const bool plain = hue == Hue::Neutral;
     const Color lead = context.solid(plain ? Hue::Accent : hue);
-    const Color tint = plain ? context.veil(context.ground, 0.05F) : mixed(context.ground.fill, lead, 0.14F);
+    const Color tint =
+        plain ? context.veil(context.backdrop, 0.05F) : mixed(context.backdrop.fill, lead, 0.14F);
     style.shape = ShapeKind::Pill;
     style.badgeShape = ShapeKind::Pill;
     const Color fill = context.stateFill(tint, Form::Plate, {});
     style.surface = surfaceOf(context, {.fill = fill, .border = mixed(fill, lead, 0.4F)}, style.shape);
-    const Bed bed = bedOn(style.surface, context.ground);
-    style.text = textOn(context, bed.tones, {plain ? context.text : context.inkOf(hue)}, kSmall);
-    style.badge = plateOf(context, context.markFill(lead, bed.tones, Form::Plate), style.badgeShape);
+    const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
+    style.text = textOn(context, backdrop.tones, {plain ? context.text : context.inkOf(hue)}, kSmall);
+    style.badge = flatSurface(context, context.markFill(lead, backdrop.tones, Form::Plate), style.badgeShape);
 }
 
 void derivePopup(const DeriveContext& context, Color frame, Hue badge, PopupStyle& style)
@@ -63,18 +64,18 @@ void derivePopup(const DeriveContext& context, Color frame, Hue badge, PopupStyl
     style.shape = context.look.panelShape;
     style.headerShape = context.look.panelShape;
     style.iconShape = ShapeKind::Pill;
-    style.surface = groundOf(context, context.grounds.panel, frame, style.shape);
+    style.surface = containerSurface(context, context.containerFills.panel, frame, style.shape);
     style.header = bareSurface(context, style.headerShape);
-    style.footer = groundOf(context, context.grounds.glass, context.hairline, ShapeKind::Rect);
+    style.footer = containerSurface(context, context.containerFills.glass, context.hairline, ShapeKind::Rect);
     style.footer.showOutline = false;
-    style.icon = badgeOf(context, badge, context.ground, style.iconShape);
-    const Bed bed = bedOn(style.surface, context.ground);
-    const Color ink = context.inkOn(bedOn(style.icon, bed).tones);
+    style.icon = badgeSurface(context, badge, context.backdrop, style.iconShape);
+    const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
+    const Color ink = context.inkOn(backdropOf(style.icon, backdrop).tones);
     style.iconText = textOf(context, ink, ink, kGlyph);
-    style.titleText = textOn(context, bed.tones, {context.strongText, context.text}, kPopupTitle);
-    style.messageText = readingTextOn(context, bed.tones, {context.text});
-    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, bed, button, style.closeButton);
-    const Bed actions = bedOn(style.footer, bed);
+    style.titleText = textOn(context, backdrop.tones, {context.strongText, context.text}, kPopupTitle);
+    style.messageText = readingTextOn(context, backdrop.tones, {context.text});
+    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, backdrop, button, style.closeButton);
+    const Backdrop actions = backdropOf(style.footer, backdrop);
     deriveButton(context, {Hue::Accent, Emphasis::Solid, kLabel}, actions, button, style.primaryAction);
     deriveButton(context, {}, actions, button, style.secondaryAction);
     style.surface.shadowOpacity = context.look.form(Form::Raised).shadow;
@@ -91,21 +92,21 @@ void derivePopup(const DeriveContext& context, Color frame, Hue badge, PopupStyl
 
 void deriveTooltip(const DeriveContext& context, TooltipStyle& style)
 {
-    const Color fill = context.groundFill(towards(context.ground.fill, context.control.normal, 0.05F));
+    const Color fill = context.containerFill(towards(context.backdrop.fill, context.control.normal, 0.05F));
     style.shape = ShapeKind::RoundedRect;
     style.iconShape = ShapeKind::Pill;
     style.railShape = ShapeKind::Pill;
-    style.surface = groundOf(context, fill, mixed(fill, context.edge, 0.6F), style.shape);
+    style.surface = containerSurface(context, fill, mixed(fill, context.edge, 0.6F), style.shape);
     style.surface.useNoise = false;
     style.surface.shadowOpacity = context.look.form(Form::Raised).shadow;
     style.showShadow = style.surface.shadowOpacity > 0;
-    const Bed bed = bedOn(style.surface, context.ground);
-    style.textStyle = textOn(context, bed.tones, {context.text});
-    style.icon = badgeOf(context, Hue::Accent, bed, style.iconShape);
-    const Color ink = context.inkOn(bedOn(style.icon, bed).tones);
+    const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
+    style.textStyle = textOn(context, backdrop.tones, {context.text});
+    style.icon = badgeSurface(context, Hue::Accent, backdrop, style.iconShape);
+    const Color ink = context.inkOn(backdropOf(style.icon, backdrop).tones);
     style.iconText = textOf(context, ink, ink, {.points = -1, .weight = 300});
-    style.accentRail =
-        plateOf(context, context.markFill(context.theme.accent, bed.tones, Form::Plate), style.railShape);
+    style.accentRail = flatSurface(
+        context, context.markFill(context.theme.accent, backdrop.tones, Form::Plate), style.railShape);
 }
 
 } // namespace
@@ -115,20 +116,20 @@ void buildPanels(const DeriveContext& context, StyleSheet& sheet)
     const auto panel = [&](std::wstring_view variant, Color fill, Color border) -> PanelStyle& {
         PanelStyle& style = sheet.table<PanelStyle>().ensure(variant);
         style.shape = context.look.panelShape;
-        style.surface = groundOf(context, fill, border, style.shape);
+        style.surface = containerSurface(context, fill, border, style.shape);
         style.padding = 16;
         return style;
     };
-    panel(L"default", context.grounds.panel, context.hairline);
+    panel(L"default", context.containerFills.panel, context.hairline);
     SurfaceStyle& glass =
-        panel(L"glass", context.grounds.glass, mixed(context.hairline, context.edge, 0.4F)).surface;
+        panel(L"glass", context.containerFills.glass, mixed(context.hairline, context.edge, 0.4F)).surface;
     glass.opacity = glass.useGradient ? kGlassOpacity : glass.opacity;
 }
 
 void buildCards(const DeriveContext& context, StyleSheet& sheet)
 {
     VariantTable<CardStyle>& cards = sheet.table<CardStyle>();
-    deriveCard(context, context.grounds.card, cards.ensure(L"default"));
+    deriveCard(context, context.containerFills.card, cards.ensure(L"default"));
     deriveRaisedCard(context, cards.ensure(L"raised"));
     deriveDashboardCard(context, cards.ensure(L"dashboard"));
 }

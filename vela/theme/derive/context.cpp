@@ -88,7 +88,7 @@ DeriveContext::DeriveContext(const Theme& theme_)
 {
     dark = strongestOn(theme.panel) == hexColor(0xFFFFFF);
     resolveHues();
-    resolveGrounds();
+    resolveContainers();
     resolveInks();
     resolveControl();
 }
@@ -107,49 +107,48 @@ void DeriveContext::resolveHues()
         solids_[static_cast<int>(status.hue)] = statusColor(status, theme.accent, dark);
 }
 
-void DeriveContext::resolveGrounds()
+void DeriveContext::resolveContainers()
 {
-    const Color panel = groundFill(theme.panel);
-    const Color pole = strongestOn(shades(panel, Form::Ground));
+    const Color panel = containerFill(theme.panel);
+    const Color pole = strongestOn(shades(panel, Form::Container));
     dark = pole == hexColor(0xFFFFFF);
-    ground = {panel, shades(panel, Form::Ground)};
+    backdrop = {panel, shades(panel, Form::Container)};
     const auto near = [&](Color role, float distance) {
-        const Color fill = groundFill(towards(panel, role, distance));
-        const Tones tones = shades(fill, Form::Ground);
-        // A ground that would need text of the other kind stays the panel: one text colour serves them all.
+        const Color fill = containerFill(towards(panel, role, distance));
+        const Tones tones = shades(fill, Form::Container);
+        // One that would need text of the other kind is filled as the panel is: one text colour serves all.
         if (strongestOn(tones) != pole)
             return panel;
-        ground.tones.include(tones);
+        backdrop.tones.include(tones);
         return fill;
     };
-    grounds = {.panel = panel,
-               .glass = near(theme.header, 0.030F),
-               .card = near(theme.control, 0.024F),
-               .raisedCard = near(theme.control, 0.036F),
-               .dashboard = near(theme.shell, 0.030F)};
-    header.fill = groundFill(theme.header);
-    header.tones = shades(header.fill, Form::Ground);
+    containerFills = {.panel = panel,
+                      .glass = near(theme.header, 0.030F),
+                      .card = near(theme.control, 0.024F),
+                      .raisedCard = near(theme.control, 0.036F),
+                      .dashboard = near(theme.shell, 0.030F)};
+    headerFill = containerFill(theme.header);
 }
 
 void DeriveContext::resolveInks()
 {
-    text = inkUnder({theme.text, theme.textHot}, ground.tones);
-    strongText = inkUnder({theme.textHot, theme.text}, ground.tones);
-    mutedText = readable({theme.mutedText}, ground.tones);
-    disabledText = faint(text, ground.tones);
-    edge = mark(theme.border, ground.tones);
-    hotEdge = mark(mixed(edge, strongText, 0.16F), ground.tones);
-    quietEdge = mixed(ground.fill, edge, 0.45F);
-    hairline = towards(ground.fill, theme.border, 0.16F);
+    text = inkUnder({theme.text, theme.textHot}, backdrop.tones);
+    strongText = inkUnder({theme.textHot, theme.text}, backdrop.tones);
+    mutedText = readable({theme.mutedText}, backdrop.tones);
+    disabledText = faint(text, backdrop.tones);
+    edge = mark(theme.border, backdrop.tones);
+    hotEdge = mark(mixed(edge, strongText, 0.16F), backdrop.tones);
+    quietEdge = mixed(backdrop.fill, edge, 0.45F);
+    hairline = towards(backdrop.fill, theme.border, 0.16F);
     inks_[static_cast<int>(Hue::Neutral)] = text;
     for (const Hue hue : {Hue::Accent, Hue::Success, Hue::Warning, Hue::Danger})
-        inks_[static_cast<int>(hue)] = readable({solid(hue)}, ground.tones);
-    focus = pickReaching({theme.accent, theme.accentHot, text}, ground.tones, markAim);
+        inks_[static_cast<int>(hue)] = readable({solid(hue)}, backdrop.tones);
+    focus = pickReaching({theme.accent, theme.accentHot, text}, backdrop.tones, markAim);
 }
 
-Color DeriveContext::groundFill(Color wanted) const noexcept
+Color DeriveContext::containerFill(Color wanted) const noexcept
 {
-    return readableFace(wanted, look.form(Form::Ground).shading, textAim);
+    return readableFace(wanted, look.form(Form::Container).shading, textAim);
 }
 
 void DeriveContext::resolveControl()
@@ -157,7 +156,7 @@ void DeriveContext::resolveControl()
     control.normal = stateFill(theme.control, Form::Raised, {});
     control.hot = stateFill(theme.controlHot, Form::Raised, {control.normal});
     control.pressed = stateFill(theme.controlPressed, Form::Pressed, {control.normal, control.hot});
-    control.disabled = stateFill(towards(theme.disabledFill, ground.fill, 0.02F), Form::Plate, {});
+    control.disabled = stateFill(towards(theme.disabledFill, backdrop.fill, 0.02F), Form::Plate, {});
     control.active = stateFill(mixed(control.normal, theme.accent, 0.22F), Form::Pressed,
                                {control.normal, control.hot, control.pressed});
 }
@@ -207,9 +206,9 @@ Color DeriveContext::inkUnder(std::initializer_list<Color> wanted, const Tones& 
     return pickReaching(wanted, on, textAim * kInkRoom);
 }
 
-Color DeriveContext::veil(const Bed& bed, float amount) const noexcept
+Color DeriveContext::veil(const Backdrop& on, float amount) const noexcept
 {
-    return lightened(bed.fill, strongestOn(bed.tones) == hexColor(0xFFFFFF) ? amount : -amount);
+    return lightened(on.fill, strongestOn(on.tones) == hexColor(0xFFFFFF) ? amount : -amount);
 }
 
 Color DeriveContext::readable(std::initializer_list<Color> wanted, const Tones& on) const noexcept

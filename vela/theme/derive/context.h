@@ -10,7 +10,7 @@
 namespace vela::derive {
 
 // What a part lies on: the colour it is mixed with and every tone it has to stand out from.
-struct Bed {
+struct Backdrop {
     Color fill = 0;
     Tones tones;
 };
@@ -18,9 +18,9 @@ struct Bed {
 enum class Hue : std::uint8_t { Neutral, Accent, Success, Warning, Danger };
 inline constexpr int kHueCount = 5;
 
-// The fills of the level surfaces that controls lie on. They stay near each other, so that one border colour
-// stands out from all of them.
-struct Grounds {
+// The fills of the large level surfaces that controls lie on. They stay near each other, so that one border
+// colour stands out from all of them.
+struct ContainerFills {
     Color panel = 0;
     Color glass = 0;
     Color card = 0;
@@ -40,9 +40,9 @@ public:
     float markAim;
     bool dark = false;
 
-    Grounds grounds;
-    Bed ground; // all of them
-    Bed header; // the title bar
+    ContainerFills containerFills;
+    Backdrop backdrop;    // of controls: every container
+    Color headerFill = 0; // of the title bar
 
     PerState<Color> control = {}; // the fills of a standard control
 
@@ -60,10 +60,10 @@ public:
     Color inkOf(Hue hue) const noexcept
     {
         return inks_[static_cast<int>(hue)];
-    } // text and marks on the ground
+    } // text and marks on the backdrop
 
     // The fill of a large surface: readable under its shading.
-    Color groundFill(Color wanted) const noexcept;
+    Color containerFill(Color wanted) const noexcept;
     // The fill of a form, readable under its shading and clearly different from the fills of the other
     // states.
     Color stateFill(Color wanted, Form form, std::initializer_list<Color> others) const noexcept;
@@ -82,10 +82,10 @@ public:
     // The ink for parts that keep one text colour in all states: it leaves room for their fills to differ.
     Color inkUnder(std::initializer_list<Color> wanted, const Tones& on) const noexcept;
     Tones shades(Color fill, Form form) const noexcept;
-    // A part of the way from the bed to what is most unlike it: the fill of a highlighted row or a quiet
+    // A part of the way from the backdrop to what is most unlike it: the fill of a highlighted row or a quiet
     // button.
-    Color veil(const Bed& bed, float amount) const noexcept;
-    // The first of the wanted colours that can be read on the bed, else the first one nudged.
+    Color veil(const Backdrop& on, float amount) const noexcept;
+    // The first of the wanted colours that can be read on the backdrop, else the first one nudged.
     Color readable(std::initializer_list<Color> wanted, const Tones& on) const noexcept;
     // The palette's strongest colour on a coloured face.
     Color inkOn(const Tones& on) const noexcept;
@@ -97,7 +97,7 @@ private:
     // The ratio to aim at where that one is the rule: above it by what a material or relief takes.
     float withRoom(float ratio, float materialRoom) const noexcept;
     void resolveHues();
-    void resolveGrounds();
+    void resolveContainers();
     void resolveInks();
     void resolveControl();
 

@@ -11,32 +11,32 @@ namespace {
 // where all of those can be read.
 void deriveCalendar(const DeriveContext& context, DateInputStyle& style)
 {
-    const Color page = context.grounds.raisedCard;
+    const Color page = context.containerFills.raisedCard;
     const Color ink = context.text;
-    const Bed bed = {page, context.shades(page, Form::Ground)};
+    const Backdrop backdrop = {page, context.shades(page, Form::Container)};
     const auto day = [&](Color wanted, std::initializer_list<Color> others) {
         return context.fillUnder(ink, page, wanted, Form::Plate, others);
     };
-    const Color hot = day(context.veil(bed, 0.055F), {page});
-    const Color pressed = day(context.veil(bed, 0.09F), {page, hot});
+    const Color hot = day(context.veil(backdrop, 0.055F), {page});
+    const Color pressed = day(context.veil(backdrop, 0.09F), {page, hot});
     const Color selected = day(mixed(page, context.theme.accent, 0.26F), {page, hot, pressed});
-    const Color ring = context.mark(context.theme.accent, bed.tones);
+    const Color ring = context.mark(context.theme.accent, backdrop.tones);
     const ShapeKind cell = ShapeKind::RoundedRect;
-    style.popupSurface = groundOf(context, page, mixed(page, context.edge, 0.6F), style.popupShape);
+    style.popupSurface = containerSurface(context, page, mixed(page, context.edge, 0.6F), style.popupShape);
     style.popupSurface.useNoise = false;
     style.headerSurface = bareSurface(context, ShapeKind::Rect);
-    style.dayHotSurface = plateOf(context, hot, cell);
-    style.dayPressedSurface = plateOf(context, pressed, cell);
+    style.dayHotSurface = flatSurface(context, hot, cell);
+    style.dayPressedSurface = flatSurface(context, pressed, cell);
     style.daySelectedSurface = surfaceOf(context, {.fill = selected, .border = ring}, cell);
     style.todaySurface = bareSurface(context, cell);
     style.todaySurface.border = style.todaySurface.outline = ring;
     style.todaySurface.showOutline = true;
 
-    Tones cells = bed.tones;
+    Tones cells = backdrop.tones;
     for (const Color fill : {hot, pressed, selected})
         cells.include(context.shades(fill, Form::Plate));
-    style.headerText = textOn(context, bed.tones, {context.strongText, context.text}, kLabel);
-    style.weekdayText = textOn(context, bed.tones, {context.mutedText, context.text}, kSmall);
+    style.headerText = textOn(context, backdrop.tones, {context.strongText, context.text}, kLabel);
+    style.weekdayText = textOn(context, backdrop.tones, {context.mutedText, context.text}, kSmall);
     style.dayText = textOn(context, cells, {context.text});
     style.weekendText = textOn(context, cells, {context.mutedText, context.text});
     style.saturdayText = style.weekendText;

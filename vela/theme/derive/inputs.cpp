@@ -41,12 +41,12 @@ SurfaceStyle selectionOn(const DeriveContext& context, Color ink, Color fill, Sh
 {
     const Color veil =
         context.fillUnder(ink, fill, mixed(fill, context.theme.accent, 0.38F), Form::Plate, {fill});
-    return plateOf(context, veil, shape);
+    return flatSurface(context, veil, shape);
 }
 
 SurfaceStyle focusedField(const DeriveContext& context, Color fill, ShapeKind shape)
 {
-    SurfaceStyle surface = sunkenOf(context, fill, context.focus, shape);
+    SurfaceStyle surface = sunkenSurface(context, fill, context.focus, shape);
     surface.showOutline = true;
     surface.outlineWidth = 2;
     return surface;
@@ -58,12 +58,12 @@ void addAttachments(const DeriveContext& context, Color ink, Color field, TextIn
         context.fillUnder(ink, field, context.veil({field, field}, 0.07F), Form::Plate, {field});
     style.attachmentSurface =
         surfaceOf(context, {.fill = chip, .border = context.hairline}, style.attachmentShape);
-    style.attachmentImageSurface = plateOf(
+    style.attachmentImageSurface = flatSurface(
         context, context.markFill(context.theme.accent, context.shades(chip, Form::Plate), Form::Plate),
         style.attachmentImageShape);
-    style.attachmentRemoveSurface =
-        plateOf(context, context.fillUnder(ink, chip, context.veil({chip, chip}, 0.08F), Form::Plate, {chip}),
-                style.attachmentRemoveShape);
+    style.attachmentRemoveSurface = flatSurface(
+        context, context.fillUnder(ink, chip, context.veil({chip, chip}, 0.08F), Form::Plate, {chip}),
+        style.attachmentRemoveShape);
     Tones chips = context.shades(chip, Form::Plate);
     chips.include(style.attachmentRemoveSurface.fill);
     style.attachmentText = textOn(context, chips, {ink}, kSmall);
@@ -77,9 +77,9 @@ void buildTextInput(const DeriveContext& context, StyleSheet& sheet)
     const FieldFills fills = fieldFills(context, Form::Sunken);
     TextInputStyle& style = sheet.table<TextInputStyle>().defaultRecord();
     style.shape = context.look.controlShape;
-    style.surface = sunkenOf(context, fills.normal, context.edge, style.shape);
-    style.hotSurface = sunkenOf(context, fills.hot, context.hotEdge, style.shape);
-    style.pressedSurface = sunkenOf(context, fills.pressed, context.edge, style.shape);
+    style.surface = sunkenSurface(context, fills.normal, context.edge, style.shape);
+    style.hotSurface = sunkenSurface(context, fills.hot, context.hotEdge, style.shape);
+    style.pressedSurface = sunkenSurface(context, fills.pressed, context.edge, style.shape);
     style.focusedSurface = focusedField(context, fills.focused, style.shape);
     style.disabledSurface =
         surfaceOf(context, {.fill = fills.disabled, .border = context.quietEdge}, style.shape);
@@ -102,9 +102,9 @@ void buildSelectableText(const DeriveContext& context, StyleSheet& sheet)
 {
     SelectableTextStyle& style = sheet.table<SelectableTextStyle>().defaultRecord();
     style.surface = bareSurface(context, style.shape);
-    style.text = textOn(context, context.ground.tones, {context.text});
-    style.selection = selectionOn(context, context.text, context.ground.fill, ShapeKind::Rect);
-    style.selectedText = textOn(context, bedOn(style.selection, context.ground).tones, {context.text});
+    style.text = textOn(context, context.backdrop.tones, {context.text});
+    style.selection = selectionOn(context, context.text, context.backdrop.fill, ShapeKind::Rect);
+    style.selectedText = textOn(context, backdropOf(style.selection, context.backdrop).tones, {context.text});
 }
 
 void buildCheckBox(const DeriveContext& context, StyleSheet& sheet)
@@ -114,10 +114,10 @@ void buildCheckBox(const DeriveContext& context, StyleSheet& sheet)
     style.shape = ShapeKind::RoundedRect;
     style.boxSize = 20;
     style.textLeft = 28;
-    style.text = textOn(context, context.ground.tones, {context.text});
-    style.boxUnchecked = sunkenOf(context, fills.normal, context.edge, style.shape);
-    style.boxUncheckedHot = sunkenOf(context, fills.hot, context.hotEdge, style.shape);
-    style.boxUncheckedPressed = sunkenOf(context, fills.pressed, context.edge, style.shape);
+    style.text = textOn(context, context.backdrop.tones, {context.text});
+    style.boxUnchecked = sunkenSurface(context, fills.normal, context.edge, style.shape);
+    style.boxUncheckedHot = sunkenSurface(context, fills.hot, context.hotEdge, style.shape);
+    style.boxUncheckedPressed = sunkenSurface(context, fills.pressed, context.edge, style.shape);
     style.boxUncheckedDisabled =
         surfaceOf(context, {.fill = fills.disabled, .border = context.quietEdge}, style.shape);
 
@@ -126,16 +126,16 @@ void buildCheckBox(const DeriveContext& context, StyleSheet& sheet)
     const Color checked = solidFill(context, theme.accent, Form::Raised);
     const Color hot = context.stateFill(towards(checked, theme.accentHot, 0.05F), Form::Raised, {checked});
     const Color pressed =
-        context.stateFill(towards(checked, context.ground.fill, 0.05F), Form::Pressed, {checked, hot});
+        context.stateFill(towards(checked, context.backdrop.fill, 0.05F), Form::Pressed, {checked, hot});
     const auto box = [&](Color fill, Form form) {
-        return surfaceOf(context, solidFace(context, fill, context.ground, form), style.shape);
+        return surfaceOf(context, solidFace(context, fill, context.backdrop, form), style.shape);
     };
     style.boxChecked = box(checked, Form::Raised);
     style.boxCheckedHot = box(hot, Form::Raised);
     style.boxCheckedPressed = box(pressed, Form::Pressed);
-    Tones boxes = bedOn(style.boxChecked, context.ground).tones;
-    boxes.include(bedOn(style.boxCheckedHot, context.ground).tones);
-    boxes.include(bedOn(style.boxCheckedPressed, context.ground).tones);
+    Tones boxes = backdropOf(style.boxChecked, context.backdrop).tones;
+    boxes.include(backdropOf(style.boxCheckedHot, context.backdrop).tones);
+    boxes.include(backdropOf(style.boxCheckedPressed, context.backdrop).tones);
     style.checkColor = context.inkOn(boxes);
     const Color disabled =
         context.markFill(context.quietEdge, style.checkColor, Form::Plate, {checked, hot, pressed});
@@ -172,15 +172,17 @@ void buildSelectBox(const DeriveContext& context, StyleSheet& sheet)
     style.arrowDisabledSurface = bareSurface(context, style.arrowShape);
     style.arrowColor = context.mark(context.theme.mutedText, faces);
 
-    const Color list = context.fillUnder(ink, fills.normal, context.grounds.raisedCard, Form::Ground, {});
-    style.dropdownSurface = groundOf(context, list, mixed(list, context.edge, 0.6F), style.dropdownShape);
+    const Color list =
+        context.fillUnder(ink, fills.normal, context.containerFills.raisedCard, Form::Container, {});
+    style.dropdownSurface =
+        containerSurface(context, list, mixed(list, context.edge, 0.6F), style.dropdownShape);
     const Color hot = context.fillUnder(ink, list, context.veil({list, list}, 0.06F), Form::Plate, {list});
-    style.optionHotSurface = plateOf(context, hot, ShapeKind::RoundedRect);
-    style.optionSelectedSurface = plateOf(
+    style.optionHotSurface = flatSurface(context, hot, ShapeKind::RoundedRect);
+    style.optionSelectedSurface = flatSurface(
         context,
         context.fillUnder(ink, list, mixed(list, context.theme.accent, 0.2F), Form::Plate, {list, hot}),
         ShapeKind::RoundedRect);
-    deriveScrollBar(context, bedOn(style.dropdownSurface, context.ground), style.scrollBar);
+    deriveScrollBar(context, backdropOf(style.dropdownSurface, context.backdrop), style.scrollBar);
     style.itemHeight = 32;
 }
 

@@ -21,16 +21,16 @@ struct RowFills {
 RowFills rowFills(const DeriveContext& context, Color list)
 {
     const Color ink =
-        context.inkUnder({context.theme.text, context.theme.textHot}, context.shades(list, Form::Ground));
-    const Bed bed = {list, list};
+        context.inkUnder({context.theme.text, context.theme.textHot}, context.shades(list, Form::Container));
+    const Backdrop backdrop = {list, list};
     const auto row = [&](Color wanted, std::initializer_list<Color> others) {
         return context.fillUnder(ink, list, wanted, Form::Plate, others);
     };
     RowFills fills = {};
     fills.ink = ink;
     fills.list = list;
-    fills.hot = row(context.veil(bed, 0.055F), {list});
-    fills.pressed = row(context.veil(bed, 0.09F), {list, fills.hot});
+    fills.hot = row(context.veil(backdrop, 0.055F), {list});
+    fills.pressed = row(context.veil(backdrop, 0.09F), {list, fills.hot});
     fills.selected = row(mixed(list, context.theme.accent, 0.18F), {list, fills.hot, fills.pressed});
     fills.selectedHot =
         row(mixed(list, context.theme.accent, 0.26F), {list, fills.hot, fills.pressed, fills.selected});
@@ -39,19 +39,19 @@ RowFills rowFills(const DeriveContext& context, Color list)
 
 Tones tonesOf(const DeriveContext& context, const RowFills& fills)
 {
-    Tones tones = context.shades(fills.list, Form::Ground);
+    Tones tones = context.shades(fills.list, Form::Container);
     for (const Color fill : {fills.hot, fills.pressed, fills.selected, fills.selectedHot})
         tones.include(context.shades(fill, Form::Plate));
     return tones;
 }
 
-Color listFill(const DeriveContext& context) { return context.groundFill(context.theme.control); }
+Color listFill(const DeriveContext& context) { return context.containerFill(context.theme.control); }
 
 SurfaceStyle railOn(const DeriveContext& context, const RowFills& fills, ShapeKind shape)
 {
     Tones rows = context.shades(fills.selected, Form::Plate);
     rows.include(context.shades(fills.selectedHot, Form::Plate));
-    return plateOf(context, context.markFill(context.theme.accent, rows, Form::Plate), shape);
+    return flatSurface(context, context.markFill(context.theme.accent, rows, Form::Plate), shape);
 }
 
 } // namespace
@@ -64,18 +64,19 @@ void buildListBox(const DeriveContext& context, StyleSheet& sheet)
     style.shape = context.look.panelShape;
     style.rowShape = context.look.slimTracks ? ShapeKind::RoundedRect : ShapeKind::Rect;
     style.selectedRowShape = style.rowShape;
-    style.surface = groundOf(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
+    style.surface =
+        containerSurface(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
     style.row = bareSurface(context, style.rowShape);
-    style.rowHot = plateOf(context, fills.hot, style.rowShape);
-    style.rowPressed = plateOf(context, fills.pressed, style.rowShape);
-    style.selectedRow = plateOf(context, fills.selected, style.selectedRowShape);
-    style.selectedRowHot = plateOf(context, fills.selectedHot, style.selectedRowShape);
+    style.rowHot = flatSurface(context, fills.hot, style.rowShape);
+    style.rowPressed = flatSurface(context, fills.pressed, style.rowShape);
+    style.selectedRow = flatSurface(context, fills.selected, style.selectedRowShape);
+    style.selectedRowHot = flatSurface(context, fills.selectedHot, style.selectedRowShape);
     style.selectedRail = railOn(context, fills, style.selectedRailShape);
     style.text = textOn(context, tones, {fills.ink});
     style.selectedText = textOn(context, tones, {context.theme.textHot, fills.ink});
     style.disabledText = textOf(context, style.text.disabledColor, style.text.disabledColor);
     style.separator = towards(fills.list, context.theme.border, 0.10F);
-    deriveScrollBar(context, {fills.list, context.shades(fills.list, Form::Ground)}, style.scrollBar);
+    deriveScrollBar(context, {fills.list, context.shades(fills.list, Form::Container)}, style.scrollBar);
     style.rowHeight = 32;
 }
 
@@ -85,18 +86,19 @@ void buildTableList(const DeriveContext& context, StyleSheet& sheet)
     const Tones tones = tonesOf(context, fills);
     TableListStyle& style = sheet.table<TableListStyle>().defaultRecord();
     style.shape = context.look.panelShape;
-    style.surface = groundOf(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
+    style.surface =
+        containerSurface(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
     style.rowText = textOn(context, tones, {fills.ink});
     style.selectedText = textOn(context, tones, {context.theme.textHot, fills.ink});
     const Color ink = style.rowText.color;
-    const Color strip = context.fillUnder(ink, fills.list, towards(fills.list, context.header.fill, 0.05F),
-                                          Form::Ground, {fills.list});
-    style.header = groundOf(context, strip, context.hairline, style.headerShape);
+    const Color strip = context.fillUnder(ink, fills.list, towards(fills.list, context.headerFill, 0.05F),
+                                          Form::Container, {fills.list});
+    style.header = containerSurface(context, strip, context.hairline, style.headerShape);
     style.header.showOutline = false;
-    const Tones head = context.shades(strip, Form::Ground);
+    const Tones head = context.shades(strip, Form::Container);
     style.headerText = textOn(context, head, {context.theme.mutedText, ink}, kLabel);
     style.row = bareSurface(context, style.rowShape);
-    style.selectedRow = plateOf(context, fills.selected, style.selectedRowShape);
+    style.selectedRow = flatSurface(context, fills.selected, style.selectedRowShape);
     style.selectedRail = railOn(context, fills, style.selectedRailShape);
 
     const auto severity = [&](Hue hue, float amount, std::initializer_list<Color> others) {

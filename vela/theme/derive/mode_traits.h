@@ -11,11 +11,11 @@ namespace vela::derive {
 
 // How a surface stands in the light.
 enum class Form : std::uint8_t {
-    Ground,  // large and level: panels, popups, bars
-    Plate,   // lies on a ground without standing out: rows, chips, disabled faces
-    Raised,  // buttons, thumbs, badges
-    Pressed, // a raised form pushed in
-    Sunken,  // fields and tracks
+    Container, // large and level: panels, popups, bars
+    Plate,     // lies on a container without standing out: rows, chips, disabled faces
+    Raised,    // buttons, thumbs, badges
+    Pressed,   // a raised form pushed in
+    Sunken,    // fields and tracks
 };
 inline constexpr int kFormCount = 5;
 

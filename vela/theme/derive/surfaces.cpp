@@ -59,7 +59,7 @@ void shade(SurfaceStyle& surface, const DeriveContext& context, const Face& face
     surface.innerShadow = static_cast<std::uint8_t>(surface.innerShadow * form.innerShadow / 100);
     surface.innerShadowColor = mixed(face.fill, hexColor(0x000000), 0.85F);
 
-    surface.useNoise = face.drawn && face.form == Form::Ground && context.look.noiseOpacity > 0;
+    surface.useNoise = face.drawn && face.form == Form::Container && context.look.noiseOpacity > 0;
     surface.noiseOpacity = context.look.noiseOpacity;
 }
 
@@ -81,7 +81,7 @@ SurfaceStyle surfaceOf(const DeriveContext& context, const Face& face, ShapeKind
     surface.noiseSeed = 0x2F1B;
     surface.drawFill = face.drawn;
     // Not the border: light and noise fall on it too and would wash it out where it tells the control from
-    // its ground, and it is one pixel wide at every DPI.
+    // its backdrop, and it is one pixel wide at every DPI.
     surface.drawBorder = false;
     surface.showOutline = face.drawn && face.bordered;
     return surface;
@@ -89,25 +89,25 @@ SurfaceStyle surfaceOf(const DeriveContext& context, const Face& face, ShapeKind
 
 SurfaceStyle bareSurface(const DeriveContext& context, ShapeKind shape)
 {
-    return surfaceOf(context, {.fill = context.ground.fill, .border = context.hairline, .drawn = false},
+    return surfaceOf(context, {.fill = context.backdrop.fill, .border = context.hairline, .drawn = false},
                      shape);
 }
 
-SurfaceStyle plateOf(const DeriveContext& context, Color fill, ShapeKind shape)
+SurfaceStyle flatSurface(const DeriveContext& context, Color fill, ShapeKind shape)
 {
     return surfaceOf(context, {.fill = fill, .border = fill, .bordered = false}, shape);
 }
 
-SurfaceStyle sunkenOf(const DeriveContext& context, Color fill, Color border, ShapeKind shape)
+SurfaceStyle sunkenSurface(const DeriveContext& context, Color fill, Color border, ShapeKind shape)
 {
     return surfaceOf(context, {.fill = fill, .border = border, .form = Form::Sunken}, shape);
 }
 
-SurfaceStyle groundOf(const DeriveContext& context, Color fill, Color border, ShapeKind shape)
+SurfaceStyle containerSurface(const DeriveContext& context, Color fill, Color border, ShapeKind shape)
 {
-    return surfaceOf(context,
-                     {.fill = fill, .border = border, .form = Form::Ground, .substance = Substance::Surface},
-                     shape);
+    return surfaceOf(
+        context, {.fill = fill, .border = border, .form = Form::Container, .substance = Substance::Surface},
+        shape);
 }
 
 Color solidFill(const DeriveContext& context, Color wanted, Form form)
@@ -115,25 +115,25 @@ Color solidFill(const DeriveContext& context, Color wanted, Form form)
     return readableFace(wanted, std::abs(context.look.form(form).shading), context.solidAim);
 }
 
-Face solidFace(const DeriveContext& context, Color fill, const Bed& bed, Form form)
+Face solidFace(const DeriveContext& context, Color fill, const Backdrop& backdrop, Form form)
 {
     const Tones tones = context.shades(fill, form);
     const float standsOut =
-        std::min(contrastRatio(tones.darkest, bed.tones), contrastRatio(tones.lightest, bed.tones));
+        std::min(contrastRatio(tones.darkest, backdrop.tones), contrastRatio(tones.lightest, backdrop.tones));
     const Color rim = lightened(fill, strongestOn(tones) == hexColor(0xFFFFFF) ? -0.06F : 0.06F);
     return {.fill = fill,
-            .border = standsOut >= context.markAim ? rim : context.mark(fill, bed.tones),
+            .border = standsOut >= context.markAim ? rim : context.mark(fill, backdrop.tones),
             .form = form,
             .substance = Substance::Accent};
 }
 
-SurfaceStyle badgeOf(const DeriveContext& context, Hue hue, const Bed& bed, ShapeKind shape)
+SurfaceStyle badgeSurface(const DeriveContext& context, Hue hue, const Backdrop& backdrop, ShapeKind shape)
 {
     const Color fill = solidFill(context, context.solid(hue), Form::Raised);
-    return surfaceOf(context, solidFace(context, fill, bed, Form::Raised), shape);
+    return surfaceOf(context, solidFace(context, fill, backdrop, Form::Raised), shape);
 }
 
-Bed bedOn(const SurfaceStyle& surface, const Bed& under)
+Backdrop backdropOf(const SurfaceStyle& surface, const Backdrop& under)
 {
     return {surface.drawFill ? surface.fill : under.fill, facesOf(surface, under.tones)};
 }

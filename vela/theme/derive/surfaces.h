@@ -23,17 +23,17 @@ SurfaceStyle surfaceOf(const DeriveContext& context, const Face& face, ShapeKind
 // Draws nothing, but knows its shape and focus colour.
 SurfaceStyle bareSurface(const DeriveContext& context, ShapeKind shape);
 // A level surface without shading: rails, veils, selections.
-SurfaceStyle plateOf(const DeriveContext& context, Color fill, ShapeKind shape);
-SurfaceStyle sunkenOf(const DeriveContext& context, Color fill, Color border, ShapeKind shape);
+SurfaceStyle flatSurface(const DeriveContext& context, Color fill, ShapeKind shape);
+SurfaceStyle sunkenSurface(const DeriveContext& context, Color fill, Color border, ShapeKind shape);
 // A panel, bar or popup.
-SurfaceStyle groundOf(const DeriveContext& context, Color fill, Color border, ShapeKind shape);
+SurfaceStyle containerSurface(const DeriveContext& context, Color fill, Color border, ShapeKind shape);
 // A strong colour as a fill on which text can be read.
 Color solidFill(const DeriveContext& context, Color wanted, Form form);
-// A face in such a colour, with a border that stands out from the bed where the colour does not.
-Face solidFace(const DeriveContext& context, Color fill, const Bed& bed, Form form);
+// A face in such a colour, with a border that stands out from the backdrop where the colour does not.
+Face solidFace(const DeriveContext& context, Color fill, const Backdrop& backdrop, Form form);
 // A raised disc or dot in a hue, for a glyph.
-SurfaceStyle badgeOf(const DeriveContext& context, Hue hue, const Bed& bed, ShapeKind shape);
+SurfaceStyle badgeSurface(const DeriveContext& context, Hue hue, const Backdrop& backdrop, ShapeKind shape);
 
-Bed bedOn(const SurfaceStyle& surface, const Bed& under);
+Backdrop backdropOf(const SurfaceStyle& surface, const Backdrop& under);
 
 } // namespace vela::derive

@@ -41,27 +41,27 @@ FontSpec readingTextOn(const DeriveContext& context, const Tones& on, std::initi
 void buildTexts(const DeriveContext& context, StyleSheet& sheet)
 {
     VariantTable<TextStyle>& texts = sheet.table<TextStyle>();
-    const Tones& ground = context.ground.tones;
-    texts.ensure(L"default") = readingTextOn(context, ground, {context.text});
-    texts.ensure(L"title") = textOn(context, ground, {context.strongText}, kLabel);
-    texts.ensure(L"muted") = readingTextOn(context, ground, {context.mutedText});
+    const Tones& backdrop = context.backdrop.tones;
+    texts.ensure(L"default") = readingTextOn(context, backdrop, {context.text});
+    texts.ensure(L"title") = textOn(context, backdrop, {context.strongText}, kLabel);
+    texts.ensure(L"muted") = readingTextOn(context, backdrop, {context.mutedText});
     FontSpec& mono = texts.ensure(L"mono");
     mono = context.theme.monoFont;
     mono.color = context.text;
     mono.disabledColor = context.disabledText;
-    texts.ensure(L"danger") = textOn(context, ground, {context.inkOf(Hue::Danger)});
+    texts.ensure(L"danger") = textOn(context, backdrop, {context.inkOf(Hue::Danger)});
 }
 
 void buildRichText(const DeriveContext& context, StyleSheet& sheet)
 {
     RichTextStyle& style = sheet.table<RichTextStyle>().defaultRecord();
     style.shape = context.look.panelShape;
-    style.surface = groundOf(context, context.grounds.card, context.hairline, style.shape);
-    const Bed bed = bedOn(style.surface, context.ground);
-    style.text = textOn(context, bed.tones, {context.text});
-    style.linkText = textOn(context, bed.tones, {context.theme.accent});
+    style.surface = containerSurface(context, context.containerFills.card, context.hairline, style.shape);
+    const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
+    style.text = textOn(context, backdrop.tones, {context.text});
+    style.linkText = textOn(context, backdrop.tones, {context.theme.accent});
     style.linkText.underline = true;
-    style.icon = badgeOf(context, Hue::Accent, bed, style.iconShape);
+    style.icon = badgeSurface(context, Hue::Accent, backdrop, style.iconShape);
     style.paddingX = 16;
     style.paddingY = 12;
 }

@@ -15,7 +15,7 @@ inline constexpr Type kLabel = {.points = 0, .weight = 200};
 inline constexpr Type kSmall = {.points = -1, .weight = 0};
 
 FontSpec textOf(const DeriveContext& context, Color color, Color disabledColor, Type type = kBody);
-// Text in the first of the wanted colours that can be read on the bed.
+// Text in the first of the wanted colours that can be read on the backdrop.
 FontSpec textOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted,
                 Type type = kBody);
 // Sentences are read in the regular weight, however heavy a skin makes its captions.
