@@ -27,9 +27,10 @@ void makeFramed(const DeriveContext& context, ProgressBarStyle& style)
     style.insetY = 4;
 }
 
-SurfaceStyle thumbOf(const DeriveContext& context, Color fill, Form form, ShapeKind shape)
+SurfaceStyle thumbOf(const DeriveContext& context, Color fill, Elevation elevation, ShapeKind shape)
 {
-    return surfaceOf(context, {.fill = fill, .border = fill, .form = form, .substance = Substance::Control},
+    return surfaceOf(context,
+                     {.fill = fill, .border = fill, .elevation = elevation, .substance = Substance::Control},
                      shape);
 }
 
@@ -38,7 +39,8 @@ PerState<SurfaceStyle> arrowButtons(const DeriveContext& context, Color arrow, c
                                     ShapeKind shape)
 {
     const auto veil = [&](float amount, std::initializer_list<Color> others) {
-        return context.fillUnder(arrow, backdrop.fill, context.veil(backdrop, amount), Form::Plate, others);
+        return context.fillUnder(arrow, backdrop.fill, context.veil(backdrop, amount), Elevation::Flat,
+                                 others);
     };
     const Color hot = veil(0.055F, {backdrop.fill});
     const Color pressed = veil(0.10F, {backdrop.fill, hot});
@@ -54,21 +56,21 @@ PerState<SurfaceStyle> arrowButtons(const DeriveContext& context, Color arrow, c
 void buildProgressBar(const DeriveContext& context, StyleSheet& sheet)
 {
     ProgressBarStyle& style = sheet.table<ProgressBarStyle>().defaultRecord();
-    style.shape = context.look.trackShape;
-    style.frameShape = context.look.trackShape;
-    style.trackShape = context.look.trackShape;
-    style.fillShape = context.look.trackShape;
-    if (context.look.slimTracks)
+    style.shape = context.mode.trackShape;
+    style.frameShape = context.mode.trackShape;
+    style.trackShape = context.mode.trackShape;
+    style.fillShape = context.mode.trackShape;
+    if (context.mode.slimTracks)
         makeSlim(context, style);
     else
         makeFramed(context, style);
     const Backdrop track = backdropOf(style.track, context.backdrop);
-    const Color fill = context.markFill(context.theme.accent, track.tones, Form::Raised);
+    const Color fill = context.markFill(context.theme.accent, track.tones, Elevation::Raised);
     // Without a border: it would be open at the end that moves.
     style.fill = surfaceOf(context,
                            {.fill = fill,
                             .border = fill,
-                            .form = Form::Raised,
+                            .elevation = Elevation::Raised,
                             .substance = Substance::Accent,
                             .bordered = false},
                            style.fillShape);
@@ -82,29 +84,29 @@ void buildProgressBar(const DeriveContext& context, StyleSheet& sheet)
 
 void deriveScrollBar(const DeriveContext& context, const Backdrop& backdrop, ScrollBarStyle& style)
 {
-    style.trackShape = context.look.trackShape;
-    style.thumbShape = context.look.trackShape;
-    style.buttonShape = context.look.controlShape;
-    const Color groove = context.stateFill(context.veil(backdrop, 0.035F), Form::Sunken, {});
-    style.track =
-        surfaceOf(context, {.fill = groove, .border = groove, .form = Form::Sunken, .bordered = false},
-                  style.trackShape);
+    style.trackShape = context.mode.trackShape;
+    style.thumbShape = context.mode.trackShape;
+    style.buttonShape = context.mode.controlShape;
+    const Color groove = context.stateFill(context.veil(backdrop, 0.035F), Elevation::Sunken, {});
+    style.track = surfaceOf(
+        context, {.fill = groove, .border = groove, .elevation = Elevation::Sunken, .bordered = false},
+        style.trackShape);
     const Backdrop track = backdropOf(style.track, backdrop);
 
     const Color rest = context.mark(mixed(context.edge, context.theme.mutedText, 0.3F), track.tones);
     const Color pole = strongestOn(track.tones);
-    const auto fill = [&](Color wanted, Form form, std::initializer_list<Color> others) {
-        return context.markFill(wanted, track.tones, form, others);
+    const auto fill = [&](Color wanted, Elevation elevation, std::initializer_list<Color> others) {
+        return context.markFill(wanted, track.tones, elevation, others);
     };
-    const Color normal = fill(rest, Form::Raised, {});
-    const Color hot = fill(mixed(rest, pole, 0.25F), Form::Raised, {normal});
-    const Color pressed = fill(context.theme.accent, Form::Pressed, {normal, hot});
-    const Color active = fill(context.theme.accentHot, Form::Raised, {normal, hot, pressed});
-    style.thumb = {.normal = thumbOf(context, normal, Form::Raised, style.thumbShape),
-                   .hot = thumbOf(context, hot, Form::Raised, style.thumbShape),
-                   .pressed = thumbOf(context, pressed, Form::Pressed, style.thumbShape),
+    const Color normal = fill(rest, Elevation::Raised, {});
+    const Color hot = fill(mixed(rest, pole, 0.25F), Elevation::Raised, {normal});
+    const Color pressed = fill(context.theme.accent, Elevation::Pressed, {normal, hot});
+    const Color active = fill(context.theme.accentHot, Elevation::Raised, {normal, hot, pressed});
+    style.thumb = {.normal = thumbOf(context, normal, Elevation::Raised, style.thumbShape),
+                   .hot = thumbOf(context, hot, Elevation::Raised, style.thumbShape),
+                   .pressed = thumbOf(context, pressed, Elevation::Pressed, style.thumbShape),
                    .disabled = flatSurface(context, mixed(track.fill, rest, 0.35F), style.thumbShape),
-                   .active = thumbOf(context, active, Form::Raised, style.thumbShape)};
+                   .active = thumbOf(context, active, Elevation::Raised, style.thumbShape)};
     style.arrow = context.readable({context.theme.mutedText, context.text}, backdrop.tones);
     style.decrementButton = arrowButtons(context, style.arrow, backdrop, style.buttonShape);
     style.incrementButton = style.decrementButton;
@@ -112,7 +114,7 @@ void deriveScrollBar(const DeriveContext& context, const Backdrop& backdrop, Scr
     style.minThumbExtent = 28;
     style.trackPadding = 3;
     style.trackThickness = 12;
-    style.thumbThickness = context.look.slimTracks ? 6 : 8;
+    style.thumbThickness = context.mode.slimTracks ? 6 : 8;
     style.showButtons = false;
 }
 
@@ -123,7 +125,7 @@ void buildScrollBar(const DeriveContext& context, StyleSheet& sheet)
 
 void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
 {
-    const bool flush = context.look.flushCaptionButtons;
+    const bool flush = context.mode.flushCaptionButtons;
     ChromeTitleBarStyle& style = sheet.table<ChromeTitleBarStyle>().defaultRecord();
     style.shape = ShapeKind::Rect;
     style.surface = containerSurface(context, context.headerFill, context.hairline, style.shape);
@@ -132,12 +134,12 @@ void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
     style.titleText =
         textOn(context, backdrop.tones, {context.text, context.strongText}, flush ? kSmall : kLabel);
     deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, backdrop,
-                 flush ? ShapeKind::Rect : context.look.controlShape, style.titleButton);
-    const Color closing = solidFill(context, context.solid(Hue::Danger), Form::Plate);
-    style.closeHotColor = context.inkOn(context.shades(closing, Form::Plate));
+                 flush ? ShapeKind::Rect : context.mode.controlShape, style.titleButton);
+    const Color closing = solidFill(context, context.solid(Hue::Danger), Elevation::Flat);
+    style.closeHotColor = context.inkOn(context.shades(closing, Elevation::Flat));
     style.closePressedColor = style.closeHotColor;
-    const Color closingNow = context.fillUnder(style.closeHotColor, closing,
-                                               mixed(closing, backdrop.fill, 0.2F), Form::Plate, {closing});
+    const Color closingNow = context.fillUnder(
+        style.closeHotColor, closing, mixed(closing, backdrop.fill, 0.2F), Elevation::Flat, {closing});
     style.closeHotSurface = flatSurface(context, closing, style.titleButton.shape);
     style.closePressedSurface = flatSurface(context, closingNow, style.titleButton.shape);
     style.buttonWidth = flush ? 46 : 34;
@@ -156,13 +158,13 @@ void buildMenuBar(const DeriveContext& context, StyleSheet& sheet)
 {
     const Color bar = context.backdrop.fill;
     const Color ink = context.text;
-    const Backdrop backdrop = {bar, context.shades(bar, Form::Container)};
+    const Backdrop backdrop = {bar, context.shades(bar, Elevation::Container)};
     const auto item = [&](float amount, std::initializer_list<Color> others) {
-        return context.fillUnder(ink, bar, context.veil(backdrop, amount), Form::Plate, others);
+        return context.fillUnder(ink, bar, context.veil(backdrop, amount), Elevation::Flat, others);
     };
     const Color hot = item(0.055F, {bar});
     const Color pressed = item(0.09F, {bar, hot});
-    const Color active = context.fillUnder(ink, bar, mixed(bar, context.theme.accent, 0.18F), Form::Plate,
+    const Color active = context.fillUnder(ink, bar, mixed(bar, context.theme.accent, 0.18F), Elevation::Flat,
                                            {bar, hot, pressed});
     MenuBarStyle& style = sheet.table<MenuBarStyle>().defaultRecord();
     style.surface = containerSurface(context, bar, context.hairline, style.shape);
@@ -178,7 +180,7 @@ void buildMenuBar(const DeriveContext& context, StyleSheet& sheet)
 
     Tones faces = backdrop.tones;
     for (const Color fill : {hot, pressed, active})
-        faces.include(context.shades(fill, Form::Plate));
+        faces.include(context.shades(fill, Elevation::Flat));
     style.itemText = textOn(context, faces, {context.text});
     style.shortcutText = textOn(context, faces, {context.mutedText, context.text}, kSmall);
     style.arrow = context.mark(context.theme.mutedText, faces);

@@ -9,9 +9,9 @@ namespace {
 
 using Faces = PerState<Face>;
 
-Face controlFace(Color fill, Color border, Form form)
+Face controlFace(Color fill, Color border, Elevation elevation)
 {
-    return {.fill = fill, .border = border, .form = form, .substance = Substance::Control};
+    return {.fill = fill, .border = border, .elevation = elevation, .substance = Substance::Control};
 }
 
 Faces standardFaces(const DeriveContext& context, const Backdrop& backdrop)
@@ -19,24 +19,24 @@ Faces standardFaces(const DeriveContext& context, const Backdrop& backdrop)
     const PerState<Color>& fills = context.control;
     const Color edge = context.mark(context.edge, backdrop.tones);
     const Color activeEdge = context.mark(context.theme.accent, backdrop.tones);
-    return {.normal = controlFace(fills.normal, edge, Form::Raised),
-            .hot = controlFace(fills.hot, context.mark(context.hotEdge, backdrop.tones), Form::Raised),
-            .pressed = controlFace(fills.pressed, edge, Form::Pressed),
-            .disabled = controlFace(fills.disabled, context.quietEdge, Form::Plate),
-            .active = controlFace(fills.active, activeEdge, Form::Pressed)};
+    return {.normal = controlFace(fills.normal, edge, Elevation::Raised),
+            .hot = controlFace(fills.hot, context.mark(context.hotEdge, backdrop.tones), Elevation::Raised),
+            .pressed = controlFace(fills.pressed, edge, Elevation::Pressed),
+            .disabled = controlFace(fills.disabled, context.quietEdge, Elevation::Flat),
+            .active = controlFace(fills.active, activeEdge, Elevation::Pressed)};
 }
 
 Faces outlineFaces(const DeriveContext& context, const Backdrop& backdrop)
 {
     Faces faces = standardFaces(context, backdrop);
-    const auto faded = [&](Color fill, Form form, std::initializer_list<Color> others) {
-        return context.stateFill(mixed(fill, backdrop.fill, 0.55F), form, others);
+    const auto faded = [&](Color fill, Elevation elevation, std::initializer_list<Color> others) {
+        return context.stateFill(mixed(fill, backdrop.fill, 0.55F), elevation, others);
     };
-    faces.normal.fill = faded(faces.normal.fill, Form::Raised, {});
-    faces.hot.fill = faded(faces.hot.fill, Form::Raised, {faces.normal.fill});
-    faces.pressed.fill = faded(faces.pressed.fill, Form::Pressed, {faces.normal.fill, faces.hot.fill});
+    faces.normal.fill = faded(faces.normal.fill, Elevation::Raised, {});
+    faces.hot.fill = faded(faces.hot.fill, Elevation::Raised, {faces.normal.fill});
+    faces.pressed.fill = faded(faces.pressed.fill, Elevation::Pressed, {faces.normal.fill, faces.hot.fill});
     faces.active.fill =
-        faded(faces.active.fill, Form::Pressed, {faces.normal.fill, faces.hot.fill, faces.pressed.fill});
+        faded(faces.active.fill, Elevation::Pressed, {faces.normal.fill, faces.hot.fill, faces.pressed.fill});
     return faces;
 }
 
@@ -45,7 +45,8 @@ Faces quietFaces(const DeriveContext& context, const Backdrop& backdrop)
     // The faintest face must stand out from the light that a material throws on a dark backdrop.
     const float light = context.materials && context.dark ? 0.03F : 0.0F;
     const auto veil = [&](float amount) {
-        return Face{.fill = context.stateFill(context.veil(backdrop, amount), Form::Plate, {backdrop.fill}),
+        return Face{.fill =
+                        context.stateFill(context.veil(backdrop, amount), Elevation::Flat, {backdrop.fill}),
                     .border = context.hairline,
                     .bordered = false};
     };
@@ -55,9 +56,9 @@ Faces quietFaces(const DeriveContext& context, const Backdrop& backdrop)
                    .pressed = veil(0.10F),
                    .disabled = bare,
                    .active = veil(0.075F)};
-    faces.pressed.fill = context.stateFill(faces.pressed.fill, Form::Plate, {faces.hot.fill});
-    faces.active.fill = context.stateFill(mixed(faces.active.fill, context.theme.accent, 0.18F), Form::Plate,
-                                          {faces.hot.fill, faces.pressed.fill});
+    faces.pressed.fill = context.stateFill(faces.pressed.fill, Elevation::Flat, {faces.hot.fill});
+    faces.active.fill = context.stateFill(mixed(faces.active.fill, context.theme.accent, 0.18F),
+                                          Elevation::Flat, {faces.hot.fill, faces.pressed.fill});
     return faces;
 }
 
@@ -65,16 +66,16 @@ Faces softFaces(const DeriveContext& context, Hue hue, const Backdrop& backdrop)
 {
     const Color solid = context.solid(hue);
     const Color border = context.mark(solid, backdrop.tones);
-    const auto tinted = [&](float amount, Form form, std::initializer_list<Color> others) {
-        Face face =
-            controlFace(context.stateFill(mixed(backdrop.fill, solid, amount), form, others), border, form);
+    const auto tinted = [&](float amount, Elevation elevation, std::initializer_list<Color> others) {
+        Face face = controlFace(context.stateFill(mixed(backdrop.fill, solid, amount), elevation, others),
+                                border, elevation);
         return face;
     };
     Faces faces = standardFaces(context, backdrop);
-    faces.normal = tinted(0.14F, Form::Raised, {});
-    faces.hot = tinted(0.24F, Form::Raised, {faces.normal.fill});
-    faces.pressed = tinted(0.08F, Form::Pressed, {faces.normal.fill, faces.hot.fill});
-    faces.active = tinted(0.32F, Form::Pressed, {faces.normal.fill, faces.hot.fill, faces.pressed.fill});
+    faces.normal = tinted(0.14F, Elevation::Raised, {});
+    faces.hot = tinted(0.24F, Elevation::Raised, {faces.normal.fill});
+    faces.pressed = tinted(0.08F, Elevation::Pressed, {faces.normal.fill, faces.hot.fill});
+    faces.active = tinted(0.32F, Elevation::Pressed, {faces.normal.fill, faces.hot.fill, faces.pressed.fill});
     return faces;
 }
 
@@ -84,17 +85,17 @@ Faces solidFaces(const DeriveContext& context, Hue hue, const Backdrop& backdrop
     const Color hot =
         hue == Hue::Accent ? context.theme.accentHot : lightened(solid, context.dark ? 0.05F : -0.05F);
     Faces faces = standardFaces(context, backdrop);
-    const Color normal = solidFill(context, solid, Form::Raised);
+    const Color normal = solidFill(context, solid, Elevation::Raised);
     // The caption keeps its colour while the button is used.
-    const Color ink = context.inkOn(context.shades(normal, Form::Raised));
-    const auto face = [&](Color wanted, Form form, std::initializer_list<Color> others) {
-        const Color fill = context.fillUnder(ink, normal, wanted, form, others, context.solidAim);
-        return solidFace(context, fill, backdrop, form);
+    const Color ink = context.inkOn(context.shades(normal, Elevation::Raised));
+    const auto face = [&](Color wanted, Elevation elevation, std::initializer_list<Color> others) {
+        const Color fill = context.fillUnder(ink, normal, wanted, elevation, others, context.solidAim);
+        return solidFace(context, fill, backdrop, elevation);
     };
-    faces.normal = solidFace(context, normal, backdrop, Form::Raised);
-    faces.hot = face(hot, Form::Raised, {normal});
-    faces.pressed = face(mixed(solid, backdrop.fill, 0.2F), Form::Pressed, {normal, faces.hot.fill});
-    faces.active = face(mixed(solid, context.strongText, 0.15F), Form::Pressed,
+    faces.normal = solidFace(context, normal, backdrop, Elevation::Raised);
+    faces.hot = face(hot, Elevation::Raised, {normal});
+    faces.pressed = face(mixed(solid, backdrop.fill, 0.2F), Elevation::Pressed, {normal, faces.hot.fill});
+    faces.active = face(mixed(solid, context.strongText, 0.15F), Elevation::Pressed,
                         {normal, faces.hot.fill, faces.pressed.fill});
     return faces;
 }
@@ -165,7 +166,7 @@ void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, cons
     style.shape = shape;
     style.hitShape = shape;
     const Color focus = context.mark(context.focus, backdrop.tones);
-    const Color solidInk = context.inkOn(context.shades(faces.normal.fill, faces.normal.form));
+    const Color solidInk = context.inkOn(context.shades(faces.normal.fill, faces.normal.elevation));
     for (int index = 0; index < kVisualStateCount; ++index) {
         const auto state = static_cast<VisualState>(index);
         SurfaceStyle& surface = style.surface[state];
@@ -182,7 +183,7 @@ void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, cons
 void buildButtons(const DeriveContext& context, StyleSheet& sheet)
 {
     for (const ButtonRow& row : kButtonRows)
-        deriveButton(context, row.recipe, context.backdrop, context.look.controlShape,
+        deriveButton(context, row.recipe, context.backdrop, context.mode.controlShape,
                      sheet.table<ButtonStyle>().ensure(row.variant));
 }
 
@@ -190,7 +191,7 @@ void buildBitmapButtons(const DeriveContext& context, StyleSheet& sheet)
 {
     ButtonStyle face;
     for (const BitmapButtonRow& row : kBitmapButtonRows) {
-        deriveButton(context, row.recipe, context.backdrop, context.look.controlShape, face);
+        deriveButton(context, row.recipe, context.backdrop, context.mode.controlShape, face);
         BitmapButtonStyle& style = sheet.table<BitmapButtonStyle>().ensure(row.variant);
         style.text = face.text.normal;
         style.image = face.surface.normal;
@@ -203,19 +204,19 @@ void buildBitmapButtons(const DeriveContext& context, StyleSheet& sheet)
 void buildTabs(const DeriveContext& context, StyleSheet& sheet)
 {
     TabsStyle& style = sheet.table<TabsStyle>().defaultRecord();
-    style.shape = context.look.controlShape;
+    style.shape = context.mode.controlShape;
     deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, context.backdrop, style.shape, style.itemButton);
     // The open tab is told by more than a veil: its face is the control's own, with an edge in the accent.
     SurfaceStyle& open = style.itemButton.surface.active;
     const Backdrop& backdrop = context.backdrop;
     const Color fill =
-        context.stateFill(context.control.normal, Form::Raised,
+        context.stateFill(context.control.normal, Elevation::Raised,
                           {style.itemButton.surface.hot.fill, style.itemButton.surface.pressed.fill});
     const Color focus = open.glow;
     open = surfaceOf(context,
                      {.fill = fill,
                       .border = context.mark(context.theme.accent, backdrop.tones),
-                      .form = Form::Raised,
+                      .elevation = Elevation::Raised,
                       .substance = Substance::Control},
                      style.shape);
     open.glow = focus;

@@ -14,8 +14,8 @@ constexpr std::uint8_t kGlassOpacity = 214;
 
 void deriveCard(const DeriveContext& context, Color fill, CardStyle& style)
 {
-    style.shape = context.look.panelShape;
-    style.headerShape = context.look.panelShape;
+    style.shape = context.mode.panelShape;
+    style.headerShape = context.mode.panelShape;
     style.surface = containerSurface(context, fill, context.hairline, style.shape);
     style.header = bareSurface(context, style.headerShape);
     const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
@@ -28,7 +28,7 @@ void deriveCard(const DeriveContext& context, Color fill, CardStyle& style)
 void deriveRaisedCard(const DeriveContext& context, CardStyle& style)
 {
     deriveCard(context, context.containerFills.raisedCard, style);
-    const FormLook& raised = context.look.form(Form::Raised);
+    const ElevationTraits& raised = context.mode.traits(Elevation::Raised);
     style.surface.showShadow = raised.shadow > 0;
     style.surface.shadowOpacity = raised.shadow;
 }
@@ -51,18 +51,19 @@ void deriveChip(const DeriveContext& context, Hue hue, StatusChipStyle& style)
         plain ? context.veil(context.backdrop, 0.05F) : mixed(context.backdrop.fill, lead, 0.14F);
     style.shape = ShapeKind::Pill;
     style.badgeShape = ShapeKind::Pill;
-    const Color fill = context.stateFill(tint, Form::Plate, {});
+    const Color fill = context.stateFill(tint, Elevation::Flat, {});
     style.surface = surfaceOf(context, {.fill = fill, .border = mixed(fill, lead, 0.4F)}, style.shape);
     const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
     style.text = textOn(context, backdrop.tones, {plain ? context.text : context.inkOf(hue)}, kSmall);
-    style.badge = flatSurface(context, context.markFill(lead, backdrop.tones, Form::Plate), style.badgeShape);
+    style.badge =
+        flatSurface(context, context.markFill(lead, backdrop.tones, Elevation::Flat), style.badgeShape);
 }
 
 void derivePopup(const DeriveContext& context, Color frame, Hue badge, PopupStyle& style)
 {
-    const ShapeKind button = context.look.controlShape;
-    style.shape = context.look.panelShape;
-    style.headerShape = context.look.panelShape;
+    const ShapeKind button = context.mode.controlShape;
+    style.shape = context.mode.panelShape;
+    style.headerShape = context.mode.panelShape;
     style.iconShape = ShapeKind::Pill;
     style.surface = containerSurface(context, context.containerFills.panel, frame, style.shape);
     style.header = bareSurface(context, style.headerShape);
@@ -78,10 +79,10 @@ void derivePopup(const DeriveContext& context, Color frame, Hue badge, PopupStyl
     const Backdrop actions = backdropOf(style.footer, backdrop);
     deriveButton(context, {Hue::Accent, Emphasis::Solid, kLabel}, actions, button, style.primaryAction);
     deriveButton(context, {}, actions, button, style.secondaryAction);
-    style.surface.shadowOpacity = context.look.form(Form::Raised).shadow;
+    style.surface.shadowOpacity = context.mode.traits(Elevation::Raised).shadow;
     style.showShadow = style.surface.shadowOpacity > 0;
     // With the title bar of the mode, messages begin at one height in all windows.
-    style.headerHeight = context.look.flushCaptionButtons ? 80 : 72;
+    style.headerHeight = context.mode.flushCaptionButtons ? 80 : 72;
     style.iconSize = 32;
     style.paddingX = 20;
     style.paddingY = 20;
@@ -98,7 +99,7 @@ void deriveTooltip(const DeriveContext& context, TooltipStyle& style)
     style.railShape = ShapeKind::Pill;
     style.surface = containerSurface(context, fill, mixed(fill, context.edge, 0.6F), style.shape);
     style.surface.useNoise = false;
-    style.surface.shadowOpacity = context.look.form(Form::Raised).shadow;
+    style.surface.shadowOpacity = context.mode.traits(Elevation::Raised).shadow;
     style.showShadow = style.surface.shadowOpacity > 0;
     const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
     style.textStyle = textOn(context, backdrop.tones, {context.text});
@@ -106,7 +107,7 @@ void deriveTooltip(const DeriveContext& context, TooltipStyle& style)
     const Color ink = context.inkOn(backdropOf(style.icon, backdrop).tones);
     style.iconText = textOf(context, ink, ink, {.points = -1, .weight = 300});
     style.accentRail = flatSurface(
-        context, context.markFill(context.theme.accent, backdrop.tones, Form::Plate), style.railShape);
+        context, context.markFill(context.theme.accent, backdrop.tones, Elevation::Flat), style.railShape);
 }
 
 } // namespace
@@ -115,7 +116,7 @@ void buildPanels(const DeriveContext& context, StyleSheet& sheet)
 {
     const auto panel = [&](std::wstring_view variant, Color fill, Color border) -> PanelStyle& {
         PanelStyle& style = sheet.table<PanelStyle>().ensure(variant);
-        style.shape = context.look.panelShape;
+        style.shape = context.mode.panelShape;
         style.surface = containerSurface(context, fill, border, style.shape);
         style.padding = 16;
         return style;

@@ -14,7 +14,7 @@ constexpr float kRimOfRatio = 0.04F; // above the rule, so that rounding never f
 constexpr float kTextRoom = 1.38F;
 constexpr float kMarkRoom = 1.6F;
 constexpr float kSolidRoom = 1.6F;
-// What the light on carved forms takes where no material is worn.
+// What the light on carved surfaces takes where no material is applied.
 constexpr float kReliefRoom = 1.05F;
 constexpr float kInkRoom = 1.5F; // five fills, that far apart, between the first and the last legible one
 constexpr float kStatesApart = 0.022F; // just visible side by side
@@ -82,9 +82,9 @@ Color towards(Color from, Color to, float distance) noexcept
 }
 
 DeriveContext::DeriveContext(const Theme& theme_)
-    : theme(theme_), look(lookOf(theme_.surfaceMode)), materials(look.materials && theme_.materials.enabled),
-      textAim(withRoom(kTextContrast, kTextRoom)), solidAim(withRoom(kTextContrast, kSolidRoom)),
-      markAim(withRoom(kMarkContrast, kMarkRoom))
+    : theme(theme_), mode(traitsOf(theme_.surfaceMode)),
+      materials(mode.materials && theme_.materials.enabled), textAim(withRoom(kTextContrast, kTextRoom)),
+      solidAim(withRoom(kTextContrast, kSolidRoom)), markAim(withRoom(kMarkContrast, kMarkRoom))
 {
     dark = strongestOn(theme.panel) == hexColor(0xFFFFFF);
     resolveHues();
@@ -95,7 +95,7 @@ DeriveContext::DeriveContext(const Theme& theme_)
 
 float DeriveContext::withRoom(float ratio, float materialRoom) const noexcept
 {
-    const float plainRoom = look.leastDepth > 0 ? kReliefRoom : 1;
+    const float plainRoom = mode.leastDepth > 0 ? kReliefRoom : 1;
     return (ratio + kRimOfRatio) * (materials ? materialRoom : plainRoom);
 }
 
@@ -110,12 +110,12 @@ void DeriveContext::resolveHues()
 void DeriveContext::resolveContainers()
 {
     const Color panel = containerFill(theme.panel);
-    const Color pole = strongestOn(shades(panel, Form::Container));
+    const Color pole = strongestOn(shades(panel, Elevation::Container));
     dark = pole == hexColor(0xFFFFFF);
-    backdrop = {panel, shades(panel, Form::Container)};
+    backdrop = {panel, shades(panel, Elevation::Container)};
     const auto near = [&](Color role, float distance) {
         const Color fill = containerFill(towards(panel, role, distance));
-        const Tones tones = shades(fill, Form::Container);
+        const Tones tones = shades(fill, Elevation::Container);
         // One that would need text of the other kind is filled as the panel is: one text colour serves all.
         if (strongestOn(tones) != pole)
             return panel;
@@ -148,37 +148,38 @@ void DeriveContext::resolveInks()
 
 Color DeriveContext::containerFill(Color wanted) const noexcept
 {
-    return readableFace(wanted, look.form(Form::Container).shading, textAim);
+    return readableFace(wanted, mode.traits(Elevation::Container).shading, textAim);
 }
 
 void DeriveContext::resolveControl()
 {
-    control.normal = stateFill(theme.control, Form::Raised, {});
-    control.hot = stateFill(theme.controlHot, Form::Raised, {control.normal});
-    control.pressed = stateFill(theme.controlPressed, Form::Pressed, {control.normal, control.hot});
-    control.disabled = stateFill(towards(theme.disabledFill, backdrop.fill, 0.02F), Form::Plate, {});
-    control.active = stateFill(mixed(control.normal, theme.accent, 0.22F), Form::Pressed,
+    control.normal = stateFill(theme.control, Elevation::Raised, {});
+    control.hot = stateFill(theme.controlHot, Elevation::Raised, {control.normal});
+    control.pressed = stateFill(theme.controlPressed, Elevation::Pressed, {control.normal, control.hot});
+    control.disabled = stateFill(towards(theme.disabledFill, backdrop.fill, 0.02F), Elevation::Flat, {});
+    control.active = stateFill(mixed(control.normal, theme.accent, 0.22F), Elevation::Pressed,
                                {control.normal, control.hot, control.pressed});
 }
 
-Tones DeriveContext::shades(Color fill, Form form) const noexcept
+Tones DeriveContext::shades(Color fill, Elevation elevation) const noexcept
 {
-    const float shading = std::abs(look.form(form).shading);
+    const float shading = std::abs(mode.traits(elevation).shading);
     return shading > 0 ? Tones(lightened(fill, -shading), lightened(fill, shading)) : Tones(fill);
 }
 
-Color DeriveContext::stateFill(Color wanted, Form form, std::initializer_list<Color> others) const noexcept
+Color DeriveContext::stateFill(Color wanted, Elevation elevation,
+                               std::initializer_list<Color> others) const noexcept
 {
-    const float shading = std::abs(look.form(form).shading);
+    const float shading = std::abs(mode.traits(elevation).shading);
     const Color fill = readableFace(wanted, shading, textAim);
     return nearestFitting(
         fill, [&](Color color) { return isApart(color, others) && isReadableFace(color, shading, textAim); });
 }
 
-Color DeriveContext::fillUnder(Color ink, Color base, Color wanted, Form form,
+Color DeriveContext::fillUnder(Color ink, Color base, Color wanted, Elevation elevation,
                                std::initializer_list<Color> others, float aim) const noexcept
 {
-    const auto legible = [&](Color color) { return contrastRatio(ink, shades(color, form)) >= aim; };
+    const auto legible = [&](Color color) { return contrastRatio(ink, shades(color, elevation)) >= aim; };
     const auto fits = [&](Color color) { return isApart(color, others) && legible(color); };
     for (const float amount : {1.0F, 0.6F, 0.35F, 0.2F, 0.1F}) {
         const Color color = mixed(base, wanted, amount);
@@ -191,11 +192,11 @@ Color DeriveContext::fillUnder(Color ink, Color base, Color wanted, Form form,
     return nearestFitting(base, fits);
 }
 
-Color DeriveContext::markFill(Color wanted, const Tones& on, Form form,
+Color DeriveContext::markFill(Color wanted, const Tones& on, Elevation elevation,
                               std::initializer_list<Color> others) const noexcept
 {
     return nearestFitting(reaching(wanted, on, markAim), [&](Color color) {
-        const Tones tones = shades(color, form);
+        const Tones tones = shades(color, elevation);
         return isApart(color, others) &&
                std::min(contrastRatio(tones.darkest, on), contrastRatio(tones.lightest, on)) >= markAim;
     });

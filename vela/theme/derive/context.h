@@ -33,8 +33,8 @@ public:
     explicit DeriveContext(const Theme& theme);
 
     const Theme& theme;
-    const ModeLook& look;
-    bool materials; // worn and switched on
+    const ModeTraits& mode;
+    bool materials; // applied in this mode and switched on
     float textAim;  // the ratios aimed at leave room for what a material adds
     float solidAim; // of text on faces in a strong colour
     float markAim;
@@ -64,24 +64,24 @@ public:
 
     // The fill of a large surface: readable under its shading.
     Color containerFill(Color wanted) const noexcept;
-    // The fill of a form, readable under its shading and clearly different from the fills of the other
-    // states.
-    Color stateFill(Color wanted, Form form, std::initializer_list<Color> others) const noexcept;
+    // The fill of a surface at that elevation, readable under its shading and clearly different from the
+    // fills of the other states.
+    Color stateFill(Color wanted, Elevation elevation, std::initializer_list<Color> others) const noexcept;
     // The same for parts that keep one text colour in all states: as much of the way from the base to the
     // wanted colour as the ink can still be read on.
-    Color fillUnder(Color ink, Color base, Color wanted, Form form,
+    Color fillUnder(Color ink, Color base, Color wanted, Elevation elevation,
                     std::initializer_list<Color> others) const noexcept
     {
-        return fillUnder(ink, base, wanted, form, others, textAim);
+        return fillUnder(ink, base, wanted, elevation, others, textAim);
     }
-    Color fillUnder(Color ink, Color base, Color wanted, Form form, std::initializer_list<Color> others,
-                    float aim) const noexcept;
+    Color fillUnder(Color ink, Color base, Color wanted, Elevation elevation,
+                    std::initializer_list<Color> others, float aim) const noexcept;
     // A mark whose every tone stands out from what it lies on: thumbs, rails, badges, progress.
-    Color markFill(Color wanted, const Tones& on, Form form,
+    Color markFill(Color wanted, const Tones& on, Elevation elevation,
                    std::initializer_list<Color> others = {}) const noexcept;
     // The ink for parts that keep one text colour in all states: it leaves room for their fills to differ.
     Color inkUnder(std::initializer_list<Color> wanted, const Tones& on) const noexcept;
-    Tones shades(Color fill, Form form) const noexcept;
+    Tones shades(Color fill, Elevation elevation) const noexcept;
     // A part of the way from the backdrop to what is most unlike it: the fill of a highlighted row or a quiet
     // button.
     Color veil(const Backdrop& on, float amount) const noexcept;

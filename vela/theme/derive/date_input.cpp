@@ -13,9 +13,9 @@ void deriveCalendar(const DeriveContext& context, DateInputStyle& style)
 {
     const Color page = context.containerFills.raisedCard;
     const Color ink = context.text;
-    const Backdrop backdrop = {page, context.shades(page, Form::Container)};
+    const Backdrop backdrop = {page, context.shades(page, Elevation::Container)};
     const auto day = [&](Color wanted, std::initializer_list<Color> others) {
-        return context.fillUnder(ink, page, wanted, Form::Plate, others);
+        return context.fillUnder(ink, page, wanted, Elevation::Flat, others);
     };
     const Color hot = day(context.veil(backdrop, 0.055F), {page});
     const Color pressed = day(context.veil(backdrop, 0.09F), {page, hot});
@@ -34,7 +34,7 @@ void deriveCalendar(const DeriveContext& context, DateInputStyle& style)
 
     Tones cells = backdrop.tones;
     for (const Color fill : {hot, pressed, selected})
-        cells.include(context.shades(fill, Form::Plate));
+        cells.include(context.shades(fill, Elevation::Flat));
     style.headerText = textOn(context, backdrop.tones, {context.strongText, context.text}, kLabel);
     style.weekdayText = textOn(context, backdrop.tones, {context.mutedText, context.text}, kSmall);
     style.dayText = textOn(context, cells, {context.text});

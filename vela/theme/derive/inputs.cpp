@@ -17,22 +17,22 @@ struct FieldFills {
     Color disabled;
 };
 
-FieldFills fieldFills(const DeriveContext& context, Form form)
+FieldFills fieldFills(const DeriveContext& context, Elevation elevation)
 {
     FieldFills fills = {};
-    fills.normal = context.stateFill(context.theme.control, form, {});
-    const Color ink =
-        context.inkUnder({context.theme.text, context.theme.textHot}, context.shades(fills.normal, form));
+    fills.normal = context.stateFill(context.theme.control, elevation, {});
+    const Color ink = context.inkUnder({context.theme.text, context.theme.textHot},
+                                       context.shades(fills.normal, elevation));
     fills.ink = ink;
     const auto state = [&](Color wanted, std::initializer_list<Color> others) {
-        return context.fillUnder(ink, fills.normal, wanted, form, others);
+        return context.fillUnder(ink, fills.normal, wanted, elevation, others);
     };
     fills.hot = state(mixed(fills.normal, context.control.hot, 0.4F), {fills.normal});
     fills.pressed = state(mixed(fills.normal, context.control.pressed, 0.5F), {fills.normal, fills.hot});
     // The field in use is the calmest one: deeper in the dark, whiter in the light.
     fills.focused = state(lightened(fills.normal, context.dark ? -0.03F : 0.03F), {});
     // The ink has to be read here too: what is locked is shown on it.
-    fills.disabled = context.fillUnder(ink, fills.normal, context.control.disabled, Form::Plate, {});
+    fills.disabled = context.fillUnder(ink, fills.normal, context.control.disabled, Elevation::Flat, {});
     return fills;
 }
 
@@ -40,7 +40,7 @@ FieldFills fieldFills(const DeriveContext& context, Form form)
 SurfaceStyle selectionOn(const DeriveContext& context, Color ink, Color fill, ShapeKind shape)
 {
     const Color veil =
-        context.fillUnder(ink, fill, mixed(fill, context.theme.accent, 0.38F), Form::Plate, {fill});
+        context.fillUnder(ink, fill, mixed(fill, context.theme.accent, 0.38F), Elevation::Flat, {fill});
     return flatSurface(context, veil, shape);
 }
 
@@ -55,16 +55,17 @@ SurfaceStyle focusedField(const DeriveContext& context, Color fill, ShapeKind sh
 void addAttachments(const DeriveContext& context, Color ink, Color field, TextInputStyle& style)
 {
     const Color chip =
-        context.fillUnder(ink, field, context.veil({field, field}, 0.07F), Form::Plate, {field});
+        context.fillUnder(ink, field, context.veil({field, field}, 0.07F), Elevation::Flat, {field});
     style.attachmentSurface =
         surfaceOf(context, {.fill = chip, .border = context.hairline}, style.attachmentShape);
     style.attachmentImageSurface = flatSurface(
-        context, context.markFill(context.theme.accent, context.shades(chip, Form::Plate), Form::Plate),
+        context,
+        context.markFill(context.theme.accent, context.shades(chip, Elevation::Flat), Elevation::Flat),
         style.attachmentImageShape);
     style.attachmentRemoveSurface = flatSurface(
-        context, context.fillUnder(ink, chip, context.veil({chip, chip}, 0.08F), Form::Plate, {chip}),
+        context, context.fillUnder(ink, chip, context.veil({chip, chip}, 0.08F), Elevation::Flat, {chip}),
         style.attachmentRemoveShape);
-    Tones chips = context.shades(chip, Form::Plate);
+    Tones chips = context.shades(chip, Elevation::Flat);
     chips.include(style.attachmentRemoveSurface.fill);
     style.attachmentText = textOn(context, chips, {ink}, kSmall);
     style.attachmentIconColor = context.mark(context.mutedText, chips);
@@ -74,9 +75,9 @@ void addAttachments(const DeriveContext& context, Color ink, Color field, TextIn
 
 void buildTextInput(const DeriveContext& context, StyleSheet& sheet)
 {
-    const FieldFills fills = fieldFills(context, Form::Sunken);
+    const FieldFills fills = fieldFills(context, Elevation::Sunken);
     TextInputStyle& style = sheet.table<TextInputStyle>().defaultRecord();
-    style.shape = context.look.controlShape;
+    style.shape = context.mode.controlShape;
     style.surface = sunkenSurface(context, fills.normal, context.edge, style.shape);
     style.hotSurface = sunkenSurface(context, fills.hot, context.hotEdge, style.shape);
     style.pressedSurface = sunkenSurface(context, fills.pressed, context.edge, style.shape);
@@ -84,13 +85,13 @@ void buildTextInput(const DeriveContext& context, StyleSheet& sheet)
     style.disabledSurface =
         surfaceOf(context, {.fill = fills.disabled, .border = context.quietEdge}, style.shape);
 
-    Tones faces = context.shades(fills.normal, Form::Sunken);
+    Tones faces = context.shades(fills.normal, Elevation::Sunken);
     for (const Color fill : {fills.hot, fills.pressed, fills.focused})
-        faces.include(context.shades(fill, Form::Sunken));
+        faces.include(context.shades(fill, Elevation::Sunken));
     style.text = textOn(context, faces, {fills.ink});
-    style.text.disabledColor = context.faint(context.text, context.shades(fills.disabled, Form::Plate));
+    style.text.disabledColor = context.faint(context.text, context.shades(fills.disabled, Elevation::Flat));
     Tones quietFaces = faces; // and that of a locked field, whose text is no louder than a placeholder
-    quietFaces.include(context.shades(fills.disabled, Form::Plate));
+    quietFaces.include(context.shades(fills.disabled, Elevation::Flat));
     style.placeholderText = textOn(context, quietFaces, {context.theme.mutedText});
     style.placeholderText.disabledColor = style.text.disabledColor;
     style.selection = selectionOn(context, style.text.color, fills.focused, ShapeKind::Rect);
@@ -109,7 +110,7 @@ void buildSelectableText(const DeriveContext& context, StyleSheet& sheet)
 
 void buildCheckBox(const DeriveContext& context, StyleSheet& sheet)
 {
-    const FieldFills fills = fieldFills(context, Form::Sunken);
+    const FieldFills fills = fieldFills(context, Elevation::Sunken);
     CheckBoxStyle& style = sheet.table<CheckBoxStyle>().defaultRecord();
     style.shape = ShapeKind::RoundedRect;
     style.boxSize = 20;
@@ -123,47 +124,49 @@ void buildCheckBox(const DeriveContext& context, StyleSheet& sheet)
 
     // One colour marks all checked boxes, so their fills keep near the accent.
     const Theme& theme = context.theme;
-    const Color checked = solidFill(context, theme.accent, Form::Raised);
-    const Color hot = context.stateFill(towards(checked, theme.accentHot, 0.05F), Form::Raised, {checked});
+    const Color checked = solidFill(context, theme.accent, Elevation::Raised);
+    const Color hot =
+        context.stateFill(towards(checked, theme.accentHot, 0.05F), Elevation::Raised, {checked});
     const Color pressed =
-        context.stateFill(towards(checked, context.backdrop.fill, 0.05F), Form::Pressed, {checked, hot});
-    const auto box = [&](Color fill, Form form) {
-        return surfaceOf(context, solidFace(context, fill, context.backdrop, form), style.shape);
+        context.stateFill(towards(checked, context.backdrop.fill, 0.05F), Elevation::Pressed, {checked, hot});
+    const auto box = [&](Color fill, Elevation elevation) {
+        return surfaceOf(context, solidFace(context, fill, context.backdrop, elevation), style.shape);
     };
-    style.boxChecked = box(checked, Form::Raised);
-    style.boxCheckedHot = box(hot, Form::Raised);
-    style.boxCheckedPressed = box(pressed, Form::Pressed);
+    style.boxChecked = box(checked, Elevation::Raised);
+    style.boxCheckedHot = box(hot, Elevation::Raised);
+    style.boxCheckedPressed = box(pressed, Elevation::Pressed);
     Tones boxes = backdropOf(style.boxChecked, context.backdrop).tones;
     boxes.include(backdropOf(style.boxCheckedHot, context.backdrop).tones);
     boxes.include(backdropOf(style.boxCheckedPressed, context.backdrop).tones);
     style.checkColor = context.inkOn(boxes);
     const Color disabled =
-        context.markFill(context.quietEdge, style.checkColor, Form::Plate, {checked, hot, pressed});
+        context.markFill(context.quietEdge, style.checkColor, Elevation::Flat, {checked, hot, pressed});
     style.boxCheckedDisabled =
         surfaceOf(context, {.fill = disabled, .border = disabled, .bordered = false}, style.shape);
 }
 
 void buildSelectBox(const DeriveContext& context, StyleSheet& sheet)
 {
-    const FieldFills fills = fieldFills(context, Form::Raised);
-    const auto face = [&](Color fill, Color border, Form form) {
-        return Face{.fill = fill, .border = border, .form = form, .substance = Substance::Control};
+    const FieldFills fills = fieldFills(context, Elevation::Raised);
+    const auto face = [&](Color fill, Color border, Elevation elevation) {
+        return Face{.fill = fill, .border = border, .elevation = elevation, .substance = Substance::Control};
     };
     SelectBoxStyle& style = sheet.table<SelectBoxStyle>().defaultRecord();
-    style.shape = context.look.controlShape;
+    style.shape = context.mode.controlShape;
     style.dropdownShape =
-        context.look.panelShape == ShapeKind::Rect ? ShapeKind::RoundedRect : context.look.panelShape;
-    style.surface = surfaceOf(context, face(fills.normal, context.edge, Form::Raised), style.shape);
-    style.hotSurface = surfaceOf(context, face(fills.hot, context.hotEdge, Form::Raised), style.shape);
-    style.pressedSurface = surfaceOf(context, face(fills.pressed, context.edge, Form::Pressed), style.shape);
+        context.mode.panelShape == ShapeKind::Rect ? ShapeKind::RoundedRect : context.mode.panelShape;
+    style.surface = surfaceOf(context, face(fills.normal, context.edge, Elevation::Raised), style.shape);
+    style.hotSurface = surfaceOf(context, face(fills.hot, context.hotEdge, Elevation::Raised), style.shape);
+    style.pressedSurface =
+        surfaceOf(context, face(fills.pressed, context.edge, Elevation::Pressed), style.shape);
     style.disabledSurface =
-        surfaceOf(context, face(fills.disabled, context.quietEdge, Form::Plate), style.shape);
+        surfaceOf(context, face(fills.disabled, context.quietEdge, Elevation::Flat), style.shape);
 
-    Tones faces = context.shades(fills.normal, Form::Raised);
+    Tones faces = context.shades(fills.normal, Elevation::Raised);
     for (const Color fill : {fills.hot, fills.pressed})
-        faces.include(context.shades(fill, Form::Raised));
+        faces.include(context.shades(fill, Elevation::Raised));
     style.text = textOn(context, faces, {fills.ink});
-    style.text.disabledColor = context.faint(context.text, context.shades(fills.disabled, Form::Plate));
+    style.text.disabledColor = context.faint(context.text, context.shades(fills.disabled, Elevation::Flat));
     const Color ink = style.text.color;
 
     style.arrowSurface = bareSurface(context, style.arrowShape);
@@ -173,14 +176,15 @@ void buildSelectBox(const DeriveContext& context, StyleSheet& sheet)
     style.arrowColor = context.mark(context.theme.mutedText, faces);
 
     const Color list =
-        context.fillUnder(ink, fills.normal, context.containerFills.raisedCard, Form::Container, {});
+        context.fillUnder(ink, fills.normal, context.containerFills.raisedCard, Elevation::Container, {});
     style.dropdownSurface =
         containerSurface(context, list, mixed(list, context.edge, 0.6F), style.dropdownShape);
-    const Color hot = context.fillUnder(ink, list, context.veil({list, list}, 0.06F), Form::Plate, {list});
+    const Color hot =
+        context.fillUnder(ink, list, context.veil({list, list}, 0.06F), Elevation::Flat, {list});
     style.optionHotSurface = flatSurface(context, hot, ShapeKind::RoundedRect);
     style.optionSelectedSurface = flatSurface(
         context,
-        context.fillUnder(ink, list, mixed(list, context.theme.accent, 0.2F), Form::Plate, {list, hot}),
+        context.fillUnder(ink, list, mixed(list, context.theme.accent, 0.2F), Elevation::Flat, {list, hot}),
         ShapeKind::RoundedRect);
     deriveScrollBar(context, backdropOf(style.dropdownSurface, context.backdrop), style.scrollBar);
     style.itemHeight = 32;

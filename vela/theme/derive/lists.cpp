@@ -20,11 +20,11 @@ struct RowFills {
 
 RowFills rowFills(const DeriveContext& context, Color list)
 {
-    const Color ink =
-        context.inkUnder({context.theme.text, context.theme.textHot}, context.shades(list, Form::Container));
+    const Color ink = context.inkUnder({context.theme.text, context.theme.textHot},
+                                       context.shades(list, Elevation::Container));
     const Backdrop backdrop = {list, list};
     const auto row = [&](Color wanted, std::initializer_list<Color> others) {
-        return context.fillUnder(ink, list, wanted, Form::Plate, others);
+        return context.fillUnder(ink, list, wanted, Elevation::Flat, others);
     };
     RowFills fills = {};
     fills.ink = ink;
@@ -39,9 +39,9 @@ RowFills rowFills(const DeriveContext& context, Color list)
 
 Tones tonesOf(const DeriveContext& context, const RowFills& fills)
 {
-    Tones tones = context.shades(fills.list, Form::Container);
+    Tones tones = context.shades(fills.list, Elevation::Container);
     for (const Color fill : {fills.hot, fills.pressed, fills.selected, fills.selectedHot})
-        tones.include(context.shades(fill, Form::Plate));
+        tones.include(context.shades(fill, Elevation::Flat));
     return tones;
 }
 
@@ -49,9 +49,9 @@ Color listFill(const DeriveContext& context) { return context.containerFill(cont
 
 SurfaceStyle railOn(const DeriveContext& context, const RowFills& fills, ShapeKind shape)
 {
-    Tones rows = context.shades(fills.selected, Form::Plate);
-    rows.include(context.shades(fills.selectedHot, Form::Plate));
-    return flatSurface(context, context.markFill(context.theme.accent, rows, Form::Plate), shape);
+    Tones rows = context.shades(fills.selected, Elevation::Flat);
+    rows.include(context.shades(fills.selectedHot, Elevation::Flat));
+    return flatSurface(context, context.markFill(context.theme.accent, rows, Elevation::Flat), shape);
 }
 
 } // namespace
@@ -61,8 +61,8 @@ void buildListBox(const DeriveContext& context, StyleSheet& sheet)
     const RowFills fills = rowFills(context, listFill(context));
     const Tones tones = tonesOf(context, fills);
     ListBoxStyle& style = sheet.table<ListBoxStyle>().defaultRecord();
-    style.shape = context.look.panelShape;
-    style.rowShape = context.look.slimTracks ? ShapeKind::RoundedRect : ShapeKind::Rect;
+    style.shape = context.mode.panelShape;
+    style.rowShape = context.mode.slimTracks ? ShapeKind::RoundedRect : ShapeKind::Rect;
     style.selectedRowShape = style.rowShape;
     style.surface =
         containerSurface(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
@@ -76,7 +76,7 @@ void buildListBox(const DeriveContext& context, StyleSheet& sheet)
     style.selectedText = textOn(context, tones, {context.theme.textHot, fills.ink});
     style.disabledText = textOf(context, style.text.disabledColor, style.text.disabledColor);
     style.separator = towards(fills.list, context.theme.border, 0.10F);
-    deriveScrollBar(context, {fills.list, context.shades(fills.list, Form::Container)}, style.scrollBar);
+    deriveScrollBar(context, {fills.list, context.shades(fills.list, Elevation::Container)}, style.scrollBar);
     style.rowHeight = 32;
 }
 
@@ -85,25 +85,25 @@ void buildTableList(const DeriveContext& context, StyleSheet& sheet)
     const RowFills fills = rowFills(context, listFill(context));
     const Tones tones = tonesOf(context, fills);
     TableListStyle& style = sheet.table<TableListStyle>().defaultRecord();
-    style.shape = context.look.panelShape;
+    style.shape = context.mode.panelShape;
     style.surface =
         containerSurface(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
     style.rowText = textOn(context, tones, {fills.ink});
     style.selectedText = textOn(context, tones, {context.theme.textHot, fills.ink});
     const Color ink = style.rowText.color;
     const Color strip = context.fillUnder(ink, fills.list, towards(fills.list, context.headerFill, 0.05F),
-                                          Form::Container, {fills.list});
+                                          Elevation::Container, {fills.list});
     style.header = containerSurface(context, strip, context.hairline, style.headerShape);
     style.header.showOutline = false;
-    const Tones head = context.shades(strip, Form::Container);
+    const Tones head = context.shades(strip, Elevation::Container);
     style.headerText = textOn(context, head, {context.theme.mutedText, ink}, kLabel);
     style.row = bareSurface(context, style.rowShape);
     style.selectedRow = flatSurface(context, fills.selected, style.selectedRowShape);
     style.selectedRail = railOn(context, fills, style.selectedRailShape);
 
     const auto severity = [&](Hue hue, float amount, std::initializer_list<Color> others) {
-        return context.fillUnder(ink, fills.list, mixed(fills.list, context.solid(hue), amount), Form::Plate,
-                                 others);
+        return context.fillUnder(ink, fills.list, mixed(fills.list, context.solid(hue), amount),
+                                 Elevation::Flat, others);
     };
     style.highSeverityFill = severity(Hue::Danger, 0.30F, {fills.list});
     style.mediumSeverityFill = severity(Hue::Warning, 0.22F, {fills.list, style.highSeverityFill});

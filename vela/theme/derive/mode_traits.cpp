@@ -5,16 +5,15 @@
 namespace vela::derive {
 namespace {
 
-constexpr FormLook kLevel = {0, 0, 0, 0};
+constexpr ElevationTraits kUnshaded = {0, 0, 0, 0};
 
 // In the order of SurfaceMode.
-constexpr ModeLook kLooks[] = {
+constexpr ModeTraits kModeTraits[] = {
     {.materials = false, // Flat2d: colour and line alone
      .leastDepth = 0,
      .noiseOpacity = 0,
      .shadowOffset = 0,
-     .glowOpacity = 0,
-     .forms = {kLevel, kLevel, kLevel, kLevel, kLevel},
+     .elevations = {kUnshaded, kUnshaded, kUnshaded, kUnshaded, kUnshaded},
      .controlShape = ShapeKind::RoundedRect,
      .panelShape = ShapeKind::Rect,
      .trackShape = ShapeKind::RoundedRect,
@@ -24,23 +23,22 @@ constexpr ModeLook kLooks[] = {
      .leastDepth = 56,
      .noiseOpacity = 7,
      .shadowOffset = 2,
-     .glowOpacity = 46,
-     .forms = {{0.018F, 70, 0, 0},
-               {0.010F, 0, 0, 0},
-               {0.045F, 100, 0, 110},
-               {-0.030F, 100, 110, 40},
-               {-0.020F, 80, 120, 0}},
+     .elevations = {{0.018F, 70, 0, 0},
+                    {0.010F, 0, 0, 0},
+                    {0.045F, 100, 0, 110},
+                    {-0.030F, 100, 110, 40},
+                    {-0.020F, 80, 120, 0}},
      .controlShape = ShapeKind::RoundedRect,
      .panelShape = ShapeKind::RoundedRect,
      .trackShape = ShapeKind::Pill,
      .slimTracks = false,
      .flushCaptionButtons = false},
-    {.materials = true, // Textured: the material carries the look, the form only hints
+    {.materials = true, // Textured: the material carries the look, the elevation only hints
      .leastDepth = 0,
      .noiseOpacity = 0,
      .shadowOffset = 1,
-     .glowOpacity = 0,
-     .forms = {{0.008F, 30, 0, 0}, kLevel, {0.018F, 60, 0, 70}, {-0.018F, 60, 70, 0}, {-0.010F, 40, 60, 0}},
+     .elevations =
+         {{0.008F, 30, 0, 0}, kUnshaded, {0.018F, 60, 0, 70}, {-0.018F, 60, 70, 0}, {-0.010F, 40, 60, 0}},
      .controlShape = ShapeKind::RoundedRect,
      .panelShape = ShapeKind::RoundedRect,
      .trackShape = ShapeKind::RoundedRect,
@@ -50,8 +48,7 @@ constexpr ModeLook kLooks[] = {
      .leastDepth = 0,
      .noiseOpacity = 0,
      .shadowOffset = 0,
-     .glowOpacity = 0,
-     .forms = {kLevel, kLevel, kLevel, kLevel, kLevel},
+     .elevations = {kUnshaded, kUnshaded, kUnshaded, kUnshaded, kUnshaded},
      .controlShape = ShapeKind::Rect,
      .panelShape = ShapeKind::Rect,
      .trackShape = ShapeKind::Rect,
@@ -62,8 +59,7 @@ constexpr ModeLook kLooks[] = {
      .leastDepth = 0,
      .noiseOpacity = 0,
      .shadowOffset = 1,
-     .glowOpacity = 0,
-     .forms = {kLevel, kLevel, {0, 0, 0, 22}, kLevel, kLevel},
+     .elevations = {kUnshaded, kUnshaded, {0, 0, 0, 22}, kUnshaded, kUnshaded},
      .controlShape = ShapeKind::RoundedRect,
      .panelShape = ShapeKind::Rect,
      .trackShape = ShapeKind::Pill,
@@ -73,10 +69,11 @@ constexpr ModeLook kLooks[] = {
 
 } // namespace
 
-const ModeLook& lookOf(SurfaceMode mode) noexcept
+const ModeTraits& traitsOf(SurfaceMode mode) noexcept
 {
     const auto index = static_cast<std::size_t>(mode);
-    return kLooks[index < std::size(kLooks) ? index : static_cast<std::size_t>(SurfaceMode::Sculpted3d)];
+    return kModeTraits[index < std::size(kModeTraits) ? index
+                                                      : static_cast<std::size_t>(SurfaceMode::Sculpted3d)];
 }
 
 } // namespace vela::derive

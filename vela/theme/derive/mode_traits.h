@@ -1,5 +1,5 @@
-// What tells the surface modes apart, as one table: how strongly each kind of form is shaded, shadowed and
-// lit, whether materials are worn, and the shapes and metrics of the mode. Builders never ask for the mode
+// What tells the surface modes apart, as one table: how strongly each elevation is shaded, shadowed and
+// lit, whether materials are applied, and the shapes and metrics of the mode. Builders never ask for the mode
 // itself.
 #pragma once
 
@@ -10,30 +10,29 @@
 namespace vela::derive {
 
 // How a surface stands in the light.
-enum class Form : std::uint8_t {
+enum class Elevation : std::uint8_t {
     Container, // large and level: panels, popups, bars
-    Plate,     // lies on a container without standing out: rows, chips, disabled faces
+    Flat,      // lies on a container without standing out: rows, chips, disabled faces
     Raised,    // buttons, thumbs, badges
-    Pressed,   // a raised form pushed in
+    Pressed,   // what was raised, pushed in
     Sunken,    // fields and tracks
 };
-inline constexpr int kFormCount = 5;
+inline constexpr int kElevationCount = 5;
 
-struct FormLook {
+struct ElevationTraits {
     // Oklab lightness from the fill to the lit end of its gradient; negative when the shaded end comes first.
     float shading;
-    std::uint8_t light;       // percent of the theme's light and relief that the form gets
+    std::uint8_t light;       // percent of the theme's light and relief that a surface gets
     std::uint8_t innerShadow; // percent of the theme's inner shadow, 0 for none
     std::uint8_t shadow;      // opacity of the drop shadow, 0 for none
 };
 
-struct ModeLook {
-    bool materials;          // the theme's materials are worn
-    std::uint8_t leastDepth; // the relief of lit forms where a theme gives them less
+struct ModeTraits {
+    bool materials;          // the theme's materials are applied
+    std::uint8_t leastDepth; // the relief of lit surfaces where a theme gives them less
     std::uint8_t noiseOpacity;
     std::int32_t shadowOffset;
-    std::uint8_t glowOpacity;
-    FormLook forms[kFormCount];
+    ElevationTraits elevations[kElevationCount];
 
     ShapeKind controlShape;
     ShapeKind panelShape;
@@ -41,9 +40,12 @@ struct ModeLook {
     bool slimTracks;          // progress as a thin bar without a frame
     bool flushCaptionButtons; // caption buttons fill the bar's corner, as the system's do
 
-    const FormLook& form(Form form) const noexcept { return forms[static_cast<int>(form)]; }
+    const ElevationTraits& traits(Elevation elevation) const noexcept
+    {
+        return elevations[static_cast<int>(elevation)];
+    }
 };
 
-const ModeLook& lookOf(SurfaceMode mode) noexcept;
+const ModeTraits& traitsOf(SurfaceMode mode) noexcept;
 
 } // namespace vela::derive

@@ -35,32 +35,32 @@ void wearMaterial(SurfaceStyle& surface, const DeriveContext& context, const Fac
     surface.materialEnabled = surface.material != MaterialPreset::None && profile.materialStrength > 0;
     if (face.substance == Substance::Accent)
         surface.materialTint = mixed(profile.materialTint, lightened(face.fill, 0.12F), 0.7F);
-    surface.materialDepth = std::max(surface.materialDepth, context.look.leastDepth);
-    dimLight(surface, face.drawn ? context.look.form(face.form).light : 0);
+    surface.materialDepth = std::max(surface.materialDepth, context.mode.leastDepth);
+    dimLight(surface, face.drawn ? context.mode.traits(face.elevation).light : 0);
     // What is pushed in takes the light from the other side.
-    if (face.form == Form::Pressed || face.form == Form::Sunken)
+    if (face.elevation == Elevation::Pressed || face.elevation == Elevation::Sunken)
         surface.materialLightAngle = (surface.materialLightAngle % kFullTurn + kHalfTurn) % kFullTurn;
 }
 
 void shade(SurfaceStyle& surface, const DeriveContext& context, const Face& face)
 {
-    const FormLook& form = context.look.form(face.form);
-    surface.useGradient = face.drawn && form.shading != 0;
-    surface.gradientStart = lightened(face.fill, form.shading);
+    const ElevationTraits& traits = context.mode.traits(face.elevation);
+    surface.useGradient = face.drawn && traits.shading != 0;
+    surface.gradientStart = lightened(face.fill, traits.shading);
     surface.gradientMid = face.fill;
-    surface.gradientEnd = lightened(face.fill, -form.shading);
+    surface.gradientEnd = lightened(face.fill, -traits.shading);
 
-    surface.showShadow = face.drawn && form.shadow > 0;
-    surface.shadowOpacity = form.shadow;
+    surface.showShadow = face.drawn && traits.shadow > 0;
+    surface.shadowOpacity = traits.shadow;
     surface.shadowOffsetX = 0;
-    surface.shadowOffsetY = context.look.shadowOffset;
+    surface.shadowOffsetY = context.mode.shadowOffset;
 
-    surface.showInnerShadow = face.drawn && form.innerShadow > 0;
-    surface.innerShadow = static_cast<std::uint8_t>(surface.innerShadow * form.innerShadow / 100);
+    surface.showInnerShadow = face.drawn && traits.innerShadow > 0;
+    surface.innerShadow = static_cast<std::uint8_t>(surface.innerShadow * traits.innerShadow / 100);
     surface.innerShadowColor = mixed(face.fill, hexColor(0x000000), 0.85F);
 
-    surface.useNoise = face.drawn && face.form == Form::Container && context.look.noiseOpacity > 0;
-    surface.noiseOpacity = context.look.noiseOpacity;
+    surface.useNoise = face.drawn && face.elevation == Elevation::Container && context.mode.noiseOpacity > 0;
+    surface.noiseOpacity = context.mode.noiseOpacity;
 }
 
 } // namespace
@@ -100,37 +100,38 @@ SurfaceStyle flatSurface(const DeriveContext& context, Color fill, ShapeKind sha
 
 SurfaceStyle sunkenSurface(const DeriveContext& context, Color fill, Color border, ShapeKind shape)
 {
-    return surfaceOf(context, {.fill = fill, .border = border, .form = Form::Sunken}, shape);
+    return surfaceOf(context, {.fill = fill, .border = border, .elevation = Elevation::Sunken}, shape);
 }
 
 SurfaceStyle containerSurface(const DeriveContext& context, Color fill, Color border, ShapeKind shape)
 {
     return surfaceOf(
-        context, {.fill = fill, .border = border, .form = Form::Container, .substance = Substance::Surface},
+        context,
+        {.fill = fill, .border = border, .elevation = Elevation::Container, .substance = Substance::Surface},
         shape);
 }
 
-Color solidFill(const DeriveContext& context, Color wanted, Form form)
+Color solidFill(const DeriveContext& context, Color wanted, Elevation elevation)
 {
-    return readableFace(wanted, std::abs(context.look.form(form).shading), context.solidAim);
+    return readableFace(wanted, std::abs(context.mode.traits(elevation).shading), context.solidAim);
 }
 
-Face solidFace(const DeriveContext& context, Color fill, const Backdrop& backdrop, Form form)
+Face solidFace(const DeriveContext& context, Color fill, const Backdrop& backdrop, Elevation elevation)
 {
-    const Tones tones = context.shades(fill, form);
+    const Tones tones = context.shades(fill, elevation);
     const float standsOut =
         std::min(contrastRatio(tones.darkest, backdrop.tones), contrastRatio(tones.lightest, backdrop.tones));
     const Color rim = lightened(fill, strongestOn(tones) == hexColor(0xFFFFFF) ? -0.06F : 0.06F);
     return {.fill = fill,
             .border = standsOut >= context.markAim ? rim : context.mark(fill, backdrop.tones),
-            .form = form,
+            .elevation = elevation,
             .substance = Substance::Accent};
 }
 
 SurfaceStyle badgeSurface(const DeriveContext& context, Hue hue, const Backdrop& backdrop, ShapeKind shape)
 {
-    const Color fill = solidFill(context, context.solid(hue), Form::Raised);
-    return surfaceOf(context, solidFace(context, fill, backdrop, Form::Raised), shape);
+    const Color fill = solidFill(context, context.solid(hue), Elevation::Raised);
+    return surfaceOf(context, solidFace(context, fill, backdrop, Elevation::Raised), shape);
 }
 
 Backdrop backdropOf(const SurfaceStyle& surface, const Backdrop& under)

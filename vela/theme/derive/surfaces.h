@@ -13,7 +13,7 @@ enum class Substance : std::uint8_t { None, Surface, Control, Accent };
 struct Face {
     Color fill = 0;
     Color border = 0;
-    Form form = Form::Plate;
+    Elevation elevation = Elevation::Flat;
     Substance substance = Substance::None;
     bool drawn = true; // false: only what lies under it shows
     bool bordered = true;
@@ -28,9 +28,9 @@ SurfaceStyle sunkenSurface(const DeriveContext& context, Color fill, Color borde
 // A panel, bar or popup.
 SurfaceStyle containerSurface(const DeriveContext& context, Color fill, Color border, ShapeKind shape);
 // A strong colour as a fill on which text can be read.
-Color solidFill(const DeriveContext& context, Color wanted, Form form);
+Color solidFill(const DeriveContext& context, Color wanted, Elevation elevation);
 // A face in such a colour, with a border that stands out from the backdrop where the colour does not.
-Face solidFace(const DeriveContext& context, Color fill, const Backdrop& backdrop, Form form);
+Face solidFace(const DeriveContext& context, Color fill, const Backdrop& backdrop, Elevation elevation);
 // A raised disc or dot in a hue, for a glyph.
 SurfaceStyle badgeSurface(const DeriveContext& context, Hue hue, const Backdrop& backdrop, ShapeKind shape);
 

@@ -55,7 +55,7 @@ void buildTexts(const DeriveContext& context, StyleSheet& sheet)
 void buildRichText(const DeriveContext& context, StyleSheet& sheet)
 {
     RichTextStyle& style = sheet.table<RichTextStyle>().defaultRecord();
-    style.shape = context.look.panelShape;
+    style.shape = context.mode.panelShape;
     style.surface = containerSurface(context, context.containerFills.card, context.hairline, style.shape);
     const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
     style.text = textOn(context, backdrop.tones, {context.text});
