@@ -8,7 +8,7 @@ namespace vela::derive {
 namespace {
 
 // A thin bar without a frame: the track is an outline, its inset makes it six pixels of the control's 28.
-void makeSlim(const DeriveContext& context, ProgressBarStyle& style)
+void makeSlim(const Context& context, ProgressBarStyle& style)
 {
     style.frame = bareSurface(context, style.frameShape);
     style.track =
@@ -17,7 +17,7 @@ void makeSlim(const DeriveContext& context, ProgressBarStyle& style)
     style.insetY = 11;
 }
 
-void makeFramed(const DeriveContext& context, ProgressBarStyle& style)
+void makeFramed(const Context& context, ProgressBarStyle& style)
 {
     const Color well = context.containerFill(towards(context.backdrop.fill, context.theme.shell, 0.05F));
     style.frame =
@@ -27,33 +27,33 @@ void makeFramed(const DeriveContext& context, ProgressBarStyle& style)
     style.insetY = 4;
 }
 
-SurfaceStyle thumbOf(const DeriveContext& context, Color fill, Elevation elevation, ShapeKind shape)
+SurfaceStyle thumbOf(const Context& context, Color fill, Elevation elevation, ShapeKind shape)
 {
-    return surfaceOf(context,
-                     {.fill = fill, .border = fill, .elevation = elevation, .substance = Substance::Control},
-                     shape);
+    return surfaceOf(
+        context, {.fill = fill, .border = fill, .elevation = elevation, .material = MaterialRole::Control},
+        shape);
 }
 
 // Bare until the pointer comes, and always where the arrow's one colour is seen.
-PerState<SurfaceStyle> arrowButtons(const DeriveContext& context, Color arrow, const Backdrop& backdrop,
+PerState<SurfaceStyle> arrowButtons(const Context& context, Color arrow, const Backdrop& backdrop,
                                     ShapeKind shape)
 {
-    const auto veil = [&](float amount, std::initializer_list<Color> others) {
-        return context.fillUnder(arrow, backdrop.fill, context.veil(backdrop, amount), Elevation::Flat,
-                                 others);
+    const auto overlay = [&](float amount, std::initializer_list<Color> others) {
+        return context.fillBehind(arrow, backdrop.fill, context.overlay(backdrop, amount), Elevation::Flat,
+                                  others);
     };
-    const Color hot = veil(0.055F, {backdrop.fill});
-    const Color pressed = veil(0.10F, {backdrop.fill, hot});
+    const Color hot = overlay(0.055F, {backdrop.fill});
+    const Color pressed = overlay(0.10F, {backdrop.fill, hot});
     return {.normal = bareSurface(context, shape),
             .hot = flatSurface(context, hot, shape),
             .pressed = flatSurface(context, pressed, shape),
             .disabled = bareSurface(context, shape),
-            .active = flatSurface(context, veil(0.075F, {backdrop.fill, hot, pressed}), shape)};
+            .active = flatSurface(context, overlay(0.075F, {backdrop.fill, hot, pressed}), shape)};
 }
 
 } // namespace
 
-void buildProgressBar(const DeriveContext& context, StyleSheet& sheet)
+void buildProgressBar(const Context& context, StyleSheet& sheet)
 {
     ProgressBarStyle& style = sheet.table<ProgressBarStyle>().defaultRecord();
     style.shape = context.mode.trackShape;
@@ -71,7 +71,7 @@ void buildProgressBar(const DeriveContext& context, StyleSheet& sheet)
                            {.fill = fill,
                             .border = fill,
                             .elevation = Elevation::Raised,
-                            .substance = Substance::Accent,
+                            .material = MaterialRole::Accent,
                             .bordered = false},
                            style.fillShape);
     style.fill.showShadow = false;
@@ -82,12 +82,12 @@ void buildProgressBar(const DeriveContext& context, StyleSheet& sheet)
     style.labelPadding = 8;
 }
 
-void deriveScrollBar(const DeriveContext& context, const Backdrop& backdrop, ScrollBarStyle& style)
+void deriveScrollBar(const Context& context, const Backdrop& backdrop, ScrollBarStyle& style)
 {
     style.trackShape = context.mode.trackShape;
     style.thumbShape = context.mode.trackShape;
     style.buttonShape = context.mode.controlShape;
-    const Color groove = context.stateFill(context.veil(backdrop, 0.035F), Elevation::Sunken, {});
+    const Color groove = context.stateFill(context.overlay(backdrop, 0.035F), Elevation::Sunken, {});
     style.track = surfaceOf(
         context, {.fill = groove, .border = groove, .elevation = Elevation::Sunken, .bordered = false},
         style.trackShape);
@@ -118,12 +118,12 @@ void deriveScrollBar(const DeriveContext& context, const Backdrop& backdrop, Scr
     style.showButtons = false;
 }
 
-void buildScrollBar(const DeriveContext& context, StyleSheet& sheet)
+void buildScrollBar(const Context& context, StyleSheet& sheet)
 {
     deriveScrollBar(context, context.backdrop, sheet.table<ScrollBarStyle>().defaultRecord());
 }
 
-void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
+void buildTitleBar(const Context& context, StyleSheet& sheet)
 {
     const bool flush = context.mode.flushCaptionButtons;
     ChromeTitleBarStyle& style = sheet.table<ChromeTitleBarStyle>().defaultRecord();
@@ -133,12 +133,12 @@ void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
     const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
     style.titleText =
         textOn(context, backdrop.tones, {context.text, context.strongText}, flush ? kSmall : kLabel);
-    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, backdrop,
+    deriveButton(context, {Intent::Neutral, Emphasis::Quiet}, backdrop,
                  flush ? ShapeKind::Rect : context.mode.controlShape, style.titleButton);
-    const Color closing = solidFill(context, context.solid(Hue::Danger), Elevation::Flat);
-    style.closeHotColor = context.inkOn(context.shades(closing, Elevation::Flat));
+    const Color closing = solidFill(context, context.solidColor(Intent::Danger), Elevation::Flat);
+    style.closeHotColor = context.strongestText(context.shadedTones(closing, Elevation::Flat));
     style.closePressedColor = style.closeHotColor;
-    const Color closingNow = context.fillUnder(
+    const Color closingNow = context.fillBehind(
         style.closeHotColor, closing, mixed(closing, backdrop.fill, 0.2F), Elevation::Flat, {closing});
     style.closeHotSurface = flatSurface(context, closing, style.titleButton.shape);
     style.closePressedSurface = flatSurface(context, closingNow, style.titleButton.shape);
@@ -154,18 +154,18 @@ void buildTitleBar(const DeriveContext& context, StyleSheet& sheet)
     style.titleLeft = 36;
 }
 
-void buildMenuBar(const DeriveContext& context, StyleSheet& sheet)
+void buildMenuBar(const Context& context, StyleSheet& sheet)
 {
     const Color bar = context.backdrop.fill;
-    const Color ink = context.text;
-    const Backdrop backdrop = {bar, context.shades(bar, Elevation::Container)};
+    const Color text = context.text;
+    const Backdrop backdrop = {bar, context.shadedTones(bar, Elevation::Container)};
     const auto item = [&](float amount, std::initializer_list<Color> others) {
-        return context.fillUnder(ink, bar, context.veil(backdrop, amount), Elevation::Flat, others);
+        return context.fillBehind(text, bar, context.overlay(backdrop, amount), Elevation::Flat, others);
     };
     const Color hot = item(0.055F, {bar});
     const Color pressed = item(0.09F, {bar, hot});
-    const Color active = context.fillUnder(ink, bar, mixed(bar, context.theme.accent, 0.18F), Elevation::Flat,
-                                           {bar, hot, pressed});
+    const Color active = context.fillBehind(text, bar, mixed(bar, context.theme.accent, 0.18F),
+                                            Elevation::Flat, {bar, hot, pressed});
     MenuBarStyle& style = sheet.table<MenuBarStyle>().defaultRecord();
     style.surface = containerSurface(context, bar, context.hairline, style.shape);
     style.surface.showOutline = false;
@@ -180,7 +180,7 @@ void buildMenuBar(const DeriveContext& context, StyleSheet& sheet)
 
     Tones faces = backdrop.tones;
     for (const Color fill : {hot, pressed, active})
-        faces.include(context.shades(fill, Elevation::Flat));
+        faces.include(context.shadedTones(fill, Elevation::Flat));
     style.itemText = textOn(context, faces, {context.text});
     style.shortcutText = textOn(context, faces, {context.mutedText, context.text}, kSmall);
     style.arrow = context.mark(context.theme.mutedText, faces);

@@ -8,28 +8,28 @@
 namespace vela::derive {
 
 // The scroll bar of a list, on the list's own surface.
-void deriveScrollBar(const DeriveContext& context, const Backdrop& backdrop, ScrollBarStyle& style);
+void deriveScrollBar(const Context& context, const Backdrop& backdrop, ScrollBarStyle& style);
 
-void buildTexts(const DeriveContext& context, StyleSheet& sheet);
-void buildButtons(const DeriveContext& context, StyleSheet& sheet);
-void buildBitmapButtons(const DeriveContext& context, StyleSheet& sheet);
-void buildPanels(const DeriveContext& context, StyleSheet& sheet);
-void buildCards(const DeriveContext& context, StyleSheet& sheet);
-void buildTitleBar(const DeriveContext& context, StyleSheet& sheet);
-void buildStatusChips(const DeriveContext& context, StyleSheet& sheet);
-void buildProgressBar(const DeriveContext& context, StyleSheet& sheet);
-void buildScrollBar(const DeriveContext& context, StyleSheet& sheet);
-void buildCheckBox(const DeriveContext& context, StyleSheet& sheet);
-void buildSelectBox(const DeriveContext& context, StyleSheet& sheet);
-void buildListBox(const DeriveContext& context, StyleSheet& sheet);
-void buildDateInput(const DeriveContext& context, StyleSheet& sheet);
-void buildTabs(const DeriveContext& context, StyleSheet& sheet);
-void buildMenuBar(const DeriveContext& context, StyleSheet& sheet);
-void buildTableList(const DeriveContext& context, StyleSheet& sheet);
-void buildRichText(const DeriveContext& context, StyleSheet& sheet);
-void buildTextInput(const DeriveContext& context, StyleSheet& sheet);
-void buildSelectableText(const DeriveContext& context, StyleSheet& sheet);
-void buildPopups(const DeriveContext& context, StyleSheet& sheet);
-void buildTooltips(const DeriveContext& context, StyleSheet& sheet);
+void buildTexts(const Context& context, StyleSheet& sheet);
+void buildButtons(const Context& context, StyleSheet& sheet);
+void buildBitmapButtons(const Context& context, StyleSheet& sheet);
+void buildPanels(const Context& context, StyleSheet& sheet);
+void buildCards(const Context& context, StyleSheet& sheet);
+void buildTitleBar(const Context& context, StyleSheet& sheet);
+void buildStatusChips(const Context& context, StyleSheet& sheet);
+void buildProgressBar(const Context& context, StyleSheet& sheet);
+void buildScrollBar(const Context& context, StyleSheet& sheet);
+void buildCheckBox(const Context& context, StyleSheet& sheet);
+void buildSelectBox(const Context& context, StyleSheet& sheet);
+void buildListBox(const Context& context, StyleSheet& sheet);
+void buildDateInput(const Context& context, StyleSheet& sheet);
+void buildTabs(const Context& context, StyleSheet& sheet);
+void buildMenuBar(const Context& context, StyleSheet& sheet);
+void buildTableList(const Context& context, StyleSheet& sheet);
+void buildRichText(const Context& context, StyleSheet& sheet);
+void buildTextInput(const Context& context, StyleSheet& sheet);
+void buildSelectableText(const Context& context, StyleSheet& sheet);
+void buildPopups(const Context& context, StyleSheet& sheet);
+void buildTooltips(const Context& context, StyleSheet& sheet);
 
 } // namespace vela::derive

@@ -11,10 +11,10 @@ using Faces = PerState<Face>;
 
 Face controlFace(Color fill, Color border, Elevation elevation)
 {
-    return {.fill = fill, .border = border, .elevation = elevation, .substance = Substance::Control};
+    return {.fill = fill, .border = border, .elevation = elevation, .material = MaterialRole::Control};
 }
 
-Faces standardFaces(const DeriveContext& context, const Backdrop& backdrop)
+Faces standardFaces(const Context& context, const Backdrop& backdrop)
 {
     const PerState<Color>& fills = context.control;
     const Color edge = context.mark(context.edge, backdrop.tones);
@@ -26,7 +26,7 @@ Faces standardFaces(const DeriveContext& context, const Backdrop& backdrop)
             .active = controlFace(fills.active, activeEdge, Elevation::Pressed)};
 }
 
-Faces outlineFaces(const DeriveContext& context, const Backdrop& backdrop)
+Faces outlineFaces(const Context& context, const Backdrop& backdrop)
 {
     Faces faces = standardFaces(context, backdrop);
     const auto faded = [&](Color fill, Elevation elevation, std::initializer_list<Color> others) {
@@ -40,31 +40,31 @@ Faces outlineFaces(const DeriveContext& context, const Backdrop& backdrop)
     return faces;
 }
 
-Faces quietFaces(const DeriveContext& context, const Backdrop& backdrop)
+Faces quietFaces(const Context& context, const Backdrop& backdrop)
 {
     // The faintest face must stand out from the light that a material throws on a dark backdrop.
     const float light = context.materials && context.dark ? 0.03F : 0.0F;
-    const auto veil = [&](float amount) {
-        return Face{.fill =
-                        context.stateFill(context.veil(backdrop, amount), Elevation::Flat, {backdrop.fill}),
-                    .border = context.hairline,
-                    .bordered = false};
+    const auto overlay = [&](float amount) {
+        return Face{
+            .fill = context.stateFill(context.overlay(backdrop, amount), Elevation::Flat, {backdrop.fill}),
+            .border = context.hairline,
+            .bordered = false};
     };
     const Face bare = {.fill = backdrop.fill, .border = context.hairline, .drawn = false};
     Faces faces = {.normal = bare,
-                   .hot = veil(0.055F + light),
-                   .pressed = veil(0.10F),
+                   .hot = overlay(0.055F + light),
+                   .pressed = overlay(0.10F),
                    .disabled = bare,
-                   .active = veil(0.075F)};
+                   .active = overlay(0.075F)};
     faces.pressed.fill = context.stateFill(faces.pressed.fill, Elevation::Flat, {faces.hot.fill});
     faces.active.fill = context.stateFill(mixed(faces.active.fill, context.theme.accent, 0.18F),
                                           Elevation::Flat, {faces.hot.fill, faces.pressed.fill});
     return faces;
 }
 
-Faces softFaces(const DeriveContext& context, Hue hue, const Backdrop& backdrop)
+Faces softFaces(const Context& context, Intent intent, const Backdrop& backdrop)
 {
-    const Color solid = context.solid(hue);
+    const Color solid = context.solidColor(intent);
     const Color border = context.mark(solid, backdrop.tones);
     const auto tinted = [&](float amount, Elevation elevation, std::initializer_list<Color> others) {
         Face face = controlFace(context.stateFill(mixed(backdrop.fill, solid, amount), elevation, others),
@@ -79,17 +79,18 @@ Faces softFaces(const DeriveContext& context, Hue hue, const Backdrop& backdrop)
     return faces;
 }
 
-Faces solidFaces(const DeriveContext& context, Hue hue, const Backdrop& backdrop)
+Faces solidFaces(const Context& context, Intent intent, const Backdrop& backdrop)
 {
-    const Color solid = context.solid(hue);
+    const Color solid = context.solidColor(intent);
     const Color hot =
-        hue == Hue::Accent ? context.theme.accentHot : lightened(solid, context.dark ? 0.05F : -0.05F);
+        intent == Intent::Accent ? context.theme.accentHot : lightened(solid, context.dark ? 0.05F : -0.05F);
     Faces faces = standardFaces(context, backdrop);
     const Color normal = solidFill(context, solid, Elevation::Raised);
     // The caption keeps its colour while the button is used.
-    const Color ink = context.inkOn(context.shades(normal, Elevation::Raised));
+    const Color text = context.strongestText(context.shadedTones(normal, Elevation::Raised));
     const auto face = [&](Color wanted, Elevation elevation, std::initializer_list<Color> others) {
-        const Color fill = context.fillUnder(ink, normal, wanted, elevation, others, context.solidAim);
+        const Color fill =
+            context.fillBehind(text, normal, wanted, elevation, others, context.solidTextTarget);
         return solidFace(context, fill, backdrop, elevation);
     };
     faces.normal = solidFace(context, normal, backdrop, Elevation::Raised);
@@ -100,25 +101,24 @@ Faces solidFaces(const DeriveContext& context, Hue hue, const Backdrop& backdrop
     return faces;
 }
 
-Faces facesFor(const DeriveContext& context, const ButtonRecipe& recipe, const Backdrop& backdrop)
+Faces facesFor(const Context& context, const ButtonRecipe& recipe, const Backdrop& backdrop)
 {
     switch (recipe.emphasis) {
-    case Emphasis::Solid: return solidFaces(context, recipe.hue, backdrop);
+    case Emphasis::Solid: return solidFaces(context, recipe.intent, backdrop);
     case Emphasis::Outline: return outlineFaces(context, backdrop);
-    case Emphasis::Soft: return softFaces(context, recipe.hue, backdrop);
+    case Emphasis::Soft: return softFaces(context, recipe.intent, backdrop);
     case Emphasis::Quiet: return quietFaces(context, backdrop);
     case Emphasis::Standard: break;
     }
     return standardFaces(context, backdrop);
 }
 
-Color captionOn(const DeriveContext& context, const ButtonRecipe& recipe, VisualState state,
-                const Tones& face)
+Color captionOn(const Context& context, const ButtonRecipe& recipe, VisualState state, const Tones& face)
 {
     if (recipe.emphasis == Emphasis::Solid)
-        return context.inkOn(face);
+        return context.strongestText(face);
     if (recipe.emphasis == Emphasis::Soft)
-        return context.readable({context.inkOf(recipe.hue)}, face);
+        return context.readable({context.textColor(recipe.intent)}, face);
     const bool lively = state == VisualState::Hot || state == VisualState::Active;
     return lively ? context.readable({context.strongText, context.text}, face)
                   : context.readable({context.text, context.strongText}, face);
@@ -131,19 +131,19 @@ struct ButtonRow {
 
 constexpr ButtonRow kButtonRows[] = {
     {L"default", {}},
-    {L"secondary", {Hue::Neutral, Emphasis::Outline}},
-    {L"primary", {Hue::Accent, Emphasis::Solid}},
-    {L"primary-action", {Hue::Accent, Emphasis::Solid, kLabel}},
-    {L"quiet", {Hue::Neutral, Emphasis::Quiet}},
-    {L"success", {Hue::Success, Emphasis::Soft}},
-    {L"success-action", {Hue::Success, Emphasis::Solid, kLabel}},
-    {L"warning", {Hue::Warning, Emphasis::Soft}},
-    {L"warning-action", {Hue::Warning, Emphasis::Solid, kLabel}},
-    {L"danger", {Hue::Danger, Emphasis::Soft}},
-    {L"danger-action", {Hue::Danger, Emphasis::Solid, kLabel}},
+    {L"secondary", {Intent::Neutral, Emphasis::Outline}},
+    {L"primary", {Intent::Accent, Emphasis::Solid}},
+    {L"primary-action", {Intent::Accent, Emphasis::Solid, kLabel}},
+    {L"quiet", {Intent::Neutral, Emphasis::Quiet}},
+    {L"success", {Intent::Success, Emphasis::Soft}},
+    {L"success-action", {Intent::Success, Emphasis::Solid, kLabel}},
+    {L"warning", {Intent::Warning, Emphasis::Soft}},
+    {L"warning-action", {Intent::Warning, Emphasis::Solid, kLabel}},
+    {L"danger", {Intent::Danger, Emphasis::Soft}},
+    {L"danger-action", {Intent::Danger, Emphasis::Solid, kLabel}},
 };
 
-// A glyph button is a button face with a drawing on it: it keeps one surface, and the drawing takes the tint.
+// A button face with a drawing on it: it keeps one surface, and the drawing takes the tint.
 struct BitmapButtonRow {
     std::wstring_view variant;
     ButtonRecipe recipe;
@@ -151,22 +151,23 @@ struct BitmapButtonRow {
 };
 
 constexpr BitmapButtonRow kBitmapButtonRows[] = {
-    {L"default", {Hue::Neutral, Emphasis::Quiet}},
-    {L"action", {Hue::Neutral, Emphasis::Standard}},
-    {L"primary-action", {Hue::Accent, Emphasis::Solid, kLabel}},
-    {L"muted", {Hue::Neutral, Emphasis::Quiet}, true},
+    {L"default", {Intent::Neutral, Emphasis::Quiet}},
+    {L"action", {Intent::Neutral, Emphasis::Standard}},
+    {L"primary-action", {Intent::Accent, Emphasis::Solid, kLabel}},
+    {L"muted", {Intent::Neutral, Emphasis::Quiet}, true},
 };
 
 } // namespace
 
-void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, const Backdrop& backdrop,
+void deriveButton(const Context& context, const ButtonRecipe& recipe, const Backdrop& backdrop,
                   ShapeKind shape, ButtonStyle& style)
 {
     const Faces faces = facesFor(context, recipe, backdrop);
     style.shape = shape;
     style.hitShape = shape;
     const Color focus = context.mark(context.focus, backdrop.tones);
-    const Color solidInk = context.inkOn(context.shades(faces.normal.fill, faces.normal.elevation));
+    const Color solidText =
+        context.strongestText(context.shadedTones(faces.normal.fill, faces.normal.elevation));
     for (int index = 0; index < kVisualStateCount; ++index) {
         const auto state = static_cast<VisualState>(index);
         SurfaceStyle& surface = style.surface[state];
@@ -174,20 +175,20 @@ void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, cons
         surface.glow = focus;
         const Tones face = backdropOf(surface, backdrop).tones;
         const bool solid = recipe.emphasis == Emphasis::Solid && state != VisualState::Disabled;
-        const Color caption = solid ? solidInk : captionOn(context, recipe, state, face);
-        style.text[state] = textOf(context, caption, context.faint(caption, face), recipe.type);
+        const Color caption = solid ? solidText : captionOn(context, recipe, state, face);
+        style.text[state] = textOf(context, caption, context.disabledTextOn(caption, face), recipe.step);
     }
     style.text.disabled.color = style.text.disabled.disabledColor;
 }
 
-void buildButtons(const DeriveContext& context, StyleSheet& sheet)
+void buildButtons(const Context& context, StyleSheet& sheet)
 {
     for (const ButtonRow& row : kButtonRows)
         deriveButton(context, row.recipe, context.backdrop, context.mode.controlShape,
                      sheet.table<ButtonStyle>().ensure(row.variant));
 }
 
-void buildBitmapButtons(const DeriveContext& context, StyleSheet& sheet)
+void buildBitmapButtons(const Context& context, StyleSheet& sheet)
 {
     ButtonStyle face;
     for (const BitmapButtonRow& row : kBitmapButtonRows) {
@@ -201,12 +202,14 @@ void buildBitmapButtons(const DeriveContext& context, StyleSheet& sheet)
     }
 }
 
-void buildTabs(const DeriveContext& context, StyleSheet& sheet)
+void buildTabs(const Context& context, StyleSheet& sheet)
 {
     TabsStyle& style = sheet.table<TabsStyle>().defaultRecord();
     style.shape = context.mode.controlShape;
-    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, context.backdrop, style.shape, style.itemButton);
-    // The open tab is told by more than a veil: its face is the control's own, with an edge in the accent.
+    deriveButton(context, {Intent::Neutral, Emphasis::Quiet}, context.backdrop, style.shape,
+                 style.itemButton);
+    // The open tab is told by more than an overlay: its face is the control's own, with an edge in the
+    // accent.
     SurfaceStyle& open = style.itemButton.surface.active;
     const Backdrop& backdrop = context.backdrop;
     const Color fill =
@@ -217,7 +220,7 @@ void buildTabs(const DeriveContext& context, StyleSheet& sheet)
                      {.fill = fill,
                       .border = context.mark(context.theme.accent, backdrop.tones),
                       .elevation = Elevation::Raised,
-                      .substance = Substance::Control},
+                      .material = MaterialRole::Control},
                      style.shape);
     open.glow = focus;
     style.itemButton.text.active =

@@ -8,20 +8,20 @@
 namespace vela::derive {
 
 enum class Emphasis : std::uint8_t {
-    Solid,    // filled with the hue: the action that the dialog is about
+    Solid,    // filled with the intent's colour: the action that the dialog is about
     Standard, // a control's own face
     Outline,  // a control's face, half faded into the backdrop
-    Soft,     // tinted with the hue
+    Soft,     // tinted with it
     Quiet,    // only text until the pointer comes
 };
 
 struct ButtonRecipe {
-    Hue hue = Hue::Neutral;
+    Intent intent = Intent::Neutral;
     Emphasis emphasis = Emphasis::Standard;
-    Type type = kBody;
+    TypeStep step = kBody;
 };
 
-void deriveButton(const DeriveContext& context, const ButtonRecipe& recipe, const Backdrop& backdrop,
+void deriveButton(const Context& context, const ButtonRecipe& recipe, const Backdrop& backdrop,
                   ShapeKind shape, ButtonStyle& style);
 
 } // namespace vela::derive

@@ -7,12 +7,12 @@
 namespace vela::derive {
 namespace {
 
-constexpr Type kPopupTitle = {.points = 8, .weight = 200};
-constexpr Type kCardTitle = {.points = 2, .weight = 200};
-constexpr Type kGlyph = {.points = 4, .weight = 300};
+constexpr TypeStep kPopupTitle = {.points = 8, .weight = 200};
+constexpr TypeStep kCardTitle = {.points = 2, .weight = 200};
+constexpr TypeStep kBadgeText = {.points = 4, .weight = 300};
 constexpr std::uint8_t kGlassOpacity = 214;
 
-void deriveCard(const DeriveContext& context, Color fill, CardStyle& style)
+void deriveCard(const Context& context, Color fill, CardStyle& style)
 {
     style.shape = context.mode.panelShape;
     style.headerShape = context.mode.panelShape;
@@ -25,7 +25,7 @@ void deriveCard(const DeriveContext& context, Color fill, CardStyle& style)
     style.contentPadding = 16;
 }
 
-void deriveRaisedCard(const DeriveContext& context, CardStyle& style)
+void deriveRaisedCard(const Context& context, CardStyle& style)
 {
     deriveCard(context, context.containerFills.raisedCard, style);
     const ElevationTraits& raised = context.mode.traits(Elevation::Raised);
@@ -34,7 +34,7 @@ void deriveRaisedCard(const DeriveContext& context, CardStyle& style)
 }
 
 // Figures at a glance: a deeper fill, and a title that leaves the stage to them.
-void deriveDashboardCard(const DeriveContext& context, CardStyle& style)
+void deriveDashboardCard(const Context& context, CardStyle& style)
 {
     deriveCard(context, context.containerFills.dashboard, style);
     const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
@@ -43,23 +43,23 @@ void deriveDashboardCard(const DeriveContext& context, CardStyle& style)
     style.headerHeight = 40;
 }
 
-void deriveChip(const DeriveContext& context, Hue hue, StatusChipStyle& style)
+void deriveChip(const Context& context, Intent intent, StatusChipStyle& style)
 {
-    const bool plain = hue == Hue::Neutral;
-    const Color lead = context.solid(plain ? Hue::Accent : hue);
+    const bool plain = intent == Intent::Neutral;
+    const Color lead = context.solidColor(plain ? Intent::Accent : intent);
     const Color tint =
-        plain ? context.veil(context.backdrop, 0.05F) : mixed(context.backdrop.fill, lead, 0.14F);
+        plain ? context.overlay(context.backdrop, 0.05F) : mixed(context.backdrop.fill, lead, 0.14F);
     style.shape = ShapeKind::Pill;
     style.badgeShape = ShapeKind::Pill;
     const Color fill = context.stateFill(tint, Elevation::Flat, {});
     style.surface = surfaceOf(context, {.fill = fill, .border = mixed(fill, lead, 0.4F)}, style.shape);
     const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
-    style.text = textOn(context, backdrop.tones, {plain ? context.text : context.inkOf(hue)}, kSmall);
+    style.text = textOn(context, backdrop.tones, {plain ? context.text : context.textColor(intent)}, kSmall);
     style.badge =
         flatSurface(context, context.markFill(lead, backdrop.tones, Elevation::Flat), style.badgeShape);
 }
 
-void derivePopup(const DeriveContext& context, Color frame, Hue badge, PopupStyle& style)
+void derivePopup(const Context& context, Color frame, Intent badge, PopupStyle& style)
 {
     const ShapeKind button = context.mode.controlShape;
     style.shape = context.mode.panelShape;
@@ -71,13 +71,13 @@ void derivePopup(const DeriveContext& context, Color frame, Hue badge, PopupStyl
     style.footer.showOutline = false;
     style.icon = badgeSurface(context, badge, context.backdrop, style.iconShape);
     const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
-    const Color ink = context.inkOn(backdropOf(style.icon, backdrop).tones);
-    style.iconText = textOf(context, ink, ink, kGlyph);
+    const Color text = context.strongestText(backdropOf(style.icon, backdrop).tones);
+    style.iconText = textOf(context, text, text, kBadgeText);
     style.titleText = textOn(context, backdrop.tones, {context.strongText, context.text}, kPopupTitle);
     style.messageText = readingTextOn(context, backdrop.tones, {context.text});
-    deriveButton(context, {Hue::Neutral, Emphasis::Quiet}, backdrop, button, style.closeButton);
+    deriveButton(context, {Intent::Neutral, Emphasis::Quiet}, backdrop, button, style.closeButton);
     const Backdrop actions = backdropOf(style.footer, backdrop);
-    deriveButton(context, {Hue::Accent, Emphasis::Solid, kLabel}, actions, button, style.primaryAction);
+    deriveButton(context, {Intent::Accent, Emphasis::Solid, kLabel}, actions, button, style.primaryAction);
     deriveButton(context, {}, actions, button, style.secondaryAction);
     style.surface.shadowOpacity = context.mode.traits(Elevation::Raised).shadow;
     style.showShadow = style.surface.shadowOpacity > 0;
@@ -91,7 +91,7 @@ void derivePopup(const DeriveContext& context, Color frame, Hue badge, PopupStyl
     style.actionGap = 8;
 }
 
-void deriveTooltip(const DeriveContext& context, TooltipStyle& style)
+void deriveTooltip(const Context& context, TooltipStyle& style)
 {
     const Color fill = context.containerFill(towards(context.backdrop.fill, context.control.normal, 0.05F));
     style.shape = ShapeKind::RoundedRect;
@@ -103,16 +103,16 @@ void deriveTooltip(const DeriveContext& context, TooltipStyle& style)
     style.showShadow = style.surface.shadowOpacity > 0;
     const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
     style.textStyle = textOn(context, backdrop.tones, {context.text});
-    style.icon = badgeSurface(context, Hue::Accent, backdrop, style.iconShape);
-    const Color ink = context.inkOn(backdropOf(style.icon, backdrop).tones);
-    style.iconText = textOf(context, ink, ink, {.points = -1, .weight = 300});
+    style.icon = badgeSurface(context, Intent::Accent, backdrop, style.iconShape);
+    const Color text = context.strongestText(backdropOf(style.icon, backdrop).tones);
+    style.iconText = textOf(context, text, text, {.points = -1, .weight = 300});
     style.accentRail = flatSurface(
         context, context.markFill(context.theme.accent, backdrop.tones, Elevation::Flat), style.railShape);
 }
 
 } // namespace
 
-void buildPanels(const DeriveContext& context, StyleSheet& sheet)
+void buildPanels(const Context& context, StyleSheet& sheet)
 {
     const auto panel = [&](std::wstring_view variant, Color fill, Color border) -> PanelStyle& {
         PanelStyle& style = sheet.table<PanelStyle>().ensure(variant);
@@ -127,7 +127,7 @@ void buildPanels(const DeriveContext& context, StyleSheet& sheet)
     glass.opacity = glass.useGradient ? kGlassOpacity : glass.opacity;
 }
 
-void buildCards(const DeriveContext& context, StyleSheet& sheet)
+void buildCards(const Context& context, StyleSheet& sheet)
 {
     VariantTable<CardStyle>& cards = sheet.table<CardStyle>();
     deriveCard(context, context.containerFills.card, cards.ensure(L"default"));
@@ -135,27 +135,27 @@ void buildCards(const DeriveContext& context, StyleSheet& sheet)
     deriveDashboardCard(context, cards.ensure(L"dashboard"));
 }
 
-void buildStatusChips(const DeriveContext& context, StyleSheet& sheet)
+void buildStatusChips(const Context& context, StyleSheet& sheet)
 {
     VariantTable<StatusChipStyle>& chips = sheet.table<StatusChipStyle>();
-    deriveChip(context, Hue::Neutral, chips.ensure(L"default"));
-    deriveChip(context, Hue::Success, chips.ensure(L"success"));
-    deriveChip(context, Hue::Warning, chips.ensure(L"warning"));
-    deriveChip(context, Hue::Danger, chips.ensure(L"danger"));
+    deriveChip(context, Intent::Neutral, chips.ensure(L"default"));
+    deriveChip(context, Intent::Success, chips.ensure(L"success"));
+    deriveChip(context, Intent::Warning, chips.ensure(L"warning"));
+    deriveChip(context, Intent::Danger, chips.ensure(L"danger"));
 }
 
-void buildPopups(const DeriveContext& context, StyleSheet& sheet)
+void buildPopups(const Context& context, StyleSheet& sheet)
 {
     VariantTable<PopupStyle>& popups = sheet.table<PopupStyle>();
     const Color frame = context.theme.frame;
-    derivePopup(context, frame, Hue::Accent, popups.ensure(L"default"));
+    derivePopup(context, frame, Intent::Accent, popups.ensure(L"default"));
     // A failure is told, not shouted: the badge is red and the frame leans to red; what Enter presses looks
     // as everywhere.
-    derivePopup(context, mixed(frame, context.solid(Hue::Danger), 0.6F), Hue::Danger,
+    derivePopup(context, mixed(frame, context.solidColor(Intent::Danger), 0.6F), Intent::Danger,
                 popups.ensure(L"danger"));
 }
 
-void buildTooltips(const DeriveContext& context, StyleSheet& sheet)
+void buildTooltips(const Context& context, StyleSheet& sheet)
 {
     VariantTable<TooltipStyle>& tooltips = sheet.table<TooltipStyle>();
     deriveTooltip(context, tooltips.ensure(L"default"));

@@ -8,21 +8,22 @@
 namespace vela::derive {
 namespace {
 
-constexpr float kRimOfRatio = 0.04F; // above the rule, so that rounding never falls below it
+constexpr float kRoundingMargin = 0.04F; // above what is asked for, so that rounding never falls below it
 // What a material's light and texture take of the contrast, measured on painted surfaces. Marks lie on large
 // surfaces, whose glow lifts the dark ones; the glossiest faces are those in the accent's material.
-constexpr float kTextRoom = 1.38F;
-constexpr float kMarkRoom = 1.6F;
-constexpr float kSolidRoom = 1.6F;
+constexpr float kTextHeadroom = 1.38F;
+constexpr float kMarkHeadroom = 1.6F;
+constexpr float kSolidHeadroom = 1.6F;
 // What the light on carved surfaces takes where no material is applied.
-constexpr float kReliefRoom = 1.05F;
-constexpr float kInkRoom = 1.5F; // five fills, that far apart, between the first and the last legible one
+constexpr float kReliefHeadroom = 1.05F;
+constexpr float kSharedTextHeadroom =
+    1.5F; // five fills, that far apart, between the first and the last legible one
 constexpr float kStatesApart = 0.022F; // just visible side by side
 constexpr int kStateSteps = 24;        // of half that distance, tried to either side
 
 // The hue of a status, as a direction in Oklab's colour plane, and the lightness in which people know it.
 struct StatusHue {
-    Hue hue;
+    Intent intent;
     float a;
     float b;
     float chroma;
@@ -30,11 +31,11 @@ struct StatusHue {
     float lightest;
 };
 constexpr StatusHue kStatusHues[] = {
-    {Hue::Success, -0.85F, 0.53F, 0.14F, 0.50F, 0.70F},
-    {Hue::Warning, 0.22F, 0.98F, 0.15F, 0.70F, 0.80F},
-    {Hue::Danger, 0.91F, 0.42F, 0.18F, 0.52F, 0.64F},
+    {Intent::Success, -0.85F, 0.53F, 0.14F, 0.50F, 0.70F},
+    {Intent::Warning, 0.22F, 0.98F, 0.15F, 0.70F, 0.80F},
+    {Intent::Danger, 0.91F, 0.42F, 0.18F, 0.52F, 0.64F},
 };
-constexpr float kPull = 0.14F; // how far a status hue leans towards the theme's accent
+constexpr float kPull = 0.14F; // how far a status leans towards the theme's accent
 constexpr float kHuesApart = 0.09F;
 constexpr float kAside = 0.11F;
 
@@ -81,41 +82,43 @@ Color towards(Color from, Color to, float distance) noexcept
     return whole <= distance ? to : mixed(from, to, distance / whole);
 }
 
-DeriveContext::DeriveContext(const Theme& theme_)
+Context::Context(const Theme& theme_)
     : theme(theme_), mode(traitsOf(theme_.surfaceMode)),
-      materials(mode.materials && theme_.materials.enabled), textAim(withRoom(kTextContrast, kTextRoom)),
-      solidAim(withRoom(kTextContrast, kSolidRoom)), markAim(withRoom(kMarkContrast, kMarkRoom))
+      materials(mode.materials && theme_.materials.enabled),
+      textTarget(withHeadroom(kTextContrast, kTextHeadroom)),
+      solidTextTarget(withHeadroom(kTextContrast, kSolidHeadroom)),
+      markTarget(withHeadroom(kMarkContrast, kMarkHeadroom))
 {
     dark = strongestOn(theme.panel) == hexColor(0xFFFFFF);
-    resolveHues();
+    resolveSolidColors();
     resolveContainers();
-    resolveInks();
+    resolveTextColors();
     resolveControl();
 }
 
-float DeriveContext::withRoom(float ratio, float materialRoom) const noexcept
+float Context::withHeadroom(float ratio, float materialHeadroom) const noexcept
 {
-    const float plainRoom = mode.leastDepth > 0 ? kReliefRoom : 1;
-    return (ratio + kRimOfRatio) * (materials ? materialRoom : plainRoom);
+    const float plainHeadroom = mode.leastDepth > 0 ? kReliefHeadroom : 1;
+    return (ratio + kRoundingMargin) * (materials ? materialHeadroom : plainHeadroom);
 }
 
-void DeriveContext::resolveHues()
+void Context::resolveSolidColors()
 {
-    solids_[static_cast<int>(Hue::Neutral)] = theme.control;
-    solids_[static_cast<int>(Hue::Accent)] = theme.accent;
+    solidColors_[static_cast<int>(Intent::Neutral)] = theme.control;
+    solidColors_[static_cast<int>(Intent::Accent)] = theme.accent;
     for (const StatusHue& status : kStatusHues)
-        solids_[static_cast<int>(status.hue)] = statusColor(status, theme.accent, dark);
+        solidColors_[static_cast<int>(status.intent)] = statusColor(status, theme.accent, dark);
 }
 
-void DeriveContext::resolveContainers()
+void Context::resolveContainers()
 {
     const Color panel = containerFill(theme.panel);
-    const Color pole = strongestOn(shades(panel, Elevation::Container));
+    const Color pole = strongestOn(shadedTones(panel, Elevation::Container));
     dark = pole == hexColor(0xFFFFFF);
-    backdrop = {panel, shades(panel, Elevation::Container)};
+    backdrop = {panel, shadedTones(panel, Elevation::Container)};
     const auto near = [&](Color role, float distance) {
         const Color fill = containerFill(towards(panel, role, distance));
-        const Tones tones = shades(fill, Elevation::Container);
+        const Tones tones = shadedTones(fill, Elevation::Container);
         // One that would need text of the other kind is filled as the panel is: one text colour serves all.
         if (strongestOn(tones) != pole)
             return panel;
@@ -130,28 +133,28 @@ void DeriveContext::resolveContainers()
     headerFill = containerFill(theme.header);
 }
 
-void DeriveContext::resolveInks()
+void Context::resolveTextColors()
 {
-    text = inkUnder({theme.text, theme.textHot}, backdrop.tones);
-    strongText = inkUnder({theme.textHot, theme.text}, backdrop.tones);
+    text = sharedText({theme.text, theme.textHot}, backdrop.tones);
+    strongText = sharedText({theme.textHot, theme.text}, backdrop.tones);
     mutedText = readable({theme.mutedText}, backdrop.tones);
-    disabledText = faint(text, backdrop.tones);
+    disabledText = disabledTextOn(text, backdrop.tones);
     edge = mark(theme.border, backdrop.tones);
     hotEdge = mark(mixed(edge, strongText, 0.16F), backdrop.tones);
     quietEdge = mixed(backdrop.fill, edge, 0.45F);
     hairline = towards(backdrop.fill, theme.border, 0.16F);
-    inks_[static_cast<int>(Hue::Neutral)] = text;
-    for (const Hue hue : {Hue::Accent, Hue::Success, Hue::Warning, Hue::Danger})
-        inks_[static_cast<int>(hue)] = readable({solid(hue)}, backdrop.tones);
-    focus = pickReaching({theme.accent, theme.accentHot, text}, backdrop.tones, markAim);
+    textColors_[static_cast<int>(Intent::Neutral)] = text;
+    for (const Intent intent : {Intent::Accent, Intent::Success, Intent::Warning, Intent::Danger})
+        textColors_[static_cast<int>(intent)] = readable({solidColor(intent)}, backdrop.tones);
+    focus = pickReaching({theme.accent, theme.accentHot, text}, backdrop.tones, markTarget);
 }
 
-Color DeriveContext::containerFill(Color wanted) const noexcept
+Color Context::containerFill(Color wanted) const noexcept
 {
-    return readableFace(wanted, mode.traits(Elevation::Container).shading, textAim);
+    return readableFace(wanted, mode.traits(Elevation::Container).shading, textTarget);
 }
 
-void DeriveContext::resolveControl()
+void Context::resolveControl()
 {
     control.normal = stateFill(theme.control, Elevation::Raised, {});
     control.hot = stateFill(theme.controlHot, Elevation::Raised, {control.normal});
@@ -161,25 +164,28 @@ void DeriveContext::resolveControl()
                                {control.normal, control.hot, control.pressed});
 }
 
-Tones DeriveContext::shades(Color fill, Elevation elevation) const noexcept
+Tones Context::shadedTones(Color fill, Elevation elevation) const noexcept
 {
     const float shading = std::abs(mode.traits(elevation).shading);
     return shading > 0 ? Tones(lightened(fill, -shading), lightened(fill, shading)) : Tones(fill);
 }
 
-Color DeriveContext::stateFill(Color wanted, Elevation elevation,
-                               std::initializer_list<Color> others) const noexcept
+Color Context::stateFill(Color wanted, Elevation elevation,
+                         std::initializer_list<Color> others) const noexcept
 {
     const float shading = std::abs(mode.traits(elevation).shading);
-    const Color fill = readableFace(wanted, shading, textAim);
-    return nearestFitting(
-        fill, [&](Color color) { return isApart(color, others) && isReadableFace(color, shading, textAim); });
+    const Color fill = readableFace(wanted, shading, textTarget);
+    return nearestFitting(fill, [&](Color color) {
+        return isApart(color, others) && isReadableFace(color, shading, textTarget);
+    });
 }
 
-Color DeriveContext::fillUnder(Color ink, Color base, Color wanted, Elevation elevation,
-                               std::initializer_list<Color> others, float aim) const noexcept
+Color Context::fillBehind(Color foreground, Color base, Color wanted, Elevation elevation,
+                          std::initializer_list<Color> others, float target) const noexcept
 {
-    const auto legible = [&](Color color) { return contrastRatio(ink, shades(color, elevation)) >= aim; };
+    const auto legible = [&](Color color) {
+        return contrastRatio(foreground, shadedTones(color, elevation)) >= target;
+    };
     const auto fits = [&](Color color) { return isApart(color, others) && legible(color); };
     for (const float amount : {1.0F, 0.6F, 0.35F, 0.2F, 0.1F}) {
         const Color color = mixed(base, wanted, amount);
@@ -192,47 +198,44 @@ Color DeriveContext::fillUnder(Color ink, Color base, Color wanted, Elevation el
     return nearestFitting(base, fits);
 }
 
-Color DeriveContext::markFill(Color wanted, const Tones& on, Elevation elevation,
-                              std::initializer_list<Color> others) const noexcept
+Color Context::markFill(Color wanted, const Tones& on, Elevation elevation,
+                        std::initializer_list<Color> others) const noexcept
 {
-    return nearestFitting(reaching(wanted, on, markAim), [&](Color color) {
-        const Tones tones = shades(color, elevation);
+    return nearestFitting(reaching(wanted, on, markTarget), [&](Color color) {
+        const Tones tones = shadedTones(color, elevation);
         return isApart(color, others) &&
-               std::min(contrastRatio(tones.darkest, on), contrastRatio(tones.lightest, on)) >= markAim;
+               std::min(contrastRatio(tones.darkest, on), contrastRatio(tones.lightest, on)) >= markTarget;
     });
 }
 
-Color DeriveContext::inkUnder(std::initializer_list<Color> wanted, const Tones& on) const noexcept
+Color Context::sharedText(std::initializer_list<Color> wanted, const Tones& on) const noexcept
 {
-    return pickReaching(wanted, on, textAim * kInkRoom);
+    return pickReaching(wanted, on, textTarget * kSharedTextHeadroom);
 }
 
-Color DeriveContext::veil(const Backdrop& on, float amount) const noexcept
+Color Context::overlay(const Backdrop& on, float amount) const noexcept
 {
     return lightened(on.fill, strongestOn(on.tones) == hexColor(0xFFFFFF) ? amount : -amount);
 }
 
-Color DeriveContext::readable(std::initializer_list<Color> wanted, const Tones& on) const noexcept
+Color Context::readable(std::initializer_list<Color> wanted, const Tones& on) const noexcept
 {
-    return pickReaching(wanted, on, textAim);
+    return pickReaching(wanted, on, textTarget);
 }
 
-Color DeriveContext::inkOn(const Tones& on) const noexcept
+Color Context::strongestText(const Tones& on) const noexcept
 {
     const Color roles[] = {theme.text, theme.textHot, theme.shell, theme.panel, theme.control};
     const Color strongest =
         *std::ranges::max_element(roles, {}, [&on](Color role) { return contrastRatio(role, on); });
-    return reaching(strongest, on, solidAim * kInkRoom);
+    return reaching(strongest, on, solidTextTarget * kSharedTextHeadroom);
 }
 
-Color DeriveContext::mark(Color wanted, const Tones& on) const noexcept
-{
-    return reaching(wanted, on, markAim);
-}
+Color Context::mark(Color wanted, const Tones& on) const noexcept { return reaching(wanted, on, markTarget); }
 
-Color DeriveContext::faint(Color normal, const Tones& on) const noexcept
+Color Context::disabledTextOn(Color normal, const Tones& on) const noexcept
 {
-    const float wanted = withRoom(kDisabledTextContrast, kTextRoom);
+    const float wanted = withHeadroom(kDisabledTextContrast, kTextHeadroom);
     const float full = contrastRatio(normal, on);
     const float own = contrastRatio(theme.disabledText, on);
     if (own >= wanted && own <= full * 0.7F)

@@ -1,5 +1,19 @@
 // A theme made ready for derivation: its roles resolved to colours that can be read on what they lie on. One
 // is made per style sheet; builders only read it.
+//
+// It is a contrast solver. What is searched for is always the colour nearest to the one that the palette
+// offers which reaches a target ratio on its backdrop: that colour itself, else a lighter or darker one, in
+// the last resort black or white. Text and fill depend on each other, so the order is fixed. First come the
+// fills of containers, moved off the middle tones on which no text can be read; then text, edges and marks,
+// each for all containers together; then the fills of a control's states, each of which must also differ from
+// those before it. A part that has a text for each state finds its fills first (stateFill) and then a text
+// for each (readable, strongestText). A part with one text for all states finds the text first (sharedText,
+// with room to spare) and then the fills on which it can still be read (fillBehind).
+//
+// The targets lie above the ratios that are asked for (contrast.h), because what is painted is not the plain
+// fill: a material's light and texture, or the light on carved surfaces, take away some contrast. They differ
+// because what lies beneath does: text stands on small faces, marks lie on large surfaces whose glow lifts
+// the dark ones, and faces in a strong colour are made of the glossiest material.
 #pragma once
 
 #include "vela/theme/color/contrast.h"
@@ -15,8 +29,9 @@ struct Backdrop {
     Tones tones;
 };
 
-enum class Hue : std::uint8_t { Neutral, Accent, Success, Warning, Danger };
-inline constexpr int kHueCount = 5;
+// What a part tells by its colour.
+enum class Intent : std::uint8_t { Neutral, Accent, Success, Warning, Danger };
+inline constexpr int kIntentCount = 5;
 
 // The fills of the large level surfaces that controls lie on. They stay near each other, so that one border
 // colour stands out from all of them.
@@ -28,16 +43,16 @@ struct ContainerFills {
     Color dashboard = 0;
 };
 
-class DeriveContext {
+class Context {
 public:
-    explicit DeriveContext(const Theme& theme);
+    explicit Context(const Theme& theme);
 
     const Theme& theme;
     const ModeTraits& mode;
-    bool materials; // applied in this mode and switched on
-    float textAim;  // the ratios aimed at leave room for what a material adds
-    float solidAim; // of text on faces in a strong colour
-    float markAim;
+    bool materials;        // applied in this mode and switched on
+    float textTarget;      // the contrast ratios that are searched for
+    float solidTextTarget; // of text on faces in a strong colour
+    float markTarget;
     bool dark = false;
 
     ContainerFills containerFills;
@@ -56,11 +71,10 @@ public:
     Color hairline = 0;  // separators and the edges of panels
     Color focus = 0;     // focus rings
 
-    Color solid(Hue hue) const noexcept { return solids_[static_cast<int>(hue)]; } // fills and marks
-    Color inkOf(Hue hue) const noexcept
-    {
-        return inks_[static_cast<int>(hue)];
-    } // text and marks on the backdrop
+    // For fills and marks.
+    Color solidColor(Intent intent) const noexcept { return solidColors_[static_cast<int>(intent)]; }
+    // For text and marks on the backdrop.
+    Color textColor(Intent intent) const noexcept { return textColors_[static_cast<int>(intent)]; }
 
     // The fill of a large surface: readable under its shading.
     Color containerFill(Color wanted) const noexcept;
@@ -68,41 +82,43 @@ public:
     // fills of the other states.
     Color stateFill(Color wanted, Elevation elevation, std::initializer_list<Color> others) const noexcept;
     // The same for parts that keep one text colour in all states: as much of the way from the base to the
-    // wanted colour as the ink can still be read on.
-    Color fillUnder(Color ink, Color base, Color wanted, Elevation elevation,
-                    std::initializer_list<Color> others) const noexcept
+    // wanted colour as the foreground can still be read on.
+    Color fillBehind(Color foreground, Color base, Color wanted, Elevation elevation,
+                     std::initializer_list<Color> others) const noexcept
     {
-        return fillUnder(ink, base, wanted, elevation, others, textAim);
+        return fillBehind(foreground, base, wanted, elevation, others, textTarget);
     }
-    Color fillUnder(Color ink, Color base, Color wanted, Elevation elevation,
-                    std::initializer_list<Color> others, float aim) const noexcept;
+    Color fillBehind(Color foreground, Color base, Color wanted, Elevation elevation,
+                     std::initializer_list<Color> others, float target) const noexcept;
     // A mark whose every tone stands out from what it lies on: thumbs, rails, badges, progress.
     Color markFill(Color wanted, const Tones& on, Elevation elevation,
                    std::initializer_list<Color> others = {}) const noexcept;
-    // The ink for parts that keep one text colour in all states: it leaves room for their fills to differ.
-    Color inkUnder(std::initializer_list<Color> wanted, const Tones& on) const noexcept;
-    Tones shades(Color fill, Elevation elevation) const noexcept;
+    // The text of parts that keep one text colour in all states: it leaves room for their fills to differ.
+    Color sharedText(std::initializer_list<Color> wanted, const Tones& on) const noexcept;
+    // What the shading of an elevation makes of a fill.
+    Tones shadedTones(Color fill, Elevation elevation) const noexcept;
     // A part of the way from the backdrop to what is most unlike it: the fill of a highlighted row or a quiet
     // button.
-    Color veil(const Backdrop& on, float amount) const noexcept;
+    Color overlay(const Backdrop& on, float amount) const noexcept;
     // The first of the wanted colours that can be read on the backdrop, else the first one nudged.
     Color readable(std::initializer_list<Color> wanted, const Tones& on) const noexcept;
     // The palette's strongest colour on a coloured face.
-    Color inkOn(const Tones& on) const noexcept;
+    Color strongestText(const Tones& on) const noexcept;
+    // A border, an arrow or another mark.
     Color mark(Color wanted, const Tones& on) const noexcept;
     // Text of a disabled control: legible, and clearly fainter than the normal text.
-    Color faint(Color normal, const Tones& on) const noexcept;
+    Color disabledTextOn(Color normal, const Tones& on) const noexcept;
 
 private:
-    // The ratio to aim at where that one is the rule: above it by what a material or relief takes.
-    float withRoom(float ratio, float materialRoom) const noexcept;
-    void resolveHues();
+    // The ratio to search for where that one is asked for: above it by what a material or relief takes.
+    float withHeadroom(float ratio, float materialHeadroom) const noexcept;
+    void resolveSolidColors();
     void resolveContainers();
-    void resolveInks();
+    void resolveTextColors();
     void resolveControl();
 
-    Color solids_[kHueCount] = {};
-    Color inks_[kHueCount] = {};
+    Color solidColors_[kIntentCount] = {};
+    Color textColors_[kIntentCount] = {};
 };
 
 // At most that visual distance away from a colour, in the direction of another.

@@ -9,16 +9,16 @@ namespace {
 
 // Every day of the calendar is written in one of the day texts whatever its surface, so the surfaces stay
 // where all of those can be read.
-void deriveCalendar(const DeriveContext& context, DateInputStyle& style)
+void deriveCalendar(const Context& context, DateInputStyle& style)
 {
     const Color page = context.containerFills.raisedCard;
-    const Color ink = context.text;
-    const Backdrop backdrop = {page, context.shades(page, Elevation::Container)};
+    const Color text = context.text;
+    const Backdrop backdrop = {page, context.shadedTones(page, Elevation::Container)};
     const auto day = [&](Color wanted, std::initializer_list<Color> others) {
-        return context.fillUnder(ink, page, wanted, Elevation::Flat, others);
+        return context.fillBehind(text, page, wanted, Elevation::Flat, others);
     };
-    const Color hot = day(context.veil(backdrop, 0.055F), {page});
-    const Color pressed = day(context.veil(backdrop, 0.09F), {page, hot});
+    const Color hot = day(context.overlay(backdrop, 0.055F), {page});
+    const Color pressed = day(context.overlay(backdrop, 0.09F), {page, hot});
     const Color selected = day(mixed(page, context.theme.accent, 0.26F), {page, hot, pressed});
     const Color ring = context.mark(context.theme.accent, backdrop.tones);
     const ShapeKind cell = ShapeKind::RoundedRect;
@@ -34,20 +34,20 @@ void deriveCalendar(const DeriveContext& context, DateInputStyle& style)
 
     Tones cells = backdrop.tones;
     for (const Color fill : {hot, pressed, selected})
-        cells.include(context.shades(fill, Elevation::Flat));
+        cells.include(context.shadedTones(fill, Elevation::Flat));
     style.headerText = textOn(context, backdrop.tones, {context.strongText, context.text}, kLabel);
     style.weekdayText = textOn(context, backdrop.tones, {context.mutedText, context.text}, kSmall);
     style.dayText = textOn(context, cells, {context.text});
     style.weekendText = textOn(context, cells, {context.mutedText, context.text});
     style.saturdayText = style.weekendText;
-    style.sundayText = textOn(context, cells, {context.inkOf(Hue::Danger)});
-    const Color faint = context.faint(context.text, cells);
+    style.sundayText = textOn(context, cells, {context.textColor(Intent::Danger)});
+    const Color faint = context.disabledTextOn(context.text, cells);
     style.mutedDayText = textOf(context, faint, faint);
 }
 
 } // namespace
 
-void buildDateInput(const DeriveContext& context, StyleSheet& sheet)
+void buildDateInput(const Context& context, StyleSheet& sheet)
 {
     // Closed, it is a select box with another drop-down.
     const SelectBoxStyle& box = sheet.find<SelectBoxStyle>(kDefaultVariant);

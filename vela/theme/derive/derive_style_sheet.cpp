@@ -6,7 +6,7 @@ namespace vela {
 namespace derive {
 namespace {
 
-using Builder = void (*)(const DeriveContext&, StyleSheet&);
+using Builder = void (*)(const Context&, StyleSheet&);
 
 // In the order of ControlKind.
 constexpr Builder kBuilders[] = {
@@ -22,7 +22,7 @@ static_assert(std::size(kBuilders) == kControlKindCount);
 
 StyleSheet deriveStyleSheet(const Theme& theme)
 {
-    const derive::DeriveContext context(theme);
+    const derive::Context context(theme);
     StyleSheet sheet;
     for (const derive::Builder build : derive::kBuilders)
         build(context, sheet);

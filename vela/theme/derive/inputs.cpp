@@ -7,9 +7,9 @@
 namespace vela::derive {
 namespace {
 
-// The fills of a field. One text colour serves all its states, so they stay close enough to each other.
-struct FieldFills {
-    Color ink;
+// The fills of an input. One text colour serves all its states, so they stay close enough to each other.
+struct InputFills {
+    Color text;
     Color normal;
     Color hot;
     Color pressed;
@@ -17,34 +17,34 @@ struct FieldFills {
     Color disabled;
 };
 
-FieldFills fieldFills(const DeriveContext& context, Elevation elevation)
+InputFills inputFills(const Context& context, Elevation elevation)
 {
-    FieldFills fills = {};
+    InputFills fills = {};
     fills.normal = context.stateFill(context.theme.control, elevation, {});
-    const Color ink = context.inkUnder({context.theme.text, context.theme.textHot},
-                                       context.shades(fills.normal, elevation));
-    fills.ink = ink;
+    const Color text = context.sharedText({context.theme.text, context.theme.textHot},
+                                          context.shadedTones(fills.normal, elevation));
+    fills.text = text;
     const auto state = [&](Color wanted, std::initializer_list<Color> others) {
-        return context.fillUnder(ink, fills.normal, wanted, elevation, others);
+        return context.fillBehind(text, fills.normal, wanted, elevation, others);
     };
     fills.hot = state(mixed(fills.normal, context.control.hot, 0.4F), {fills.normal});
     fills.pressed = state(mixed(fills.normal, context.control.pressed, 0.5F), {fills.normal, fills.hot});
-    // The field in use is the calmest one: deeper in the dark, whiter in the light.
+    // The input in use is the calmest one: deeper in the dark, whiter in the light.
     fills.focused = state(lightened(fills.normal, context.dark ? -0.03F : 0.03F), {});
-    // The ink has to be read here too: what is locked is shown on it.
-    fills.disabled = context.fillUnder(ink, fills.normal, context.control.disabled, Elevation::Flat, {});
+    // The text has to be read here too: what is locked is shown on it.
+    fills.disabled = context.fillBehind(text, fills.normal, context.control.disabled, Elevation::Flat, {});
     return fills;
 }
 
-// A veil of the accent over a fill, as strong as the ink allows.
-SurfaceStyle selectionOn(const DeriveContext& context, Color ink, Color fill, ShapeKind shape)
+// An overlay of the accent over a fill, as strong as the text allows.
+SurfaceStyle selectionOn(const Context& context, Color text, Color fill, ShapeKind shape)
 {
-    const Color veil =
-        context.fillUnder(ink, fill, mixed(fill, context.theme.accent, 0.38F), Elevation::Flat, {fill});
-    return flatSurface(context, veil, shape);
+    const Color overlay =
+        context.fillBehind(text, fill, mixed(fill, context.theme.accent, 0.38F), Elevation::Flat, {fill});
+    return flatSurface(context, overlay, shape);
 }
 
-SurfaceStyle focusedField(const DeriveContext& context, Color fill, ShapeKind shape)
+SurfaceStyle focusedInput(const Context& context, Color fill, ShapeKind shape)
 {
     SurfaceStyle surface = sunkenSurface(context, fill, context.focus, shape);
     surface.showOutline = true;
@@ -52,46 +52,48 @@ SurfaceStyle focusedField(const DeriveContext& context, Color fill, ShapeKind sh
     return surface;
 }
 
-void addAttachments(const DeriveContext& context, Color ink, Color field, TextInputStyle& style)
+void addAttachments(const Context& context, Color text, Color input, TextInputStyle& style)
 {
     const Color chip =
-        context.fillUnder(ink, field, context.veil({field, field}, 0.07F), Elevation::Flat, {field});
+        context.fillBehind(text, input, context.overlay({input, input}, 0.07F), Elevation::Flat, {input});
     style.attachmentSurface =
         surfaceOf(context, {.fill = chip, .border = context.hairline}, style.attachmentShape);
     style.attachmentImageSurface = flatSurface(
         context,
-        context.markFill(context.theme.accent, context.shades(chip, Elevation::Flat), Elevation::Flat),
+        context.markFill(context.theme.accent, context.shadedTones(chip, Elevation::Flat), Elevation::Flat),
         style.attachmentImageShape);
     style.attachmentRemoveSurface = flatSurface(
-        context, context.fillUnder(ink, chip, context.veil({chip, chip}, 0.08F), Elevation::Flat, {chip}),
+        context,
+        context.fillBehind(text, chip, context.overlay({chip, chip}, 0.08F), Elevation::Flat, {chip}),
         style.attachmentRemoveShape);
-    Tones chips = context.shades(chip, Elevation::Flat);
+    Tones chips = context.shadedTones(chip, Elevation::Flat);
     chips.include(style.attachmentRemoveSurface.fill);
-    style.attachmentText = textOn(context, chips, {ink}, kSmall);
+    style.attachmentText = textOn(context, chips, {text}, kSmall);
     style.attachmentIconColor = context.mark(context.mutedText, chips);
 }
 
 } // namespace
 
-void buildTextInput(const DeriveContext& context, StyleSheet& sheet)
+void buildTextInput(const Context& context, StyleSheet& sheet)
 {
-    const FieldFills fills = fieldFills(context, Elevation::Sunken);
+    const InputFills fills = inputFills(context, Elevation::Sunken);
     TextInputStyle& style = sheet.table<TextInputStyle>().defaultRecord();
     style.shape = context.mode.controlShape;
     style.surface = sunkenSurface(context, fills.normal, context.edge, style.shape);
     style.hotSurface = sunkenSurface(context, fills.hot, context.hotEdge, style.shape);
     style.pressedSurface = sunkenSurface(context, fills.pressed, context.edge, style.shape);
-    style.focusedSurface = focusedField(context, fills.focused, style.shape);
+    style.focusedSurface = focusedInput(context, fills.focused, style.shape);
     style.disabledSurface =
         surfaceOf(context, {.fill = fills.disabled, .border = context.quietEdge}, style.shape);
 
-    Tones faces = context.shades(fills.normal, Elevation::Sunken);
+    Tones faces = context.shadedTones(fills.normal, Elevation::Sunken);
     for (const Color fill : {fills.hot, fills.pressed, fills.focused})
-        faces.include(context.shades(fill, Elevation::Sunken));
-    style.text = textOn(context, faces, {fills.ink});
-    style.text.disabledColor = context.faint(context.text, context.shades(fills.disabled, Elevation::Flat));
-    Tones quietFaces = faces; // and that of a locked field, whose text is no louder than a placeholder
-    quietFaces.include(context.shades(fills.disabled, Elevation::Flat));
+        faces.include(context.shadedTones(fill, Elevation::Sunken));
+    style.text = textOn(context, faces, {fills.text});
+    style.text.disabledColor =
+        context.disabledTextOn(context.text, context.shadedTones(fills.disabled, Elevation::Flat));
+    Tones quietFaces = faces; // and that of a locked input, whose text is no louder than a placeholder
+    quietFaces.include(context.shadedTones(fills.disabled, Elevation::Flat));
     style.placeholderText = textOn(context, quietFaces, {context.theme.mutedText});
     style.placeholderText.disabledColor = style.text.disabledColor;
     style.selection = selectionOn(context, style.text.color, fills.focused, ShapeKind::Rect);
@@ -99,7 +101,7 @@ void buildTextInput(const DeriveContext& context, StyleSheet& sheet)
     addAttachments(context, style.text.color, fills.normal, style);
 }
 
-void buildSelectableText(const DeriveContext& context, StyleSheet& sheet)
+void buildSelectableText(const Context& context, StyleSheet& sheet)
 {
     SelectableTextStyle& style = sheet.table<SelectableTextStyle>().defaultRecord();
     style.surface = bareSurface(context, style.shape);
@@ -108,9 +110,9 @@ void buildSelectableText(const DeriveContext& context, StyleSheet& sheet)
     style.selectedText = textOn(context, backdropOf(style.selection, context.backdrop).tones, {context.text});
 }
 
-void buildCheckBox(const DeriveContext& context, StyleSheet& sheet)
+void buildCheckBox(const Context& context, StyleSheet& sheet)
 {
-    const FieldFills fills = fieldFills(context, Elevation::Sunken);
+    const InputFills fills = inputFills(context, Elevation::Sunken);
     CheckBoxStyle& style = sheet.table<CheckBoxStyle>().defaultRecord();
     style.shape = ShapeKind::RoundedRect;
     style.boxSize = 20;
@@ -138,18 +140,19 @@ void buildCheckBox(const DeriveContext& context, StyleSheet& sheet)
     Tones boxes = backdropOf(style.boxChecked, context.backdrop).tones;
     boxes.include(backdropOf(style.boxCheckedHot, context.backdrop).tones);
     boxes.include(backdropOf(style.boxCheckedPressed, context.backdrop).tones);
-    style.checkColor = context.inkOn(boxes);
+    style.checkColor = context.strongestText(boxes);
     const Color disabled =
         context.markFill(context.quietEdge, style.checkColor, Elevation::Flat, {checked, hot, pressed});
     style.boxCheckedDisabled =
         surfaceOf(context, {.fill = disabled, .border = disabled, .bordered = false}, style.shape);
 }
 
-void buildSelectBox(const DeriveContext& context, StyleSheet& sheet)
+void buildSelectBox(const Context& context, StyleSheet& sheet)
 {
-    const FieldFills fills = fieldFills(context, Elevation::Raised);
+    const InputFills fills = inputFills(context, Elevation::Raised);
     const auto face = [&](Color fill, Color border, Elevation elevation) {
-        return Face{.fill = fill, .border = border, .elevation = elevation, .substance = Substance::Control};
+        return Face{
+            .fill = fill, .border = border, .elevation = elevation, .material = MaterialRole::Control};
     };
     SelectBoxStyle& style = sheet.table<SelectBoxStyle>().defaultRecord();
     style.shape = context.mode.controlShape;
@@ -162,12 +165,13 @@ void buildSelectBox(const DeriveContext& context, StyleSheet& sheet)
     style.disabledSurface =
         surfaceOf(context, face(fills.disabled, context.quietEdge, Elevation::Flat), style.shape);
 
-    Tones faces = context.shades(fills.normal, Elevation::Raised);
+    Tones faces = context.shadedTones(fills.normal, Elevation::Raised);
     for (const Color fill : {fills.hot, fills.pressed})
-        faces.include(context.shades(fill, Elevation::Raised));
-    style.text = textOn(context, faces, {fills.ink});
-    style.text.disabledColor = context.faint(context.text, context.shades(fills.disabled, Elevation::Flat));
-    const Color ink = style.text.color;
+        faces.include(context.shadedTones(fill, Elevation::Raised));
+    style.text = textOn(context, faces, {fills.text});
+    style.text.disabledColor =
+        context.disabledTextOn(context.text, context.shadedTones(fills.disabled, Elevation::Flat));
+    const Color text = style.text.color;
 
     style.arrowSurface = bareSurface(context, style.arrowShape);
     style.arrowHotSurface = bareSurface(context, style.arrowShape);
@@ -176,15 +180,15 @@ void buildSelectBox(const DeriveContext& context, StyleSheet& sheet)
     style.arrowColor = context.mark(context.theme.mutedText, faces);
 
     const Color list =
-        context.fillUnder(ink, fills.normal, context.containerFills.raisedCard, Elevation::Container, {});
+        context.fillBehind(text, fills.normal, context.containerFills.raisedCard, Elevation::Container, {});
     style.dropdownSurface =
         containerSurface(context, list, mixed(list, context.edge, 0.6F), style.dropdownShape);
     const Color hot =
-        context.fillUnder(ink, list, context.veil({list, list}, 0.06F), Elevation::Flat, {list});
+        context.fillBehind(text, list, context.overlay({list, list}, 0.06F), Elevation::Flat, {list});
     style.optionHotSurface = flatSurface(context, hot, ShapeKind::RoundedRect);
     style.optionSelectedSurface = flatSurface(
         context,
-        context.fillUnder(ink, list, mixed(list, context.theme.accent, 0.2F), Elevation::Flat, {list, hot}),
+        context.fillBehind(text, list, mixed(list, context.theme.accent, 0.2F), Elevation::Flat, {list, hot}),
         ShapeKind::RoundedRect);
     deriveScrollBar(context, backdropOf(style.dropdownSurface, context.backdrop), style.scrollBar);
     style.itemHeight = 32;

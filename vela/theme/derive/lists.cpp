@@ -10,7 +10,7 @@ namespace {
 
 // What lists and tables show of a row: one text colour is read on all of them.
 struct RowFills {
-    Color ink;
+    Color text;
     Color list;
     Color hot;
     Color pressed;
@@ -18,45 +18,45 @@ struct RowFills {
     Color selectedHot;
 };
 
-RowFills rowFills(const DeriveContext& context, Color list)
+RowFills rowFills(const Context& context, Color list)
 {
-    const Color ink = context.inkUnder({context.theme.text, context.theme.textHot},
-                                       context.shades(list, Elevation::Container));
+    const Color text = context.sharedText({context.theme.text, context.theme.textHot},
+                                          context.shadedTones(list, Elevation::Container));
     const Backdrop backdrop = {list, list};
     const auto row = [&](Color wanted, std::initializer_list<Color> others) {
-        return context.fillUnder(ink, list, wanted, Elevation::Flat, others);
+        return context.fillBehind(text, list, wanted, Elevation::Flat, others);
     };
     RowFills fills = {};
-    fills.ink = ink;
+    fills.text = text;
     fills.list = list;
-    fills.hot = row(context.veil(backdrop, 0.055F), {list});
-    fills.pressed = row(context.veil(backdrop, 0.09F), {list, fills.hot});
+    fills.hot = row(context.overlay(backdrop, 0.055F), {list});
+    fills.pressed = row(context.overlay(backdrop, 0.09F), {list, fills.hot});
     fills.selected = row(mixed(list, context.theme.accent, 0.18F), {list, fills.hot, fills.pressed});
     fills.selectedHot =
         row(mixed(list, context.theme.accent, 0.26F), {list, fills.hot, fills.pressed, fills.selected});
     return fills;
 }
 
-Tones tonesOf(const DeriveContext& context, const RowFills& fills)
+Tones tonesOf(const Context& context, const RowFills& fills)
 {
-    Tones tones = context.shades(fills.list, Elevation::Container);
+    Tones tones = context.shadedTones(fills.list, Elevation::Container);
     for (const Color fill : {fills.hot, fills.pressed, fills.selected, fills.selectedHot})
-        tones.include(context.shades(fill, Elevation::Flat));
+        tones.include(context.shadedTones(fill, Elevation::Flat));
     return tones;
 }
 
-Color listFill(const DeriveContext& context) { return context.containerFill(context.theme.control); }
+Color listFill(const Context& context) { return context.containerFill(context.theme.control); }
 
-SurfaceStyle railOn(const DeriveContext& context, const RowFills& fills, ShapeKind shape)
+SurfaceStyle railOn(const Context& context, const RowFills& fills, ShapeKind shape)
 {
-    Tones rows = context.shades(fills.selected, Elevation::Flat);
-    rows.include(context.shades(fills.selectedHot, Elevation::Flat));
+    Tones rows = context.shadedTones(fills.selected, Elevation::Flat);
+    rows.include(context.shadedTones(fills.selectedHot, Elevation::Flat));
     return flatSurface(context, context.markFill(context.theme.accent, rows, Elevation::Flat), shape);
 }
 
 } // namespace
 
-void buildListBox(const DeriveContext& context, StyleSheet& sheet)
+void buildListBox(const Context& context, StyleSheet& sheet)
 {
     const RowFills fills = rowFills(context, listFill(context));
     const Tones tones = tonesOf(context, fills);
@@ -72,15 +72,16 @@ void buildListBox(const DeriveContext& context, StyleSheet& sheet)
     style.selectedRow = flatSurface(context, fills.selected, style.selectedRowShape);
     style.selectedRowHot = flatSurface(context, fills.selectedHot, style.selectedRowShape);
     style.selectedRail = railOn(context, fills, style.selectedRailShape);
-    style.text = textOn(context, tones, {fills.ink});
-    style.selectedText = textOn(context, tones, {context.theme.textHot, fills.ink});
+    style.text = textOn(context, tones, {fills.text});
+    style.selectedText = textOn(context, tones, {context.theme.textHot, fills.text});
     style.disabledText = textOf(context, style.text.disabledColor, style.text.disabledColor);
     style.separator = towards(fills.list, context.theme.border, 0.10F);
-    deriveScrollBar(context, {fills.list, context.shades(fills.list, Elevation::Container)}, style.scrollBar);
+    deriveScrollBar(context, {fills.list, context.shadedTones(fills.list, Elevation::Container)},
+                    style.scrollBar);
     style.rowHeight = 32;
 }
 
-void buildTableList(const DeriveContext& context, StyleSheet& sheet)
+void buildTableList(const Context& context, StyleSheet& sheet)
 {
     const RowFills fills = rowFills(context, listFill(context));
     const Tones tones = tonesOf(context, fills);
@@ -88,28 +89,28 @@ void buildTableList(const DeriveContext& context, StyleSheet& sheet)
     style.shape = context.mode.panelShape;
     style.surface =
         containerSurface(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
-    style.rowText = textOn(context, tones, {fills.ink});
-    style.selectedText = textOn(context, tones, {context.theme.textHot, fills.ink});
-    const Color ink = style.rowText.color;
-    const Color strip = context.fillUnder(ink, fills.list, towards(fills.list, context.headerFill, 0.05F),
-                                          Elevation::Container, {fills.list});
+    style.rowText = textOn(context, tones, {fills.text});
+    style.selectedText = textOn(context, tones, {context.theme.textHot, fills.text});
+    const Color text = style.rowText.color;
+    const Color strip = context.fillBehind(text, fills.list, towards(fills.list, context.headerFill, 0.05F),
+                                           Elevation::Container, {fills.list});
     style.header = containerSurface(context, strip, context.hairline, style.headerShape);
     style.header.showOutline = false;
-    const Tones head = context.shades(strip, Elevation::Container);
-    style.headerText = textOn(context, head, {context.theme.mutedText, ink}, kLabel);
+    const Tones head = context.shadedTones(strip, Elevation::Container);
+    style.headerText = textOn(context, head, {context.theme.mutedText, text}, kLabel);
     style.row = bareSurface(context, style.rowShape);
     style.selectedRow = flatSurface(context, fills.selected, style.selectedRowShape);
     style.selectedRail = railOn(context, fills, style.selectedRailShape);
 
-    const auto severity = [&](Hue hue, float amount, std::initializer_list<Color> others) {
-        return context.fillUnder(ink, fills.list, mixed(fills.list, context.solid(hue), amount),
-                                 Elevation::Flat, others);
+    const auto severity = [&](Intent intent, float amount, std::initializer_list<Color> others) {
+        return context.fillBehind(text, fills.list, mixed(fills.list, context.solidColor(intent), amount),
+                                  Elevation::Flat, others);
     };
-    style.highSeverityFill = severity(Hue::Danger, 0.30F, {fills.list});
-    style.mediumSeverityFill = severity(Hue::Warning, 0.22F, {fills.list, style.highSeverityFill});
+    style.highSeverityFill = severity(Intent::Danger, 0.30F, {fills.list});
+    style.mediumSeverityFill = severity(Intent::Warning, 0.22F, {fills.list, style.highSeverityFill});
     style.lowSeverityFill =
-        severity(Hue::Success, 0.18F, {fills.list, style.highSeverityFill, style.mediumSeverityFill});
-    style.highSeverityText = textOn(context, style.highSeverityFill, {ink}, kLabel);
+        severity(Intent::Success, 0.18F, {fills.list, style.highSeverityFill, style.mediumSeverityFill});
+    style.highSeverityText = textOn(context, style.highSeverityFill, {text}, kLabel);
 
     style.separator = towards(fills.list, context.theme.border, 0.10F);
     style.resizeGrip = towards(strip, context.edge, 0.20F);

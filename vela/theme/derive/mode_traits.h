@@ -15,7 +15,7 @@ enum class Elevation : std::uint8_t {
     Flat,      // lies on a container without standing out: rows, chips, disabled faces
     Raised,    // buttons, thumbs, badges
     Pressed,   // what was raised, pushed in
-    Sunken,    // fields and tracks
+    Sunken,    // inputs and tracks
 };
 inline constexpr int kElevationCount = 5;
 

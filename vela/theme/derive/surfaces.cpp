@@ -12,18 +12,18 @@ namespace {
 constexpr int kHalfTurn = 180;
 constexpr int kFullTurn = 360;
 
-MaterialPreset presetFor(const MaterialProfile& profile, Substance substance)
+MaterialPreset presetFor(const MaterialProfile& profile, MaterialRole role)
 {
-    switch (substance) {
-    case Substance::Surface: return profile.surface;
-    case Substance::Control: return profile.control;
-    case Substance::Accent: return profile.accent;
-    case Substance::None: break;
+    switch (role) {
+    case MaterialRole::Surface: return profile.surface;
+    case MaterialRole::Control: return profile.control;
+    case MaterialRole::Accent: return profile.accent;
+    case MaterialRole::None: break;
     }
     return MaterialPreset::None;
 }
 
-void wearMaterial(SurfaceStyle& surface, const DeriveContext& context, const Face& face)
+void applyMaterial(SurfaceStyle& surface, const Context& context, const Face& face)
 {
     const MaterialProfile& profile = context.theme.materials;
     const MaterialShading& shading = profile;
@@ -31,9 +31,9 @@ void wearMaterial(SurfaceStyle& surface, const DeriveContext& context, const Fac
     static_cast<MaterialShading&>(surface) = shading;
     static_cast<SurfaceMapping&>(surface) = mapping;
     if (context.materials && face.drawn)
-        surface.material = presetFor(profile, face.substance);
+        surface.material = presetFor(profile, face.material);
     surface.materialEnabled = surface.material != MaterialPreset::None && profile.materialStrength > 0;
-    if (face.substance == Substance::Accent)
+    if (face.material == MaterialRole::Accent)
         surface.materialTint = mixed(profile.materialTint, lightened(face.fill, 0.12F), 0.7F);
     surface.materialDepth = std::max(surface.materialDepth, context.mode.leastDepth);
     dimLight(surface, face.drawn ? context.mode.traits(face.elevation).light : 0);
@@ -42,7 +42,7 @@ void wearMaterial(SurfaceStyle& surface, const DeriveContext& context, const Fac
         surface.materialLightAngle = (surface.materialLightAngle % kFullTurn + kHalfTurn) % kFullTurn;
 }
 
-void shade(SurfaceStyle& surface, const DeriveContext& context, const Face& face)
+void shade(SurfaceStyle& surface, const Context& context, const Face& face)
 {
     const ElevationTraits& traits = context.mode.traits(face.elevation);
     surface.useGradient = face.drawn && traits.shading != 0;
@@ -65,10 +65,10 @@ void shade(SurfaceStyle& surface, const DeriveContext& context, const Face& face
 
 } // namespace
 
-SurfaceStyle surfaceOf(const DeriveContext& context, const Face& face, ShapeKind shape)
+SurfaceStyle surfaceOf(const Context& context, const Face& face, ShapeKind shape)
 {
     SurfaceStyle surface;
-    wearMaterial(surface, context, face);
+    applyMaterial(surface, context, face);
     shade(surface, context, face);
     surface.shape = shape;
     surface.fill = face.fill;
@@ -87,50 +87,52 @@ SurfaceStyle surfaceOf(const DeriveContext& context, const Face& face, ShapeKind
     return surface;
 }
 
-SurfaceStyle bareSurface(const DeriveContext& context, ShapeKind shape)
+SurfaceStyle bareSurface(const Context& context, ShapeKind shape)
 {
     return surfaceOf(context, {.fill = context.backdrop.fill, .border = context.hairline, .drawn = false},
                      shape);
 }
 
-SurfaceStyle flatSurface(const DeriveContext& context, Color fill, ShapeKind shape)
+SurfaceStyle flatSurface(const Context& context, Color fill, ShapeKind shape)
 {
     return surfaceOf(context, {.fill = fill, .border = fill, .bordered = false}, shape);
 }
 
-SurfaceStyle sunkenSurface(const DeriveContext& context, Color fill, Color border, ShapeKind shape)
+SurfaceStyle sunkenSurface(const Context& context, Color fill, Color border, ShapeKind shape)
 {
     return surfaceOf(context, {.fill = fill, .border = border, .elevation = Elevation::Sunken}, shape);
 }
 
-SurfaceStyle containerSurface(const DeriveContext& context, Color fill, Color border, ShapeKind shape)
+SurfaceStyle containerSurface(const Context& context, Color fill, Color border, ShapeKind shape)
 {
-    return surfaceOf(
-        context,
-        {.fill = fill, .border = border, .elevation = Elevation::Container, .substance = Substance::Surface},
-        shape);
+    return surfaceOf(context,
+                     {.fill = fill,
+                      .border = border,
+                      .elevation = Elevation::Container,
+                      .material = MaterialRole::Surface},
+                     shape);
 }
 
-Color solidFill(const DeriveContext& context, Color wanted, Elevation elevation)
+Color solidFill(const Context& context, Color wanted, Elevation elevation)
 {
-    return readableFace(wanted, std::abs(context.mode.traits(elevation).shading), context.solidAim);
+    return readableFace(wanted, std::abs(context.mode.traits(elevation).shading), context.solidTextTarget);
 }
 
-Face solidFace(const DeriveContext& context, Color fill, const Backdrop& backdrop, Elevation elevation)
+Face solidFace(const Context& context, Color fill, const Backdrop& backdrop, Elevation elevation)
 {
-    const Tones tones = context.shades(fill, elevation);
+    const Tones tones = context.shadedTones(fill, elevation);
     const float standsOut =
         std::min(contrastRatio(tones.darkest, backdrop.tones), contrastRatio(tones.lightest, backdrop.tones));
     const Color rim = lightened(fill, strongestOn(tones) == hexColor(0xFFFFFF) ? -0.06F : 0.06F);
     return {.fill = fill,
-            .border = standsOut >= context.markAim ? rim : context.mark(fill, backdrop.tones),
+            .border = standsOut >= context.markTarget ? rim : context.mark(fill, backdrop.tones),
             .elevation = elevation,
-            .substance = Substance::Accent};
+            .material = MaterialRole::Accent};
 }
 
-SurfaceStyle badgeSurface(const DeriveContext& context, Hue hue, const Backdrop& backdrop, ShapeKind shape)
+SurfaceStyle badgeSurface(const Context& context, Intent intent, const Backdrop& backdrop, ShapeKind shape)
 {
-    const Color fill = solidFill(context, context.solid(hue), Elevation::Raised);
+    const Color fill = solidFill(context, context.solidColor(intent), Elevation::Raised);
     return surfaceOf(context, solidFace(context, fill, backdrop, Elevation::Raised), shape);
 }
 

@@ -14,23 +14,23 @@ constexpr std::int32_t kLargestPoints = 1000;
 
 } // namespace
 
-FontSpec textOf(const DeriveContext& context, Color color, Color disabledColor, Type type)
+FontSpec textOf(const Context& context, Color color, Color disabledColor, TypeStep step)
 {
     FontSpec font = context.theme.uiFont;
-    font.pointSize = std::max(std::clamp(font.pointSize, 1, kLargestPoints) + type.points, 1);
-    font.weight = std::clamp(font.weight + type.weight, 100, std::max(font.weight, 700));
+    font.pointSize = std::max(std::clamp(font.pointSize, 1, kLargestPoints) + step.points, 1);
+    font.weight = std::clamp(font.weight + step.weight, 100, std::max(font.weight, 700));
     font.color = color;
     font.disabledColor = disabledColor;
     return font;
 }
 
-FontSpec textOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted, Type type)
+FontSpec textOn(const Context& context, const Tones& on, std::initializer_list<Color> wanted, TypeStep step)
 {
     const Color color = context.readable(wanted, on);
-    return textOf(context, color, context.faint(color, on), type);
+    return textOf(context, color, context.disabledTextOn(color, on), step);
 }
 
-FontSpec readingTextOn(const DeriveContext& context, const Tones& on, std::initializer_list<Color> wanted)
+FontSpec readingTextOn(const Context& context, const Tones& on, std::initializer_list<Color> wanted)
 {
     constexpr std::int32_t kRegular = 400;
     FontSpec font = textOn(context, on, wanted);
@@ -38,7 +38,7 @@ FontSpec readingTextOn(const DeriveContext& context, const Tones& on, std::initi
     return font;
 }
 
-void buildTexts(const DeriveContext& context, StyleSheet& sheet)
+void buildTexts(const Context& context, StyleSheet& sheet)
 {
     VariantTable<TextStyle>& texts = sheet.table<TextStyle>();
     const Tones& backdrop = context.backdrop.tones;
@@ -49,10 +49,10 @@ void buildTexts(const DeriveContext& context, StyleSheet& sheet)
     mono = context.theme.monoFont;
     mono.color = context.text;
     mono.disabledColor = context.disabledText;
-    texts.ensure(L"danger") = textOn(context, backdrop, {context.inkOf(Hue::Danger)});
+    texts.ensure(L"danger") = textOn(context, backdrop, {context.textColor(Intent::Danger)});
 }
 
-void buildRichText(const DeriveContext& context, StyleSheet& sheet)
+void buildRichText(const Context& context, StyleSheet& sheet)
 {
     RichTextStyle& style = sheet.table<RichTextStyle>().defaultRecord();
     style.shape = context.mode.panelShape;
@@ -61,7 +61,7 @@ void buildRichText(const DeriveContext& context, StyleSheet& sheet)
     style.text = textOn(context, backdrop.tones, {context.text});
     style.linkText = textOn(context, backdrop.tones, {context.theme.accent});
     style.linkText.underline = true;
-    style.icon = badgeSurface(context, Hue::Accent, backdrop, style.iconShape);
+    style.icon = badgeSurface(context, Intent::Accent, backdrop, style.iconShape);
     style.paddingX = 16;
     style.paddingY = 12;
 }
