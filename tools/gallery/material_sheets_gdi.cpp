@@ -58,7 +58,7 @@ SurfaceStyle bodyOf(Color fill, ShapeKind shape)
     SurfaceStyle style;
     style.shape = shape;
     style.fill = fill;
-    style.border = vela::mixed(fill, hexColor(0x000000), 0.4F);
+    style.border = vela::mixOklab(fill, hexColor(0x000000), 0.4F);
     return style;
 }
 
@@ -69,7 +69,7 @@ SurfaceStyle presetStyle(const Preset& preset, MaterialPreset kind, MaterialFini
     style.finish = finish;
     style.materialEnabled = true;
     style.materialTint = preset.tint;
-    style.backlightColor = vela::mixed(preset.tint, hexColor(0xFFFFFF), 0.4F);
+    style.backlightColor = vela::mixOklab(preset.tint, hexColor(0xFFFFFF), 0.4F);
     style.backlightOpacity = style.innerGlow = 120;
     style.materialStrength = 255;
     style.highlightOpacity = 180;

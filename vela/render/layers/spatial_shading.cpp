@@ -76,7 +76,7 @@ private:
     float middleY_;
 };
 
-Color mixed(Color from, Color to, float amount) noexcept
+Color mixSrgb(Color from, Color to, float amount) noexcept
 {
     const auto channel = [amount](std::uint8_t a, std::uint8_t b) {
         return static_cast<std::uint8_t>(static_cast<float>(a) + static_cast<float>(b - a) * amount);
@@ -91,8 +91,8 @@ using Shades = std::array<Pixel, 2 * kFlat + 1>;
 
 Shades shadesOf(const SurfaceStyle& style) noexcept
 {
-    const Color light = mixed(hexColor(0xFFFFFF), style.materialTint, 0.28F);
-    const Color shade = mixed(hexColor(0x000000), style.materialTint, 0.06F);
+    const Color light = mixSrgb(hexColor(0xFFFFFF), style.materialTint, 0.28F);
+    const Color shade = mixSrgb(hexColor(0x000000), style.materialTint, 0.06F);
     const float opacity = static_cast<float>(style.opacity) / 255;
     const float lightStrength = opacity * static_cast<float>(style.highlightOpacity) / 255 * 2.2F;
     const float shadeStrength = opacity * (0.7F + 0.3F * static_cast<float>(style.ambientOcclusion) / 255);

@@ -96,7 +96,7 @@ Color colorOf(const Oklab& lab) noexcept
                channelOf(-0.0041960863F * l3 - 0.7034186147F * m3 + 1.7076147010F * s3));
 }
 
-Color mixed(Color from, Color to, float amount) noexcept
+Color mixOklab(Color from, Color to, float amount) noexcept
 {
     const Oklab start = oklabOf(from);
     const Oklab end = oklabOf(to);

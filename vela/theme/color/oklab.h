@@ -17,7 +17,7 @@ Oklab oklabOf(Color color) noexcept;
 Color colorOf(const Oklab& lab) noexcept;
 
 // 0 gives from, 1 gives to.
-Color mixed(Color from, Color to, float amount) noexcept;
+Color mixOklab(Color from, Color to, float amount) noexcept;
 // Lighter by a part of the whole range from black to white, or darker when negative.
 Color lightened(Color color, float amount) noexcept;
 // How far two colours look apart: about 0.02 is just visible side by side, black to white is 1.

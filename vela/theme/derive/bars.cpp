@@ -93,19 +93,19 @@ void deriveScrollBar(const Context& context, const Backdrop& backdrop, ScrollBar
         style.trackShape);
     const Backdrop track = backdropOf(style.track, backdrop);
 
-    const Color rest = context.mark(mixed(context.edge, context.theme.mutedText, 0.3F), track.tones);
+    const Color rest = context.mark(mixOklab(context.edge, context.theme.mutedText, 0.3F), track.tones);
     const Color pole = strongestOn(track.tones);
     const auto fill = [&](Color wanted, Elevation elevation, std::initializer_list<Color> others) {
         return context.markFill(wanted, track.tones, elevation, others);
     };
     const Color normal = fill(rest, Elevation::Raised, {});
-    const Color hot = fill(mixed(rest, pole, 0.25F), Elevation::Raised, {normal});
+    const Color hot = fill(mixOklab(rest, pole, 0.25F), Elevation::Raised, {normal});
     const Color pressed = fill(context.theme.accent, Elevation::Pressed, {normal, hot});
     const Color active = fill(context.theme.accentHot, Elevation::Raised, {normal, hot, pressed});
     style.thumb = {.normal = thumbOf(context, normal, Elevation::Raised, style.thumbShape),
                    .hot = thumbOf(context, hot, Elevation::Raised, style.thumbShape),
                    .pressed = thumbOf(context, pressed, Elevation::Pressed, style.thumbShape),
-                   .disabled = flatSurface(context, mixed(track.fill, rest, 0.35F), style.thumbShape),
+                   .disabled = flatSurface(context, mixOklab(track.fill, rest, 0.35F), style.thumbShape),
                    .active = thumbOf(context, active, Elevation::Raised, style.thumbShape)};
     style.arrow = context.readable({context.theme.mutedText, context.text}, backdrop.tones);
     style.decrementButton = arrowButtons(context, style.arrow, backdrop, style.buttonShape);
@@ -139,7 +139,7 @@ void buildTitleBar(const Context& context, StyleSheet& sheet)
     style.closeHotColor = context.strongestText(context.shadedTones(closing, Elevation::Flat));
     style.closePressedColor = style.closeHotColor;
     const Color closingNow = context.fillBehind(
-        style.closeHotColor, closing, mixed(closing, backdrop.fill, 0.2F), Elevation::Flat, {closing});
+        style.closeHotColor, closing, mixOklab(closing, backdrop.fill, 0.2F), Elevation::Flat, {closing});
     style.closeHotSurface = flatSurface(context, closing, style.titleButton.shape);
     style.closePressedSurface = flatSurface(context, closingNow, style.titleButton.shape);
     style.buttonWidth = flush ? 46 : 34;
@@ -164,12 +164,12 @@ void buildMenuBar(const Context& context, StyleSheet& sheet)
     };
     const Color hot = item(0.055F, {bar});
     const Color pressed = item(0.09F, {bar, hot});
-    const Color active = context.fillBehind(text, bar, mixed(bar, context.theme.accent, 0.18F),
+    const Color active = context.fillBehind(text, bar, mixOklab(bar, context.theme.accent, 0.18F),
                                             Elevation::Flat, {bar, hot, pressed});
     MenuBarStyle& style = sheet.table<MenuBarStyle>().defaultRecord();
     style.surface = containerSurface(context, bar, context.hairline, style.shape);
     style.surface.showOutline = false;
-    style.popupSurface = containerSurface(context, bar, mixed(bar, context.edge, 0.6F), style.popupShape);
+    style.popupSurface = containerSurface(context, bar, mixOklab(bar, context.edge, 0.6F), style.popupShape);
     style.popupSurface.useNoise = false;
     style.itemSurface = bareSurface(context, style.itemShape);
     style.itemHotSurface = flatSurface(context, hot, style.itemShape);

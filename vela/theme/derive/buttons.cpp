@@ -30,7 +30,7 @@ Faces outlineFaces(const Context& context, const Backdrop& backdrop)
 {
     Faces faces = standardFaces(context, backdrop);
     const auto faded = [&](Color fill, Elevation elevation, std::initializer_list<Color> others) {
-        return context.stateFill(mixed(fill, backdrop.fill, 0.55F), elevation, others);
+        return context.stateFill(mixOklab(fill, backdrop.fill, 0.55F), elevation, others);
     };
     faces.normal.fill = faded(faces.normal.fill, Elevation::Raised, {});
     faces.hot.fill = faded(faces.hot.fill, Elevation::Raised, {faces.normal.fill});
@@ -57,7 +57,7 @@ Faces quietFaces(const Context& context, const Backdrop& backdrop)
                    .disabled = bare,
                    .active = overlay(0.075F)};
     faces.pressed.fill = context.stateFill(faces.pressed.fill, Elevation::Flat, {faces.hot.fill});
-    faces.active.fill = context.stateFill(mixed(faces.active.fill, context.theme.accent, 0.18F),
+    faces.active.fill = context.stateFill(mixOklab(faces.active.fill, context.theme.accent, 0.18F),
                                           Elevation::Flat, {faces.hot.fill, faces.pressed.fill});
     return faces;
 }
@@ -67,7 +67,7 @@ Faces softFaces(const Context& context, Intent intent, const Backdrop& backdrop)
     const Color solid = context.solidColor(intent);
     const Color border = context.mark(solid, backdrop.tones);
     const auto tinted = [&](float amount, Elevation elevation, std::initializer_list<Color> others) {
-        Face face = controlFace(context.stateFill(mixed(backdrop.fill, solid, amount), elevation, others),
+        Face face = controlFace(context.stateFill(mixOklab(backdrop.fill, solid, amount), elevation, others),
                                 border, elevation);
         return face;
     };
@@ -95,8 +95,8 @@ Faces solidFaces(const Context& context, Intent intent, const Backdrop& backdrop
     };
     faces.normal = solidFace(context, normal, backdrop, Elevation::Raised);
     faces.hot = face(hot, Elevation::Raised, {normal});
-    faces.pressed = face(mixed(solid, backdrop.fill, 0.2F), Elevation::Pressed, {normal, faces.hot.fill});
-    faces.active = face(mixed(solid, context.strongText, 0.15F), Elevation::Pressed,
+    faces.pressed = face(mixOklab(solid, backdrop.fill, 0.2F), Elevation::Pressed, {normal, faces.hot.fill});
+    faces.active = face(mixOklab(solid, context.strongText, 0.15F), Elevation::Pressed,
                         {normal, faces.hot.fill, faces.pressed.fill});
     return faces;
 }

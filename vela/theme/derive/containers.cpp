@@ -48,11 +48,11 @@ void deriveChip(const Context& context, Intent intent, StatusChipStyle& style)
     const bool plain = intent == Intent::Neutral;
     const Color lead = context.solidColor(plain ? Intent::Accent : intent);
     const Color tint =
-        plain ? context.overlay(context.backdrop, 0.05F) : mixed(context.backdrop.fill, lead, 0.14F);
+        plain ? context.overlay(context.backdrop, 0.05F) : mixOklab(context.backdrop.fill, lead, 0.14F);
     style.shape = ShapeKind::Pill;
     style.badgeShape = ShapeKind::Pill;
     const Color fill = context.stateFill(tint, Elevation::Flat, {});
-    style.surface = surfaceOf(context, {.fill = fill, .border = mixed(fill, lead, 0.4F)}, style.shape);
+    style.surface = surfaceOf(context, {.fill = fill, .border = mixOklab(fill, lead, 0.4F)}, style.shape);
     const Backdrop backdrop = backdropOf(style.surface, context.backdrop);
     style.text = textOn(context, backdrop.tones, {plain ? context.text : context.textColor(intent)}, kSmall);
     style.badge =
@@ -97,7 +97,7 @@ void deriveTooltip(const Context& context, TooltipStyle& style)
     style.shape = ShapeKind::RoundedRect;
     style.iconShape = ShapeKind::Pill;
     style.railShape = ShapeKind::Pill;
-    style.surface = containerSurface(context, fill, mixed(fill, context.edge, 0.6F), style.shape);
+    style.surface = containerSurface(context, fill, mixOklab(fill, context.edge, 0.6F), style.shape);
     style.surface.useNoise = false;
     style.surface.shadowOpacity = context.mode.traits(Elevation::Raised).shadow;
     style.showShadow = style.surface.shadowOpacity > 0;
@@ -123,7 +123,7 @@ void buildPanels(const Context& context, StyleSheet& sheet)
     };
     panel(L"default", context.containerFills.panel, context.hairline);
     SurfaceStyle& glass =
-        panel(L"glass", context.containerFills.glass, mixed(context.hairline, context.edge, 0.4F)).surface;
+        panel(L"glass", context.containerFills.glass, mixOklab(context.hairline, context.edge, 0.4F)).surface;
     glass.opacity = glass.useGradient ? kGlassOpacity : glass.opacity;
 }
 
@@ -151,7 +151,7 @@ void buildPopups(const Context& context, StyleSheet& sheet)
     derivePopup(context, frame, Intent::Accent, popups.ensure(L"default"));
     // A failure is told, not shouted: the badge is red and the frame leans to red; what Enter presses looks
     // as everywhere.
-    derivePopup(context, mixed(frame, context.solidColor(Intent::Danger), 0.6F), Intent::Danger,
+    derivePopup(context, mixOklab(frame, context.solidColor(Intent::Danger), 0.6F), Intent::Danger,
                 popups.ensure(L"danger"));
 }
 

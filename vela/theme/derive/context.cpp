@@ -79,7 +79,7 @@ Color nearestFitting(Color color, const Fits& fits)
 Color towards(Color from, Color to, float distance) noexcept
 {
     const float whole = visualDistance(from, to);
-    return whole <= distance ? to : mixed(from, to, distance / whole);
+    return whole <= distance ? to : mixOklab(from, to, distance / whole);
 }
 
 Context::Context(const Theme& theme_)
@@ -140,8 +140,8 @@ void Context::resolveTextColors()
     mutedText = readable({theme.mutedText}, backdrop.tones);
     disabledText = disabledTextOn(text, backdrop.tones);
     edge = mark(theme.border, backdrop.tones);
-    hotEdge = mark(mixed(edge, strongText, 0.16F), backdrop.tones);
-    quietEdge = mixed(backdrop.fill, edge, 0.45F);
+    hotEdge = mark(mixOklab(edge, strongText, 0.16F), backdrop.tones);
+    quietEdge = mixOklab(backdrop.fill, edge, 0.45F);
     hairline = towards(backdrop.fill, theme.border, 0.16F);
     textColors_[static_cast<int>(Intent::Neutral)] = text;
     for (const Intent intent : {Intent::Accent, Intent::Success, Intent::Warning, Intent::Danger})
@@ -160,7 +160,7 @@ void Context::resolveControl()
     control.hot = stateFill(theme.controlHot, Elevation::Raised, {control.normal});
     control.pressed = stateFill(theme.controlPressed, Elevation::Pressed, {control.normal, control.hot});
     control.disabled = stateFill(towards(theme.disabledFill, backdrop.fill, 0.02F), Elevation::Flat, {});
-    control.active = stateFill(mixed(control.normal, theme.accent, 0.22F), Elevation::Pressed,
+    control.active = stateFill(mixOklab(control.normal, theme.accent, 0.22F), Elevation::Pressed,
                                {control.normal, control.hot, control.pressed});
 }
 
@@ -188,7 +188,7 @@ Color Context::fillBehind(Color foreground, Color base, Color wanted, Elevation 
     };
     const auto fits = [&](Color color) { return isApart(color, others) && legible(color); };
     for (const float amount : {1.0F, 0.6F, 0.35F, 0.2F, 0.1F}) {
-        const Color color = mixed(base, wanted, amount);
+        const Color color = mixOklab(base, wanted, amount);
         if (!legible(color))
             continue;
         const Color distinct = nearestFitting(color, fits);
@@ -242,7 +242,7 @@ Color Context::disabledTextOn(Color normal, const Tones& on) const noexcept
         return theme.disabledText;
     // Between the surface and its text: the palette's own disabled text would be unreadable or too strong
     // there.
-    return reaching(mixed(on.darkest, normal, 0.35F), on, wanted);
+    return reaching(mixOklab(on.darkest, normal, 0.35F), on, wanted);
 }
 
 } // namespace vela::derive

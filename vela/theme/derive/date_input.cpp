@@ -19,10 +19,11 @@ void deriveCalendar(const Context& context, DateInputStyle& style)
     };
     const Color hot = day(context.overlay(backdrop, 0.055F), {page});
     const Color pressed = day(context.overlay(backdrop, 0.09F), {page, hot});
-    const Color selected = day(mixed(page, context.theme.accent, 0.26F), {page, hot, pressed});
+    const Color selected = day(mixOklab(page, context.theme.accent, 0.26F), {page, hot, pressed});
     const Color ring = context.mark(context.theme.accent, backdrop.tones);
     const ShapeKind cell = ShapeKind::RoundedRect;
-    style.popupSurface = containerSurface(context, page, mixed(page, context.edge, 0.6F), style.popupShape);
+    style.popupSurface =
+        containerSurface(context, page, mixOklab(page, context.edge, 0.6F), style.popupShape);
     style.popupSurface.useNoise = false;
     style.headerSurface = bareSurface(context, ShapeKind::Rect);
     style.dayHotSurface = flatSurface(context, hot, cell);

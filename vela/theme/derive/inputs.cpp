@@ -27,8 +27,8 @@ InputFills inputFills(const Context& context, Elevation elevation)
     const auto state = [&](Color wanted, std::initializer_list<Color> others) {
         return context.fillBehind(text, fills.normal, wanted, elevation, others);
     };
-    fills.hot = state(mixed(fills.normal, context.control.hot, 0.4F), {fills.normal});
-    fills.pressed = state(mixed(fills.normal, context.control.pressed, 0.5F), {fills.normal, fills.hot});
+    fills.hot = state(mixOklab(fills.normal, context.control.hot, 0.4F), {fills.normal});
+    fills.pressed = state(mixOklab(fills.normal, context.control.pressed, 0.5F), {fills.normal, fills.hot});
     // The input in use is the calmest one: deeper in the dark, whiter in the light.
     fills.focused = state(lightened(fills.normal, context.dark ? -0.03F : 0.03F), {});
     // The text has to be read here too: what is locked is shown on it.
@@ -40,7 +40,7 @@ InputFills inputFills(const Context& context, Elevation elevation)
 SurfaceStyle selectionOn(const Context& context, Color text, Color fill, ShapeKind shape)
 {
     const Color overlay =
-        context.fillBehind(text, fill, mixed(fill, context.theme.accent, 0.38F), Elevation::Flat, {fill});
+        context.fillBehind(text, fill, mixOklab(fill, context.theme.accent, 0.38F), Elevation::Flat, {fill});
     return flatSurface(context, overlay, shape);
 }
 
@@ -182,14 +182,15 @@ void buildSelectBox(const Context& context, StyleSheet& sheet)
     const Color list =
         context.fillBehind(text, fills.normal, context.containerFills.raisedCard, Elevation::Container, {});
     style.dropdownSurface =
-        containerSurface(context, list, mixed(list, context.edge, 0.6F), style.dropdownShape);
+        containerSurface(context, list, mixOklab(list, context.edge, 0.6F), style.dropdownShape);
     const Color hot =
         context.fillBehind(text, list, context.overlay({list, list}, 0.06F), Elevation::Flat, {list});
     style.optionHotSurface = flatSurface(context, hot, ShapeKind::RoundedRect);
-    style.optionSelectedSurface = flatSurface(
-        context,
-        context.fillBehind(text, list, mixed(list, context.theme.accent, 0.2F), Elevation::Flat, {list, hot}),
-        ShapeKind::RoundedRect);
+    style.optionSelectedSurface =
+        flatSurface(context,
+                    context.fillBehind(text, list, mixOklab(list, context.theme.accent, 0.2F),
+                                       Elevation::Flat, {list, hot}),
+                    ShapeKind::RoundedRect);
     deriveScrollBar(context, backdropOf(style.dropdownSurface, context.backdrop), style.scrollBar);
     style.itemHeight = 32;
 }

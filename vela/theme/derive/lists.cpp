@@ -31,9 +31,9 @@ RowFills rowFills(const Context& context, Color list)
     fills.list = list;
     fills.hot = row(context.overlay(backdrop, 0.055F), {list});
     fills.pressed = row(context.overlay(backdrop, 0.09F), {list, fills.hot});
-    fills.selected = row(mixed(list, context.theme.accent, 0.18F), {list, fills.hot, fills.pressed});
+    fills.selected = row(mixOklab(list, context.theme.accent, 0.18F), {list, fills.hot, fills.pressed});
     fills.selectedHot =
-        row(mixed(list, context.theme.accent, 0.26F), {list, fills.hot, fills.pressed, fills.selected});
+        row(mixOklab(list, context.theme.accent, 0.26F), {list, fills.hot, fills.pressed, fills.selected});
     return fills;
 }
 
@@ -65,7 +65,7 @@ void buildListBox(const Context& context, StyleSheet& sheet)
     style.rowShape = context.mode.slimTracks ? ShapeKind::RoundedRect : ShapeKind::Rect;
     style.selectedRowShape = style.rowShape;
     style.surface =
-        containerSurface(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
+        containerSurface(context, fills.list, mixOklab(context.hairline, context.edge, 0.4F), style.shape);
     style.row = bareSurface(context, style.rowShape);
     style.rowHot = flatSurface(context, fills.hot, style.rowShape);
     style.rowPressed = flatSurface(context, fills.pressed, style.rowShape);
@@ -88,7 +88,7 @@ void buildTableList(const Context& context, StyleSheet& sheet)
     TableListStyle& style = sheet.table<TableListStyle>().defaultRecord();
     style.shape = context.mode.panelShape;
     style.surface =
-        containerSurface(context, fills.list, mixed(context.hairline, context.edge, 0.4F), style.shape);
+        containerSurface(context, fills.list, mixOklab(context.hairline, context.edge, 0.4F), style.shape);
     style.rowText = textOn(context, tones, {fills.text});
     style.selectedText = textOn(context, tones, {context.theme.textHot, fills.text});
     const Color text = style.rowText.color;
@@ -103,7 +103,7 @@ void buildTableList(const Context& context, StyleSheet& sheet)
     style.selectedRail = railOn(context, fills, style.selectedRailShape);
 
     const auto severity = [&](Intent intent, float amount, std::initializer_list<Color> others) {
-        return context.fillBehind(text, fills.list, mixed(fills.list, context.solidColor(intent), amount),
+        return context.fillBehind(text, fills.list, mixOklab(fills.list, context.solidColor(intent), amount),
                                   Elevation::Flat, others);
     };
     style.highSeverityFill = severity(Intent::Danger, 0.30F, {fills.list});

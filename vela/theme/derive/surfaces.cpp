@@ -34,7 +34,7 @@ void applyMaterial(SurfaceStyle& surface, const Context& context, const Face& fa
         surface.material = presetFor(profile, face.material);
     surface.materialEnabled = surface.material != MaterialPreset::None && profile.materialStrength > 0;
     if (face.material == MaterialRole::Accent)
-        surface.materialTint = mixed(profile.materialTint, lightened(face.fill, 0.12F), 0.7F);
+        surface.materialTint = mixOklab(profile.materialTint, lightened(face.fill, 0.12F), 0.7F);
     surface.materialDepth = std::max(surface.materialDepth, context.mode.leastDepth);
     dimLight(surface, face.drawn ? context.mode.traits(face.elevation).light : 0);
     // What is pushed in takes the light from the other side.
@@ -57,7 +57,7 @@ void shade(SurfaceStyle& surface, const Context& context, const Face& face)
 
     surface.showInnerShadow = face.drawn && traits.innerShadow > 0;
     surface.innerShadow = static_cast<std::uint8_t>(surface.innerShadow * traits.innerShadow / 100);
-    surface.innerShadowColor = mixed(face.fill, hexColor(0x000000), 0.85F);
+    surface.innerShadowColor = mixOklab(face.fill, hexColor(0x000000), 0.85F);
 
     surface.useNoise = face.drawn && face.elevation == Elevation::Container && context.mode.noiseOpacity > 0;
     surface.noiseOpacity = context.mode.noiseOpacity;
