@@ -18,7 +18,7 @@ struct Sample {
     Rect area; // in it, whole spots
     friend bool operator==(const Sample&, const Sample&) = default;
 };
-constexpr Sample kGround{{324, 204}, {12, 12, 300, 180}};
+constexpr Sample kContainer{{324, 204}, {12, 12, 300, 180}};
 constexpr Sample kFace{{132, 40}, {12, 8, 108, 24}};
 
 using Pixels = std::vector<Pixel>;
@@ -43,14 +43,14 @@ void layOver(Pixels& picture, Pixels& layer)
 
 // As the painter stacks the layers. Borders and outlines lie outside the text's area, and so do the corners
 // of whatever shape the surface has.
-Pixels rendered(SurfaceStyle style, Size size, Color ground)
+Pixels rendered(SurfaceStyle style, Size size, Color backdrop)
 {
     style.shape = ShapeKind::Rect;
     style.showGlow = style.showShadow = false;
     const Rect rect{0, 0, size.width, size.height};
     const Coverage coverage(style.shape, size);
     Pixels picture(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height),
-                   premultiplied(ground, 255));
+                   premultiplied(backdrop, 255));
     Pixels layer(picture.size());
     const LayerTarget target{viewOf(layer, size), {0, 0}};
     for (const PaintStep& step : paintPlan(style, rect, std::nullopt)) {
@@ -81,9 +81,9 @@ Color spotAt(const PixelView& picture, std::int32_t left, std::int32_t top)
     return rgb(mean(sums[2]), mean(sums[1]), mean(sums[0]));
 }
 
-Tones tonesIn(const PixelView& picture, const Rect& area)
+ToneRange tonesIn(const PixelView& picture, const Rect& area)
 {
-    Tones tones = spotAt(picture, area.x, area.y);
+    ToneRange tones = spotAt(picture, area.x, area.y);
     for (std::int32_t y = area.y; y < area.y + area.height; y += kSpot) {
         for (std::int32_t x = area.x; x < area.x + area.width; x += kSpot)
             tones.include(spotAt(picture, x, y));
@@ -94,38 +94,38 @@ Tones tonesIn(const PixelView& picture, const Rect& area)
 struct Key {
     SurfaceStyle style;
     Sample sample;
-    Color ground;
+    Color backdrop;
     friend bool operator==(const Key&, const Key&) = default;
 };
 
 // Parts of a skin's controls are often styled alike.
-Tones tonesOn(const SurfaceStyle& style, const Sample& sample, Color ground)
+ToneRange tonesOn(const SurfaceStyle& style, const Sample& sample, Color backdrop)
 {
-    static BoundedCache<Key, Tones> known(64);
-    return known.ensure(Key{style, sample, ground}, [&] {
-        Pixels picture = rendered(style, sample.size, ground);
+    static BoundedCache<Key, ToneRange> known(64);
+    return known.ensure(Key{style, sample, backdrop}, [&] {
+        Pixels picture = rendered(style, sample.size, backdrop);
         return tonesIn(viewOf(picture, sample.size), sample.area);
     });
 }
 
-Tones tonesOn(const SurfaceStyle& style, const Sample& sample, const Tones& under)
+ToneRange tonesOn(const SurfaceStyle& style, const Sample& sample, const ToneRange& backdrop)
 {
-    Tones tones = tonesOn(style, sample, under.darkest);
-    if (under.lightest != under.darkest)
-        tones.include(tonesOn(style, sample, under.lightest));
+    ToneRange tones = tonesOn(style, sample, backdrop.darkest);
+    if (backdrop.lightest != backdrop.darkest)
+        tones.include(tonesOn(style, sample, backdrop.lightest));
     return tones;
 }
 
 } // namespace
 
-Tones renderedGroundTones(const SurfaceStyle& surface, const Tones& under)
+ToneRange renderedContainerTones(const SurfaceStyle& surface, const ToneRange& backdrop)
 {
-    return tonesOn(surface, kGround, under);
+    return tonesOn(surface, kContainer, backdrop);
 }
 
-Tones renderedFaceTones(const SurfaceStyle& surface, const Tones& under)
+ToneRange renderedFaceTones(const SurfaceStyle& surface, const ToneRange& backdrop)
 {
-    return tonesOn(surface, kFace, under);
+    return tonesOn(surface, kFace, backdrop);
 }
 
 } // namespace vela::testing

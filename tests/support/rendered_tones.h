@@ -7,7 +7,9 @@
 
 namespace vela::testing {
 
-Tones renderedGroundTones(const SurfaceStyle& surface, const Tones& under); // a dialog's, nearly to its edges
-Tones renderedFaceTones(const SurfaceStyle& surface, const Tones& under);   // a button's, where its text is
+// Of a dialog, nearly to its edges.
+ToneRange renderedContainerTones(const SurfaceStyle& surface, const ToneRange& backdrop);
+// Of a button, where its text is.
+ToneRange renderedFaceTones(const SurfaceStyle& surface, const ToneRange& backdrop);
 
 } // namespace vela::testing

@@ -31,7 +31,7 @@ TEST(Contrast, MatchesPublishedRatios)
 
 TEST(Contrast, TakesTheWorstPlaceOfARangeOfTones)
 {
-    const Tones tones(hexColor(0x404040), hexColor(0xC0C0C0));
+    const ToneRange tones(hexColor(0x404040), hexColor(0xC0C0C0));
     EXPECT_FLOAT_EQ(contrastRatio(kWhite, tones), contrastRatio(kWhite, hexColor(0xC0C0C0)));
     EXPECT_FLOAT_EQ(contrastRatio(kBlack, tones), contrastRatio(kBlack, hexColor(0x404040)));
     EXPECT_FLOAT_EQ(contrastRatio(hexColor(0x808080), tones), 1.0F);
@@ -39,7 +39,7 @@ TEST(Contrast, TakesTheWorstPlaceOfARangeOfTones)
 
 TEST(Contrast, LeavesAColourThatReachesTheRatioAndNudgesOthersJustFarEnough)
 {
-    const Tones paper(kWhite);
+    const ToneRange paper(kWhite);
     EXPECT_EQ(reaching(hexColor(0x1B1B1B), paper, kTextContrast), hexColor(0x1B1B1B));
     const Color pale = hexColor(0x8FC7E8);
     const Color nudged = reaching(pale, paper, kTextContrast);
@@ -104,26 +104,26 @@ TEST(SurfaceTones, SeesGradientsTheirDarkMiddlesAndWhatShinesThrough)
 {
     SurfaceStyle style;
     style.fill = hexColor(0x808080);
-    const Tones under(kBlack, hexColor(0x101010));
-    EXPECT_EQ(facesOf(style, under).lightest, hexColor(0x808080));
+    const ToneRange under(kBlack, hexColor(0x101010));
+    EXPECT_EQ(surfaceTones(style, under).lightest, hexColor(0x808080));
 
     style.drawFill = false;
-    EXPECT_EQ(facesOf(style, under).lightest, hexColor(0x101010));
+    EXPECT_EQ(surfaceTones(style, under).lightest, hexColor(0x101010));
 
     style.useGradient = true;
     style.gradientStart = hexColor(0xFF0000);
     style.gradientEnd = hexColor(0x0000FF);
-    EXPECT_LT(relativeLuminance(facesOf(style, under).darkest), relativeLuminance(style.gradientEnd));
+    EXPECT_LT(relativeLuminance(surfaceTones(style, under).darkest), relativeLuminance(style.gradientEnd));
 
     style.gradientStart = kWhite;
     style.gradientEnd = kWhite;
     style.opacity = 128;
-    EXPECT_EQ(facesOf(style, under).darkest, hexColor(0x808080));
-    EXPECT_EQ(facesOf(style, under).lightest, hexColor(0x888888));
+    EXPECT_EQ(surfaceTones(style, under).darkest, hexColor(0x808080));
+    EXPECT_EQ(surfaceTones(style, under).lightest, hexColor(0x888888));
 
     style.useGradientMid = true;
     style.gradientMid = kBlack;
-    EXPECT_EQ(facesOf(style, under).darkest, kBlack);
+    EXPECT_EQ(surfaceTones(style, under).darkest, kBlack);
 }
 
 } // namespace

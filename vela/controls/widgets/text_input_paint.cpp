@@ -25,7 +25,7 @@ Rect centredIn(const Rect& row, std::int32_t x, std::int32_t width, std::int32_t
 Color selectedTextColor(const TextInputStyle& style)
 {
     const Color ground = style.focusedSurface.fill;
-    return pickReaching({style.text.color, ground}, facesOf(style.selection, ground), kTextContrast);
+    return pickReaching({style.text.color, ground}, surfaceTones(style.selection, ground), kTextContrast);
 }
 
 } // namespace

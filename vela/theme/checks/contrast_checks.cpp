@@ -9,11 +9,11 @@ namespace vela {
 namespace {
 
 // Everything that dialogs and pages put controls on.
-Tones groundsOf(const StyleSheet& sheet, FaceTones::Finder faces)
+ToneRange groundsOf(const StyleSheet& sheet, FaceTones::Finder faces)
 {
     const SurfaceStyle& panel = sheet.find<PanelStyle>(kDefaultVariant).surface;
-    Tones grounds = faces(panel, panel.fill);
-    const Tones lowest = grounds;
+    ToneRange grounds = faces(panel, panel.fill);
+    const ToneRange lowest = grounds;
     for (const auto& variant : sheet.table<PanelStyle>())
         grounds.include(faces(variant.record.surface, lowest));
     for (const auto& variant : sheet.table<CardStyle>())
@@ -50,10 +50,10 @@ private:
     }
 
     template <class Record>
-    void judgeRules(const Record& record, const Tones& under)
+    void judgeRules(const Record& record, const ToneRange& under)
     {
         for (const Rule<Record>& rule : contrastRules<Record>()) {
-            const Tones bed = rule.bed ? faces_(record.*rule.bed, under) : under;
+            const ToneRange bed = rule.bed ? faces_(record.*rule.bed, under) : under;
             const bool edge = rule.need == Need::Edge;
             if (!rule.faces[0])
                 add(std::string(rule.part), rule.need, contrastRatio(rule.ink.in(record, rule.need), bed));
@@ -73,18 +73,18 @@ private:
     }
 
     void judgeText(const TextStyle& text);
-    void judgeButton(const ButtonStyle& style, const std::string& prefix, const Tones& bed);
-    void judgeScrollBar(const ScrollBarStyle& style, const std::string& prefix, const Tones& bed);
-    void judgeFocus(const SurfaceStyle& surface, const std::string& prefix, const Tones& bed)
+    void judgeButton(const ButtonStyle& style, const std::string& prefix, const ToneRange& bed);
+    void judgeScrollBar(const ScrollBarStyle& style, const std::string& prefix, const ToneRange& bed);
+    void judgeFocus(const SurfaceStyle& surface, const std::string& prefix, const ToneRange& bed)
     {
         add(prefix + "focus ring", Need::Mark, contrastRatio(surface.glow, bed));
     }
 
-    float standingOut(const SurfaceStyle& surface, const Tones& bed) const;
+    float standingOut(const SurfaceStyle& surface, const ToneRange& bed) const;
 
     const StyleSheet& sheet_;
     FaceTones::Finder faces_;
-    Tones grounds_;
+    ToneRange grounds_;
     ControlKind kind_ = ControlKind::Text;
     std::wstring variant_;
     std::vector<ContrastCheck> checks_;
@@ -94,9 +94,9 @@ constexpr std::string_view kStateNames[kVisualStateCount] = {"normal ", "hot ", 
                                                              "active "};
 
 // How far a surface stands out from its bed, by its border, its fill or its outline.
-float Judge::standingOut(const SurfaceStyle& surface, const Tones& bed) const
+float Judge::standingOut(const SurfaceStyle& surface, const ToneRange& bed) const
 {
-    const Tones fill = faces_(surface, bed);
+    const ToneRange fill = faces_(surface, bed);
     float best = std::min(contrastRatio(fill.darkest, bed), contrastRatio(fill.lightest, bed));
     if (surface.drawBorder)
         best = std::max(best, contrastRatio(surface.border, bed));
@@ -111,14 +111,14 @@ void Judge::judgeText(const TextStyle& text)
     add("disabled text", Need::DisabledText, contrastRatio(text.disabledColor, grounds_));
 }
 
-void Judge::judgeButton(const ButtonStyle& style, const std::string& prefix, const Tones& bed)
+void Judge::judgeButton(const ButtonStyle& style, const std::string& prefix, const ToneRange& bed)
 {
     for (int index = 0; index < kVisualStateCount; ++index) {
         const auto state = static_cast<VisualState>(index);
         const std::string part = prefix + std::string(kStateNames[index]);
         const SurfaceStyle& surface = style.surface[state];
         const FontSpec& text = style.text[state];
-        const Tones face = faces_(surface, bed);
+        const ToneRange face = faces_(surface, bed);
         if (state == VisualState::Disabled) {
             add(part + "caption", Need::DisabledText, contrastRatio(text.disabledColor, face));
             continue;
@@ -131,9 +131,9 @@ void Judge::judgeButton(const ButtonStyle& style, const std::string& prefix, con
     }
 }
 
-void Judge::judgeScrollBar(const ScrollBarStyle& style, const std::string& prefix, const Tones& bed)
+void Judge::judgeScrollBar(const ScrollBarStyle& style, const std::string& prefix, const ToneRange& bed)
 {
-    const Tones track = faces_(style.track, bed);
+    const ToneRange track = faces_(style.track, bed);
     for (const VisualState state :
          {VisualState::Normal, VisualState::Hot, VisualState::Pressed, VisualState::Active}) {
         const std::string part = prefix + std::string(kStateNames[static_cast<int>(state)]);
@@ -196,11 +196,11 @@ std::vector<ContrastCheck> Judge::judged()
     judgeKind<SelectableTextStyle>(ControlKind::SelectableText);
     forEachVariant<PopupStyle>(ControlKind::Popup, [&](const PopupStyle& style) {
         judgeRules<PopupStyle>(style, grounds_);
-        const Tones bed = faces_(style.surface, grounds_);
-        const Tones header = faces_(style.header, bed);
+        const ToneRange bed = faces_(style.surface, grounds_);
+        const ToneRange header = faces_(style.header, bed);
         add("badge", Need::Edge, standingOut(style.icon, header));
         judgeButton(style.closeButton, "close button ", header);
-        const Tones footer = facesOf(style.footer, bed);
+        const ToneRange footer = surfaceTones(style.footer, bed);
         judgeButton(style.primaryAction, "primary action ", footer);
         judgeButton(style.secondaryAction, "secondary action ", footer);
     });

@@ -11,10 +11,10 @@ namespace vela {
 
 // How the tones are found that a surface shows when it lies on others.
 struct FaceTones {
-    using Finder = Tones (*)(const SurfaceStyle& surface, const Tones& under);
+    using Finder = ToneRange (*)(const SurfaceStyle& surface, const ToneRange& under);
 
-    Finder ofGround = facesOf; // of what controls lie on
-    Finder ofFace = facesOf;   // of controls and their parts
+    Finder ofGround = surfaceTones; // of what controls lie on
+    Finder ofFace = surfaceTones;   // of controls and their parts
 };
 
 // One pair, judged. Reached is the ratio at the worst place.

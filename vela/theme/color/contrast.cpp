@@ -52,7 +52,7 @@ float contrastRatio(Color one, Color other) noexcept
     return ratioOf(relativeLuminance(one), relativeLuminance(other));
 }
 
-void Tones::include(const Tones& other) noexcept
+void ToneRange::include(const ToneRange& other) noexcept
 {
     if (relativeLuminance(other.darkest) < relativeLuminance(darkest))
         darkest = other.darkest;
@@ -60,30 +60,30 @@ void Tones::include(const Tones& other) noexcept
         lightest = other.lightest;
 }
 
-float contrastRatio(Color color, const Tones& ground) noexcept
+float contrastRatio(Color color, const ToneRange& backdrop) noexcept
 {
     const float own = relativeLuminance(color);
-    const float dark = relativeLuminance(ground.darkest);
-    const float light = relativeLuminance(ground.lightest);
+    const float dark = relativeLuminance(backdrop.darkest);
+    const float light = relativeLuminance(backdrop.lightest);
     if (own >= dark && own <= light)
         return 1;
     return own < dark ? ratioOf(own, dark) : ratioOf(own, light);
 }
 
-Color strongestOn(const Tones& ground) noexcept
+Color strongestOn(const ToneRange& backdrop) noexcept
 {
-    return contrastRatio(kWhite, ground) >= contrastRatio(kBlack, ground) ? kWhite : kBlack;
+    return contrastRatio(kWhite, backdrop) >= contrastRatio(kBlack, backdrop) ? kWhite : kBlack;
 }
 
-Color reaching(Color wanted, const Tones& ground, float ratio) noexcept
+Color reaching(Color wanted, const ToneRange& backdrop, float ratio) noexcept
 {
-    const auto reaches = [&ground, ratio](Color color) { return contrastRatio(color, ground) >= ratio; };
+    const auto reaches = [&backdrop, ratio](Color color) { return contrastRatio(color, backdrop) >= ratio; };
     if (reaches(wanted))
         return wanted;
     // Stay on the side where the colour already is, as long as that side goes far enough.
-    const bool lighter = relativeLuminance(wanted) > relativeLuminance(ground.lightest);
-    const bool darker = relativeLuminance(wanted) < relativeLuminance(ground.darkest);
-    Color pole = strongestOn(ground);
+    const bool lighter = relativeLuminance(wanted) > relativeLuminance(backdrop.lightest);
+    const bool darker = relativeLuminance(wanted) < relativeLuminance(backdrop.darkest);
+    Color pole = strongestOn(backdrop);
     if (lighter && reaches(kWhite))
         pole = kWhite;
     else if (darker && reaches(kBlack))
@@ -91,21 +91,21 @@ Color reaching(Color wanted, const Tones& ground, float ratio) noexcept
     return reaches(pole) ? nearestPassing(wanted, pole, reaches) : pole;
 }
 
-Color pickReaching(std::initializer_list<Color> wanted, const Tones& ground, float ratio) noexcept
+Color pickReaching(std::initializer_list<Color> wanted, const ToneRange& backdrop, float ratio) noexcept
 {
     for (const Color color : wanted) {
-        if (contrastRatio(color, ground) >= ratio)
+        if (contrastRatio(color, backdrop) >= ratio)
             return color;
     }
     const Color nearest = *std::ranges::max_element(
-        wanted, {}, [&ground](Color color) { return contrastRatio(color, ground); });
-    return reaching(nearest, ground, ratio);
+        wanted, {}, [&backdrop](Color color) { return contrastRatio(color, backdrop); });
+    return reaching(nearest, backdrop, ratio);
 }
 
 bool isReadableFace(Color face, float shading, float ratio) noexcept
 {
-    const Tones tones =
-        shading > 0 ? Tones(lightened(face, -shading), lightened(face, shading)) : Tones(face);
+    const ToneRange tones =
+        shading > 0 ? ToneRange(lightened(face, -shading), lightened(face, shading)) : ToneRange(face);
     return contrastRatio(strongestOn(tones), tones) >= ratio;
 }
 

@@ -16,29 +16,29 @@ float contrastRatio(Color one, Color other) noexcept; // 1 to 21
 
 // The range of tones that a surface shows between its darkest and its lightest place: gradients, translucent
 // faces and several surfaces that one colour has to stand on.
-struct Tones {
+struct ToneRange {
     Color darkest = hexColor(0x000000);
     Color lightest = hexColor(0x000000);
 
-    Tones() = default;
-    Tones(Color color) : darkest(color), lightest(color) {}
-    Tones(Color darkest_, Color lightest_) : darkest(darkest_), lightest(lightest_) {}
+    ToneRange() = default;
+    ToneRange(Color color) : darkest(color), lightest(color) {}
+    ToneRange(Color darkest_, Color lightest_) : darkest(darkest_), lightest(lightest_) {}
 
-    void include(const Tones& other) noexcept;
+    void include(const ToneRange& other) noexcept;
 };
 
 // At the worst place; 1 for a colour whose own luminance occurs in the range.
-float contrastRatio(Color color, const Tones& ground) noexcept;
+float contrastRatio(Color color, const ToneRange& backdrop) noexcept;
 
 // The one of black and white that stands out more.
-Color strongestOn(const Tones& ground) noexcept;
+Color strongestOn(const ToneRange& backdrop) noexcept;
 
 // The wanted colour, made lighter or darker as little as the ratio asks; black or white when nothing reaches
 // it.
-Color reaching(Color wanted, const Tones& ground, float ratio) noexcept;
+Color reaching(Color wanted, const ToneRange& backdrop, float ratio) noexcept;
 
 // The first of the colours that reaches the ratio, else the one that comes nearest, nudged to it.
-Color pickReaching(std::initializer_list<Color> wanted, const Tones& ground, float ratio) noexcept;
+Color pickReaching(std::initializer_list<Color> wanted, const ToneRange& backdrop, float ratio) noexcept;
 
 // Whether black or white text reaches the ratio on a face whose shading reaches that far to either side of
 // its colour, in Oklab lightness. There are middle tones on which neither does.

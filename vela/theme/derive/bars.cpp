@@ -75,7 +75,7 @@ void buildProgressBar(const Context& context, StyleSheet& sheet)
                             .bordered = false},
                            style.fillShape);
     style.fill.showShadow = false;
-    Tones label = backdropOf(style.frame, context.backdrop).tones;
+    ToneRange label = backdropOf(style.frame, context.backdrop).tones;
     label.include(context.backdrop.tones);
     style.labelText = textOn(context, label, {context.text}, kLabel);
     style.labelWidth = 52;
@@ -178,7 +178,7 @@ void buildMenuBar(const Context& context, StyleSheet& sheet)
     style.popupItemHotSurface = flatSurface(context, hot, style.popupItemShape);
     style.popupItemPressedSurface = flatSurface(context, pressed, style.popupItemShape);
 
-    Tones faces = backdrop.tones;
+    ToneRange faces = backdrop.tones;
     for (const Color fill : {hot, pressed, active})
         faces.include(context.shadedTones(fill, Elevation::Flat));
     style.itemText = textOn(context, faces, {context.text});

@@ -113,7 +113,7 @@ Faces facesFor(const Context& context, const ButtonRecipe& recipe, const Backdro
     return standardFaces(context, backdrop);
 }
 
-Color captionOn(const Context& context, const ButtonRecipe& recipe, VisualState state, const Tones& face)
+Color captionOn(const Context& context, const ButtonRecipe& recipe, VisualState state, const ToneRange& face)
 {
     if (recipe.emphasis == Emphasis::Solid)
         return context.strongestText(face);
@@ -173,7 +173,7 @@ void deriveButton(const Context& context, const ButtonRecipe& recipe, const Back
         SurfaceStyle& surface = style.surface[state];
         surface = surfaceOf(context, faces[state], shape);
         surface.glow = focus;
-        const Tones face = backdropOf(surface, backdrop).tones;
+        const ToneRange face = backdropOf(surface, backdrop).tones;
         const bool solid = recipe.emphasis == Emphasis::Solid && state != VisualState::Disabled;
         const Color caption = solid ? solidText : captionOn(context, recipe, state, face);
         style.text[state] = textOf(context, caption, context.disabledTextOn(caption, face), recipe.step);

@@ -118,7 +118,7 @@ void Context::resolveContainers()
     backdrop = {panel, shadedTones(panel, Elevation::Container)};
     const auto near = [&](Color role, float distance) {
         const Color fill = containerFill(towards(panel, role, distance));
-        const Tones tones = shadedTones(fill, Elevation::Container);
+        const ToneRange tones = shadedTones(fill, Elevation::Container);
         // One that would need text of the other kind is filled as the panel is: one text colour serves all.
         if (strongestOn(tones) != pole)
             return panel;
@@ -164,10 +164,10 @@ void Context::resolveControl()
                                {control.normal, control.hot, control.pressed});
 }
 
-Tones Context::shadedTones(Color fill, Elevation elevation) const noexcept
+ToneRange Context::shadedTones(Color fill, Elevation elevation) const noexcept
 {
     const float shading = std::abs(mode.traits(elevation).shading);
-    return shading > 0 ? Tones(lightened(fill, -shading), lightened(fill, shading)) : Tones(fill);
+    return shading > 0 ? ToneRange(lightened(fill, -shading), lightened(fill, shading)) : ToneRange(fill);
 }
 
 Color Context::stateFill(Color wanted, Elevation elevation,
@@ -198,17 +198,17 @@ Color Context::fillBehind(Color foreground, Color base, Color wanted, Elevation 
     return nearestFitting(base, fits);
 }
 
-Color Context::markFill(Color wanted, const Tones& on, Elevation elevation,
+Color Context::markFill(Color wanted, const ToneRange& on, Elevation elevation,
                         std::initializer_list<Color> others) const noexcept
 {
     return nearestFitting(reaching(wanted, on, markTarget), [&](Color color) {
-        const Tones tones = shadedTones(color, elevation);
+        const ToneRange tones = shadedTones(color, elevation);
         return isApart(color, others) &&
                std::min(contrastRatio(tones.darkest, on), contrastRatio(tones.lightest, on)) >= markTarget;
     });
 }
 
-Color Context::sharedText(std::initializer_list<Color> wanted, const Tones& on) const noexcept
+Color Context::sharedText(std::initializer_list<Color> wanted, const ToneRange& on) const noexcept
 {
     return pickReaching(wanted, on, textTarget * kSharedTextHeadroom);
 }
@@ -218,12 +218,12 @@ Color Context::overlay(const Backdrop& on, float amount) const noexcept
     return lightened(on.fill, strongestOn(on.tones) == hexColor(0xFFFFFF) ? amount : -amount);
 }
 
-Color Context::readable(std::initializer_list<Color> wanted, const Tones& on) const noexcept
+Color Context::readable(std::initializer_list<Color> wanted, const ToneRange& on) const noexcept
 {
     return pickReaching(wanted, on, textTarget);
 }
 
-Color Context::strongestText(const Tones& on) const noexcept
+Color Context::strongestText(const ToneRange& on) const noexcept
 {
     const Color roles[] = {theme.text, theme.textHot, theme.shell, theme.panel, theme.control};
     const Color strongest =
@@ -231,9 +231,12 @@ Color Context::strongestText(const Tones& on) const noexcept
     return reaching(strongest, on, solidTextTarget * kSharedTextHeadroom);
 }
 
-Color Context::mark(Color wanted, const Tones& on) const noexcept { return reaching(wanted, on, markTarget); }
+Color Context::mark(Color wanted, const ToneRange& on) const noexcept
+{
+    return reaching(wanted, on, markTarget);
+}
 
-Color Context::disabledTextOn(Color normal, const Tones& on) const noexcept
+Color Context::disabledTextOn(Color normal, const ToneRange& on) const noexcept
 {
     const float wanted = withHeadroom(kDisabledTextContrast, kTextHeadroom);
     const float full = contrastRatio(normal, on);

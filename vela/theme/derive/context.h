@@ -26,7 +26,7 @@ namespace vela::derive {
 // What a part lies on: the colour it is mixed with and every tone it has to stand out from.
 struct Backdrop {
     Color fill = 0;
-    Tones tones;
+    ToneRange tones;
 };
 
 // What a part tells by its colour.
@@ -91,23 +91,23 @@ public:
     Color fillBehind(Color foreground, Color base, Color wanted, Elevation elevation,
                      std::initializer_list<Color> others, float target) const noexcept;
     // A mark whose every tone stands out from what it lies on: thumbs, rails, badges, progress.
-    Color markFill(Color wanted, const Tones& on, Elevation elevation,
+    Color markFill(Color wanted, const ToneRange& on, Elevation elevation,
                    std::initializer_list<Color> others = {}) const noexcept;
     // The text of parts that keep one text colour in all states: it leaves room for their fills to differ.
-    Color sharedText(std::initializer_list<Color> wanted, const Tones& on) const noexcept;
+    Color sharedText(std::initializer_list<Color> wanted, const ToneRange& on) const noexcept;
     // What the shading of an elevation makes of a fill.
-    Tones shadedTones(Color fill, Elevation elevation) const noexcept;
+    ToneRange shadedTones(Color fill, Elevation elevation) const noexcept;
     // A part of the way from the backdrop to what is most unlike it: the fill of a highlighted row or a quiet
     // button.
     Color overlay(const Backdrop& on, float amount) const noexcept;
     // The first of the wanted colours that can be read on the backdrop, else the first one nudged.
-    Color readable(std::initializer_list<Color> wanted, const Tones& on) const noexcept;
+    Color readable(std::initializer_list<Color> wanted, const ToneRange& on) const noexcept;
     // The palette's strongest colour on a coloured face.
-    Color strongestText(const Tones& on) const noexcept;
+    Color strongestText(const ToneRange& on) const noexcept;
     // A border, an arrow or another mark.
-    Color mark(Color wanted, const Tones& on) const noexcept;
+    Color mark(Color wanted, const ToneRange& on) const noexcept;
     // Text of a disabled control: legible, and clearly fainter than the normal text.
-    Color disabledTextOn(Color normal, const Tones& on) const noexcept;
+    Color disabledTextOn(Color normal, const ToneRange& on) const noexcept;
 
 private:
     // The ratio to search for where that one is asked for: above it by what a material or relief takes.

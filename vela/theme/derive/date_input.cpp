@@ -33,7 +33,7 @@ void deriveCalendar(const Context& context, DateInputStyle& style)
     style.todaySurface.border = style.todaySurface.outline = ring;
     style.todaySurface.showOutline = true;
 
-    Tones cells = backdrop.tones;
+    ToneRange cells = backdrop.tones;
     for (const Color fill : {hot, pressed, selected})
         cells.include(context.shadedTones(fill, Elevation::Flat));
     style.headerText = textOn(context, backdrop.tones, {context.strongText, context.text}, kLabel);

@@ -66,7 +66,7 @@ void addAttachments(const Context& context, Color text, Color input, TextInputSt
         context,
         context.fillBehind(text, chip, context.overlay({chip, chip}, 0.08F), Elevation::Flat, {chip}),
         style.attachmentRemoveShape);
-    Tones chips = context.shadedTones(chip, Elevation::Flat);
+    ToneRange chips = context.shadedTones(chip, Elevation::Flat);
     chips.include(style.attachmentRemoveSurface.fill);
     style.attachmentText = textOn(context, chips, {text}, kSmall);
     style.attachmentIconColor = context.mark(context.mutedText, chips);
@@ -86,13 +86,13 @@ void buildTextInput(const Context& context, StyleSheet& sheet)
     style.disabledSurface =
         surfaceOf(context, {.fill = fills.disabled, .border = context.quietEdge}, style.shape);
 
-    Tones faces = context.shadedTones(fills.normal, Elevation::Sunken);
+    ToneRange faces = context.shadedTones(fills.normal, Elevation::Sunken);
     for (const Color fill : {fills.hot, fills.pressed, fills.focused})
         faces.include(context.shadedTones(fill, Elevation::Sunken));
     style.text = textOn(context, faces, {fills.text});
     style.text.disabledColor =
         context.disabledTextOn(context.text, context.shadedTones(fills.disabled, Elevation::Flat));
-    Tones quietFaces = faces; // and that of a locked input, whose text is no louder than a placeholder
+    ToneRange quietFaces = faces; // and that of a locked input, whose text is no louder than a placeholder
     quietFaces.include(context.shadedTones(fills.disabled, Elevation::Flat));
     style.placeholderText = textOn(context, quietFaces, {context.theme.mutedText});
     style.placeholderText.disabledColor = style.text.disabledColor;
@@ -137,7 +137,7 @@ void buildCheckBox(const Context& context, StyleSheet& sheet)
     style.boxChecked = box(checked, Elevation::Raised);
     style.boxCheckedHot = box(hot, Elevation::Raised);
     style.boxCheckedPressed = box(pressed, Elevation::Pressed);
-    Tones boxes = backdropOf(style.boxChecked, context.backdrop).tones;
+    ToneRange boxes = backdropOf(style.boxChecked, context.backdrop).tones;
     boxes.include(backdropOf(style.boxCheckedHot, context.backdrop).tones);
     boxes.include(backdropOf(style.boxCheckedPressed, context.backdrop).tones);
     style.checkColor = context.strongestText(boxes);
@@ -165,7 +165,7 @@ void buildSelectBox(const Context& context, StyleSheet& sheet)
     style.disabledSurface =
         surfaceOf(context, face(fills.disabled, context.quietEdge, Elevation::Flat), style.shape);
 
-    Tones faces = context.shadedTones(fills.normal, Elevation::Raised);
+    ToneRange faces = context.shadedTones(fills.normal, Elevation::Raised);
     for (const Color fill : {fills.hot, fills.pressed})
         faces.include(context.shadedTones(fill, Elevation::Raised));
     style.text = textOn(context, faces, {fills.text});

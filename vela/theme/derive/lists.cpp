@@ -37,9 +37,9 @@ RowFills rowFills(const Context& context, Color list)
     return fills;
 }
 
-Tones tonesOf(const Context& context, const RowFills& fills)
+ToneRange tonesOf(const Context& context, const RowFills& fills)
 {
-    Tones tones = context.shadedTones(fills.list, Elevation::Container);
+    ToneRange tones = context.shadedTones(fills.list, Elevation::Container);
     for (const Color fill : {fills.hot, fills.pressed, fills.selected, fills.selectedHot})
         tones.include(context.shadedTones(fill, Elevation::Flat));
     return tones;
@@ -49,7 +49,7 @@ Color listFill(const Context& context) { return context.containerFill(context.th
 
 SurfaceStyle railOn(const Context& context, const RowFills& fills, ShapeKind shape)
 {
-    Tones rows = context.shadedTones(fills.selected, Elevation::Flat);
+    ToneRange rows = context.shadedTones(fills.selected, Elevation::Flat);
     rows.include(context.shadedTones(fills.selectedHot, Elevation::Flat));
     return flatSurface(context, context.markFill(context.theme.accent, rows, Elevation::Flat), shape);
 }
@@ -59,7 +59,7 @@ SurfaceStyle railOn(const Context& context, const RowFills& fills, ShapeKind sha
 void buildListBox(const Context& context, StyleSheet& sheet)
 {
     const RowFills fills = rowFills(context, listFill(context));
-    const Tones tones = tonesOf(context, fills);
+    const ToneRange tones = tonesOf(context, fills);
     ListBoxStyle& style = sheet.table<ListBoxStyle>().defaultRecord();
     style.shape = context.mode.panelShape;
     style.rowShape = context.mode.slimTracks ? ShapeKind::RoundedRect : ShapeKind::Rect;
@@ -84,7 +84,7 @@ void buildListBox(const Context& context, StyleSheet& sheet)
 void buildTableList(const Context& context, StyleSheet& sheet)
 {
     const RowFills fills = rowFills(context, listFill(context));
-    const Tones tones = tonesOf(context, fills);
+    const ToneRange tones = tonesOf(context, fills);
     TableListStyle& style = sheet.table<TableListStyle>().defaultRecord();
     style.shape = context.mode.panelShape;
     style.surface =
@@ -96,7 +96,7 @@ void buildTableList(const Context& context, StyleSheet& sheet)
                                            Elevation::Container, {fills.list});
     style.header = containerSurface(context, strip, context.hairline, style.headerShape);
     style.header.showOutline = false;
-    const Tones head = context.shadedTones(strip, Elevation::Container);
+    const ToneRange head = context.shadedTones(strip, Elevation::Container);
     style.headerText = textOn(context, head, {context.theme.mutedText, text}, kLabel);
     style.row = bareSurface(context, style.rowShape);
     style.selectedRow = flatSurface(context, fills.selected, style.selectedRowShape);

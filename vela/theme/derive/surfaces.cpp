@@ -120,7 +120,7 @@ Color solidFill(const Context& context, Color wanted, Elevation elevation)
 
 Face solidFace(const Context& context, Color fill, const Backdrop& backdrop, Elevation elevation)
 {
-    const Tones tones = context.shadedTones(fill, elevation);
+    const ToneRange tones = context.shadedTones(fill, elevation);
     const float standsOut =
         std::min(contrastRatio(tones.darkest, backdrop.tones), contrastRatio(tones.lightest, backdrop.tones));
     const Color rim = lightened(fill, strongestOn(tones) == hexColor(0xFFFFFF) ? -0.06F : 0.06F);
@@ -138,7 +138,7 @@ SurfaceStyle badgeSurface(const Context& context, Intent intent, const Backdrop&
 
 Backdrop backdropOf(const SurfaceStyle& surface, const Backdrop& under)
 {
-    return {surface.drawFill ? surface.fill : under.fill, facesOf(surface, under.tones)};
+    return {surface.drawFill ? surface.fill : under.fill, surfaceTones(surface, under.tones)};
 }
 
 } // namespace vela::derive

@@ -24,13 +24,14 @@ FontSpec textOf(const Context& context, Color color, Color disabledColor, TypeSt
     return font;
 }
 
-FontSpec textOn(const Context& context, const Tones& on, std::initializer_list<Color> wanted, TypeStep step)
+FontSpec textOn(const Context& context, const ToneRange& on, std::initializer_list<Color> wanted,
+                TypeStep step)
 {
     const Color color = context.readable(wanted, on);
     return textOf(context, color, context.disabledTextOn(color, on), step);
 }
 
-FontSpec readingTextOn(const Context& context, const Tones& on, std::initializer_list<Color> wanted)
+FontSpec readingTextOn(const Context& context, const ToneRange& on, std::initializer_list<Color> wanted)
 {
     constexpr std::int32_t kRegular = 400;
     FontSpec font = textOn(context, on, wanted);
@@ -41,7 +42,7 @@ FontSpec readingTextOn(const Context& context, const Tones& on, std::initializer
 void buildTexts(const Context& context, StyleSheet& sheet)
 {
     VariantTable<TextStyle>& texts = sheet.table<TextStyle>();
-    const Tones& backdrop = context.backdrop.tones;
+    const ToneRange& backdrop = context.backdrop.tones;
     texts.ensure(L"default") = readingTextOn(context, backdrop, {context.text});
     texts.ensure(L"title") = textOn(context, backdrop, {context.strongText}, kLabel);
     texts.ensure(L"muted") = readingTextOn(context, backdrop, {context.mutedText});

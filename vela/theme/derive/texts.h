@@ -16,9 +16,9 @@ inline constexpr TypeStep kSmall = {.points = -1, .weight = 0};
 
 FontSpec textOf(const Context& context, Color color, Color disabledColor, TypeStep step = kBody);
 // Text in the first of the wanted colours that can be read on the backdrop.
-FontSpec textOn(const Context& context, const Tones& on, std::initializer_list<Color> wanted,
+FontSpec textOn(const Context& context, const ToneRange& on, std::initializer_list<Color> wanted,
                 TypeStep step = kBody);
 // Sentences are read in the regular weight, however heavy a skin makes its captions.
-FontSpec readingTextOn(const Context& context, const Tones& on, std::initializer_list<Color> wanted);
+FontSpec readingTextOn(const Context& context, const ToneRange& on, std::initializer_list<Color> wanted);
 
 } // namespace vela::derive

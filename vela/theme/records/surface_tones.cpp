@@ -4,27 +4,27 @@ namespace vela {
 namespace {
 
 // As the painter blends: channel by channel on bytes.
-Color blended(Color over, Color under, std::uint8_t opacity) noexcept
+Color blended(Color source, Color backdrop, std::uint8_t opacity) noexcept
 {
     const auto channel = [opacity](std::uint8_t top, std::uint8_t bottom) {
         return static_cast<std::uint8_t>((top * opacity + bottom * (255 - opacity) + 127) / 255);
     };
-    return rgb(channel(redOf(over), redOf(under)), channel(greenOf(over), greenOf(under)),
-               channel(blueOf(over), blueOf(under)));
+    return rgb(channel(redOf(source), redOf(backdrop)), channel(greenOf(source), greenOf(backdrop)),
+               channel(blueOf(source), blueOf(backdrop)));
 }
 
 } // namespace
 
-Tones facesOf(const SurfaceStyle& surface, const Tones& under) noexcept
+ToneRange surfaceTones(const SurfaceStyle& surface, const ToneRange& backdrop) noexcept
 {
     if (!surface.useGradient)
-        return surface.drawFill ? Tones(surface.fill) : under;
+        return surface.drawFill ? ToneRange(surface.fill) : backdrop;
     const auto seen = [&](Color color) {
-        Tones tones = blended(color, under.darkest, surface.opacity);
-        tones.include(blended(color, under.lightest, surface.opacity));
+        ToneRange tones = blended(color, backdrop.darkest, surface.opacity);
+        tones.include(blended(color, backdrop.lightest, surface.opacity));
         return tones;
     };
-    Tones tones = seen(surface.gradientStart);
+    ToneRange tones = seen(surface.gradientStart);
     // Halfway between two colours of one lightness lies a darker one, so the stops alone do not tell.
     const auto run = [&](Color from, Color to) {
         for (const int part : {64, 128, 192, 255})

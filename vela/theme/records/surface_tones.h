@@ -7,7 +7,7 @@
 
 namespace vela {
 
-// under: the tones of what the surface lies on.
-Tones facesOf(const SurfaceStyle& surface, const Tones& under) noexcept;
+// backdrop: the tones of what the surface lies on.
+ToneRange surfaceTones(const SurfaceStyle& surface, const ToneRange& backdrop) noexcept;
 
 } // namespace vela
