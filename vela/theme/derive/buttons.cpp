@@ -4,6 +4,9 @@
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/derive/builders.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace vela::derive {
 namespace {
 
@@ -124,40 +127,28 @@ Color captionOn(const Context& context, const ButtonRecipe& recipe, VisualState 
                   : context.readable({context.text, context.strongText}, face);
 }
 
-struct ButtonRow {
-    std::wstring_view variant;
-    ButtonRecipe recipe;
-};
-
-constexpr ButtonRow kButtonRows[] = {
-    {L"default", {}},
-    {L"secondary", {Intent::Neutral, Emphasis::Outline}},
-    {L"primary", {Intent::Accent, Emphasis::Solid}},
-    {L"primary-action", {Intent::Accent, Emphasis::Solid, kLabel}},
-    {L"quiet", {Intent::Neutral, Emphasis::Quiet}},
-    {L"success", {Intent::Success, Emphasis::Soft}},
-    {L"success-action", {Intent::Success, Emphasis::Solid, kLabel}},
-    {L"warning", {Intent::Warning, Emphasis::Soft}},
-    {L"warning-action", {Intent::Warning, Emphasis::Solid, kLabel}},
-    {L"danger", {Intent::Danger, Emphasis::Soft}},
-    {L"danger-action", {Intent::Danger, Emphasis::Solid, kLabel}},
-};
-
 // A button face with a drawing on it: it keeps one surface, and the drawing takes the tint.
-struct BitmapButtonRow {
-    std::wstring_view variant;
+struct BitmapButtonVariant {
+    std::wstring_view name;
     ButtonRecipe recipe;
     bool muted = false;
 };
 
-constexpr BitmapButtonRow kBitmapButtonRows[] = {
-    {L"default", {Intent::Neutral, Emphasis::Quiet}},
+constexpr BitmapButtonVariant kBitmapButtonVariants[] = {
+    {kDefaultVariant, {Intent::Neutral, Emphasis::Quiet}},
     {L"action", {Intent::Neutral, Emphasis::Standard}},
     {L"primary-action", {Intent::Accent, Emphasis::Solid, kLabel}},
     {L"muted", {Intent::Neutral, Emphasis::Quiet}, true},
 };
 
 } // namespace
+
+Emphasis emphasisOf(std::wstring_view variant) noexcept
+{
+    const auto* const known = std::ranges::find_if(
+        kButtonVariants, [variant](const ButtonVariant& row) { return sameName(row.name, variant); });
+    return known != std::end(kButtonVariants) ? known->recipe.emphasis : Emphasis::Standard;
+}
 
 void deriveButton(const Context& context, const ButtonRecipe& recipe, const Backdrop& backdrop,
                   ShapeKind shape, ButtonStyle& style)
@@ -183,20 +174,20 @@ void deriveButton(const Context& context, const ButtonRecipe& recipe, const Back
 
 void buildButtons(const Context& context, StyleSheet& sheet)
 {
-    for (const ButtonRow& row : kButtonRows)
-        deriveButton(context, row.recipe, context.backdrop, context.mode.controlShape,
-                     sheet.table<ButtonStyle>().ensure(row.variant));
+    for (const ButtonVariant& variant : kButtonVariants)
+        deriveButton(context, variant.recipe, context.backdrop, context.mode.controlShape,
+                     sheet.table<ButtonStyle>().ensure(variant.name));
 }
 
 void buildBitmapButtons(const Context& context, StyleSheet& sheet)
 {
     ButtonStyle face;
-    for (const BitmapButtonRow& row : kBitmapButtonRows) {
-        deriveButton(context, row.recipe, context.backdrop, context.mode.controlShape, face);
-        BitmapButtonStyle& style = sheet.table<BitmapButtonStyle>().ensure(row.variant);
+    for (const BitmapButtonVariant& variant : kBitmapButtonVariants) {
+        deriveButton(context, variant.recipe, context.backdrop, context.mode.controlShape, face);
+        BitmapButtonStyle& style = sheet.table<BitmapButtonStyle>().ensure(variant.name);
         style.text = face.text.normal;
         style.image = face.surface.normal;
-        if (row.muted)
+        if (variant.muted)
             style.text.color = context.mutedText;
         style.tint = style.text.color;
     }

@@ -4,6 +4,9 @@
 
 #include "vela/theme/derive/surfaces.h"
 #include "vela/theme/derive/texts.h"
+#include "vela/theme/records/style_sheet.h"
+
+#include <string_view>
 
 namespace vela::derive {
 
@@ -20,6 +23,29 @@ struct ButtonRecipe {
     Emphasis emphasis = Emphasis::Standard;
     TypeStep step = kBody;
 };
+
+struct ButtonVariant {
+    std::wstring_view name;
+    ButtonRecipe recipe;
+};
+
+// The variants that every style sheet has; those that a skin adds start from the default.
+inline constexpr ButtonVariant kButtonVariants[] = {
+    {kDefaultVariant, {}},
+    {L"secondary", {Intent::Neutral, Emphasis::Outline}},
+    {L"primary", {Intent::Accent, Emphasis::Solid}},
+    {L"primary-action", {Intent::Accent, Emphasis::Solid, kLabel}},
+    {L"quiet", {Intent::Neutral, Emphasis::Quiet}},
+    {L"success", {Intent::Success, Emphasis::Soft}},
+    {L"success-action", {Intent::Success, Emphasis::Solid, kLabel}},
+    {L"warning", {Intent::Warning, Emphasis::Soft}},
+    {L"warning-action", {Intent::Warning, Emphasis::Solid, kLabel}},
+    {L"danger", {Intent::Danger, Emphasis::Soft}},
+    {L"danger-action", {Intent::Danger, Emphasis::Solid, kLabel}},
+};
+
+// Standard for a variant that a skin added.
+Emphasis emphasisOf(std::wstring_view variant) noexcept;
 
 void deriveButton(const Context& context, const ButtonRecipe& recipe, const Backdrop& backdrop,
                   ShapeKind shape, ButtonStyle& style);
