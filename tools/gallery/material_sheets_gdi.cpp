@@ -1,5 +1,6 @@
 // Sheets of materials: every preset with every finish, and the substances that a skin may name.
 #include "tools/gallery/gallery_gdi.h"
+#include "tools/showcase_content/material_swatch.h"
 #include "vela/render/paint/paint.h"
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/records/named_materials.h"
@@ -86,7 +87,7 @@ SurfaceStyle presetStyle(const Preset& preset, MaterialPreset kind, MaterialFini
 void drawSubstance(Sheet& sheet, const Rect& tile, const vela::NamedMaterial& material)
 {
     const auto piece = [&](const Rect& rect, ShapeKind shape) {
-        SurfaceStyle style = bodyOf(vela::bodyColor(material), shape);
+        SurfaceStyle style = bodyOf(showcase::bodyColor(material), shape);
         vela::applyNamedMaterial(material, style);
         vela::paintSurface(sheet.dc(), rect, style);
     };

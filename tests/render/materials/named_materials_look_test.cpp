@@ -1,4 +1,5 @@
 // The named materials as they are seen: a plate of each, its body's colour under the overlay.
+#include "tools/showcase_content/material_swatch.h"
 #include "vela/render/materials/material_overlay.h"
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/records/named_materials.h"
@@ -23,7 +24,7 @@ Plate plateOf(const NamedMaterial& material)
     renderMaterialOverlay(
         materialConstants(style, {0, 0, kPlate.width, kPlate.height}, 0, PerformanceProfile::Full),
         {{overlay.data(), kPlate, kPlate.width}, {}});
-    const Pixel body = premultiplied(bodyColor(material), 255);
+    const Pixel body = premultiplied(showcase::bodyColor(material), 255);
     Plate plate;
     for (const Pixel pixel : overlay) {
         const auto channel = [=](int shift) {

@@ -27,12 +27,12 @@ bool assign(void* place, const std::optional<Source>& value)
     return value.has_value();
 }
 
-// A material by name, substances before presets. Tells whether the text named one.
-template <typename Substance, typename Preset>
-bool readMaterial(std::wstring_view text, Substance&& applySubstance, Preset&& applyPreset)
+// A material by name, named materials before presets. Tells whether the text named one.
+template <typename ApplyNamed, typename ApplyPreset>
+bool readMaterial(std::wstring_view text, ApplyNamed&& applyNamed, ApplyPreset&& applyPreset)
 {
     if (const NamedMaterial* const material = findNamedMaterial(normalizedName(text))) {
-        applySubstance(*material);
+        applyNamed(*material);
         return true;
     }
     const std::optional<MaterialPreset> preset = parseWord<MaterialPreset>(text);
@@ -65,7 +65,7 @@ bool readProfileMaterial(std::wstring_view text, MaterialProfile& profile)
         });
 }
 
-// A substance's tint and shading belong to the main surfaces; elsewhere its name stands for its preset.
+// A named material's tint and shading belong to the main surfaces; elsewhere its name stands for its preset.
 bool readProfilePreset(std::wstring_view text, MaterialPreset& place, MaterialProfile& profile)
 {
     const auto choose = [&](MaterialPreset preset, bool enables) {

@@ -7,8 +7,8 @@
 namespace vela {
 namespace {
 
-// One substance as the table spells it. Strengths and opacities are bytes, the scale pixels, angles degrees.
-struct Substance {
+// One material as the table spells it. Strengths and opacities are bytes, the scale pixels, angles degrees.
+struct MaterialRow {
     std::wstring_view name;
     MaterialPreset preset;
     MaterialFinish finish;
@@ -23,10 +23,10 @@ struct Substance {
     std::uint8_t specular;
     std::uint8_t texture;
     std::uint8_t rim;
-    std::uint8_t wear;
+    std::uint8_t edgeWear;
     std::uint8_t glow; // backlight and inner glow alike
     std::uint8_t occlusion;
-    std::uint8_t elevation;
+    std::uint8_t lightElevation;
     std::int32_t scale;
     std::int32_t angle;
 };
@@ -34,25 +34,25 @@ struct Substance {
 using enum MaterialPreset;
 using enum MaterialFinish;
 
-constexpr Substance respelt(Substance substance, std::wstring_view name)
+constexpr MaterialRow respelt(MaterialRow row, std::wstring_view name)
 {
-    substance.name = name;
-    return substance;
+    row.name = name;
+    return row;
 }
 
-// Polished metals wear the wet finish for its sharp band of reflected light; facets of cut gems grow as the
+// Polished metals have the wet finish for its sharp band of reflected light; facets of cut gems grow as the
 // scale falls; a large depth roughens, because relief follows the grain.
 // clang-format off
 // name, preset, finish, tint, backlight
 // str  hil  ref  grn  dep  rou  spc  tex  rim wear glow  occ elev scal angle
-constexpr Substance kMarble =
+constexpr MaterialRow kMarble =
     {L"marble", StoneMarble, Polished, 0xEBE8E2, 0xFFFFFF,
      205, 150,  60,  10,   0,  40, 170, 235,  60,  10,  20,  40,  58,  30,  20};
-constexpr Substance kAluminium =
+constexpr MaterialRow kAluminium =
     {L"aluminium", BrushedMetal, Brushed, 0xC6CBD0, 0xFFFFFF,
      200, 160, 200,  60,   6, 100, 150, 220,  60,  50,   0,  60,  54,  16,   0};
 
-constexpr Substance kSubstances[] = {
+constexpr MaterialRow kRows[] = {
     // Stones, polished or as quarried.
     {L"zula", StoneGranite, Hammered, 0x9A948F, 0xD8D0C8,
      250, 110, 110,  60,  34, 200,  10, 255,  20,  30,   0,  60,  52,   9,   0},
@@ -177,7 +177,7 @@ constexpr Substance kSubstances[] = {
 };
 // clang-format on
 
-constexpr NamedMaterial materialOf(const Substance& row)
+constexpr NamedMaterial materialOf(const MaterialRow& row)
 {
     NamedMaterial material{row.name, row.preset, {}};
     MaterialShading& shading = material.shading;
@@ -192,11 +192,11 @@ constexpr NamedMaterial materialOf(const Substance& row)
     shading.specular = row.specular;
     shading.textureOpacity = row.texture;
     shading.rimLight = row.rim;
-    shading.edgeWear = row.wear;
+    shading.edgeWear = row.edgeWear;
     shading.backlightOpacity = row.glow;
     shading.innerGlow = row.glow;
     shading.ambientOcclusion = row.occlusion;
-    shading.materialLightElevation = row.elevation;
+    shading.materialLightElevation = row.lightElevation;
     shading.materialScale = row.scale;
     shading.materialAngle = row.angle;
     shading.finish = row.finish;
@@ -204,21 +204,10 @@ constexpr NamedMaterial materialOf(const Substance& row)
 }
 
 constexpr auto kNamedMaterials = [] {
-    std::array<NamedMaterial, std::size(kSubstances)> materials;
-    std::transform(std::begin(kSubstances), std::end(kSubstances), materials.begin(), materialOf);
+    std::array<NamedMaterial, std::size(kRows)> materials;
+    std::transform(std::begin(kRows), std::end(kRows), materials.begin(), materialOf);
     return materials;
 }();
-
-// How much of the tint's light a body sends back: facets shine above it, and a metal's sheen.
-constexpr int bodyPercent(MaterialPreset preset) noexcept
-{
-    switch (preset) {
-    case Gemstone: return 80;
-    case Metal:
-    case BrushedMetal: return 88;
-    default: return 100;
-    }
-}
 
 } // namespace
 
@@ -230,15 +219,6 @@ const NamedMaterial* findNamedMaterial(std::wstring_view normalisedName) noexcep
         std::find_if(kNamedMaterials.begin(), kNamedMaterials.end(),
                      [=](const NamedMaterial& material) { return material.name == normalisedName; });
     return found == kNamedMaterials.end() ? nullptr : found;
-}
-
-Color bodyColor(const NamedMaterial& material) noexcept
-{
-    const auto deepened = [percent = bodyPercent(material.preset)](std::uint8_t channel) {
-        return static_cast<std::uint8_t>(channel * percent / 100);
-    };
-    const Color tint = material.shading.materialTint;
-    return rgb(deepened(redOf(tint)), deepened(greenOf(tint)), deepened(blueOf(tint)));
 }
 
 void applyNamedMaterial(const NamedMaterial& material, SurfaceStyle& surface) noexcept

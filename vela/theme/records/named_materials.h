@@ -1,6 +1,6 @@
-// The substances that a skin may name where a material is asked for: each a preset with the tint and the
-// light that make it look like the real thing. Their names are in normalised form (no "_", "-" or white
-// space, lower case).
+// The materials that a skin may name: each a preset with the tint and the light that make it look like the
+// real thing. Their names are in normalised form (no "_", "-" or white space, lower case). Writers of skins
+// read of them as substances, so as not to take them for the presets.
 #pragma once
 
 #include "vela/theme/records/surface_style.h"
@@ -21,21 +21,17 @@ struct NamedMaterial {
     constexpr bool enabled() const noexcept { return shading.materialStrength >= 1; }
 };
 
-// Every substance, kindred ones side by side: stones, gems, metals.
+// All of them, kindred ones side by side: stones, gems, metals.
 std::span<const NamedMaterial> namedMaterials() noexcept;
 
-// Null when no substance has the name. The name is taken as normalised.
+// Null when no material has the name. The name is taken as normalised.
 const NamedMaterial* findNamedMaterial(std::wstring_view normalisedName) noexcept;
 
-// The plain colour to lay under a substance that stands for itself, as on a swatch: a material is light and
-// texture over a fill. Cut gems and metals lie deeper than their tint, which is that of facets and sheen.
-Color bodyColor(const NamedMaterial& material) noexcept;
-
-// Gives the surface the substance: its preset, its shading as a whole and the mark that it is drawn. Fill,
+// Gives the surface the material: its preset, its shading as a whole and the mark that it is drawn. Fill,
 // border and shape stay as they are.
 void applyNamedMaterial(const NamedMaterial& material, SurfaceStyle& surface) noexcept;
 
-// Makes the substance that of the theme's main surfaces; the presets of controls and accents stay.
+// Makes the material that of the theme's main surfaces; the presets of controls and accents stay.
 void applyNamedMaterial(const NamedMaterial& material, MaterialProfile& profile) noexcept;
 
 } // namespace vela
