@@ -12,7 +12,7 @@ namespace {
 
 TEST(SkinContrast, HoldsOnRenderedPixelsInEveryDefaultSkin)
 {
-    const FaceTones rendered{testing::renderedContainerTones, testing::renderedFaceTones};
+    const ToneFinders rendered{testing::renderedContainerTones, testing::renderedFaceTones};
     for (const SkinDefinition& skin : defaultSkins()) {
         SCOPED_TRACE(narrowed(skin.id));
         for (const ContrastCheck& check : contrastChecks(buildStyleSheet(skin), rendered)) {

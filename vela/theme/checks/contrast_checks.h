@@ -1,4 +1,4 @@
-// Judges a whole style sheet by the contrast rules.
+// Checks a whole style sheet against the contrast rules.
 #pragma once
 
 #include "vela/theme/records/style_sheet.h"
@@ -9,15 +9,15 @@
 
 namespace vela {
 
-// How the tones are found that a surface shows when it lies on others.
-struct FaceTones {
-    using Finder = ToneRange (*)(const SurfaceStyle& surface, const ToneRange& under);
+// How the tones are found that a surface shows when it lies on a backdrop.
+struct ToneFinders {
+    using Finder = ToneRange (*)(const SurfaceStyle& surface, const ToneRange& backdrop);
 
-    Finder ofGround = surfaceTones; // of what controls lie on
-    Finder ofFace = surfaceTones;   // of controls and their parts
+    Finder ofContainer = surfaceTones; // what controls lie on
+    Finder ofControl = surfaceTones;   // controls and their parts
 };
 
-// One pair, judged. Reached is the ratio at the worst place.
+// One pair, checked. Reached is the ratio at the worst place.
 struct ContrastCheck {
     ControlKind kind = ControlKind::Text;
     std::wstring variant;
@@ -30,6 +30,6 @@ struct ContrastCheck {
 
 // As far as the records tell, unless told otherwise: then the worst place is the worst stop of a gradient and
 // what shines through a translucent face, and what bitmaps and materials add is not seen.
-std::vector<ContrastCheck> contrastChecks(const StyleSheet& sheet, const FaceTones& faces = {});
+std::vector<ContrastCheck> contrastChecks(const StyleSheet& sheet, const ToneFinders& tones = {});
 
 } // namespace vela
