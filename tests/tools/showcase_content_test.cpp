@@ -5,6 +5,7 @@
 #include "vela/controls/tree/input_router.h"
 #include "vela/controls/widgets/text_input.h"
 #include "vela/controls/widgets/themed_button.h"
+#include "vela/theme/checks/derived_variants.h"
 #include "vela/theme/skins/skin_catalog.h"
 #include "vela/theme/skins/style_sections.h"
 

@@ -11,6 +11,7 @@
 #include "vela/controls/widgets/themed_button.h"
 #include "vela/controls/widgets/tooltip.h"
 #include "vela/theme/records/style_sheet.h"
+#include "vela/theme/checks/derived_variants.h"
 
 namespace showcase {
 

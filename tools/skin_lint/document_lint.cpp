@@ -4,6 +4,7 @@
 #include "tools/skin_lint/value_lint.h"
 #include "vela/text.h"
 #include "vela/theme/checks/contrast_checks.h"
+#include "vela/theme/checks/derived_variants.h"
 #include "vela/theme/records/spellings.h"
 #include "vela/theme/skins/skin_document.h"
 #include "vela/theme/skins/style_sections.h"

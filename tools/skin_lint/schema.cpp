@@ -3,6 +3,7 @@
 #include "tools/skin_lint/accepted.h"
 #include "tools/skin_lint/key_scope.h"
 #include "vela/text.h"
+#include "vela/theme/checks/derived_variants.h"
 #include "vela/theme/records/named_materials.h"
 #include "vela/theme/records/spellings.h"
 #include "vela/theme/skins/skin_document.h"

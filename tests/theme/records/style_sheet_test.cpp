@@ -1,6 +1,8 @@
-#include "vela/theme/derive/derive_style_sheet.h"
+#include "vela/theme/records/style_sheet.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace vela {
 namespace {
@@ -34,21 +36,6 @@ TEST(StyleSheet, SetsAVariantInPlaceAndKeepsTheOrder)
     EXPECT_TRUE(std::equal(table.begin(), table.end(), names,
                            [](const auto& variant, std::wstring_view name) { return variant.name == name; }));
     EXPECT_EQ(table.find(L"glass").padding, 3);
-}
-
-TEST(StyleSheet, HoldsEveryVariantOfEveryKindOnceDerived)
-{
-    const StyleSheet sheet = deriveStyleSheet(Theme{});
-    std::size_t kinds = 0;
-    sheet.forEachTable([&kinds](ControlKind kind, const auto& table) {
-        EXPECT_EQ(static_cast<std::size_t>(kind), kinds++);
-        const auto names = derivedVariants(kind);
-        EXPECT_TRUE(
-            std::equal(table.begin(), table.end(), names.begin(), names.end(),
-                       [](const auto& variant, std::wstring_view name) { return variant.name == name; }))
-            << "kind " << static_cast<int>(kind);
-    });
-    EXPECT_EQ(kinds, kControlKindCount);
 }
 
 } // namespace

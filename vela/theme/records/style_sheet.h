@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <list>
-#include <span>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -166,8 +165,5 @@ private:
 template <ControlKind kKind>
 using TableOf = std::tuple_element_t<static_cast<std::size_t>(kKind), StyleSheet::Tables>;
 static_assert(std::is_same_v<TableOf<ControlKind::Tooltip>, VariantTable<TooltipStyle>>);
-
-// The variants that every derived sheet holds for a kind, "default" first.
-std::span<const std::wstring_view> derivedVariants(ControlKind kind) noexcept;
 
 } // namespace vela
