@@ -10,8 +10,8 @@
 #include "vela/controls/widgets/text_input.h"
 #include "vela/controls/widgets/themed_button.h"
 #include "vela/controls/widgets/tooltip.h"
-#include "vela/theme/records/style_sheet.h"
 #include "vela/theme/checks/derived_variants.h"
+#include "vela/theme/records/style_sheet.h"
 
 namespace showcase {
 

@@ -1,11 +1,13 @@
 #include "tools/skin_lint/accepted.h"
 
 #include "vela/text.h"
-#include "vela/theme/records/named_materials.h"
+#include "vela/theme/fields/field_reader.h"
 #include "vela/theme/records/spellings.h"
+#include "vela/theme/records/theme.h"
 
 #include <algorithm>
 #include <numeric>
+#include <optional>
 #include <utility>
 
 namespace vela::lint {
@@ -90,6 +92,30 @@ std::string acceptedBy(const Field& field)
     case FieldKind::SurfaceImage: break;
     }
     return "an object";
+}
+
+bool acceptsText(const Field& field, std::wstring_view text)
+{
+    // One place of each type that a field can have; which one the text lands in follows from the kind.
+    SurfaceStyle surface;
+    MaterialProfile profile;
+    Insets insets;
+    std::wstring string;
+    std::vector<ThemeColor> colors;
+    std::optional<PaletteRole> role;
+    std::uint32_t scalar = 0;
+    switch (field.kind) {
+    case FieldKind::SurfaceMaterial:
+    case FieldKind::SurfaceImagePath:
+    case FieldKind::SurfaceAlphaShape: return readText(field, text, &surface, &surface);
+    case FieldKind::ProfileMaterial: return readText(field, text, &profile, &profile);
+    case FieldKind::ProfilePreset: return readText(field, text, &profile, &profile.control);
+    case FieldKind::Text: return readText(field, text, nullptr, &string);
+    case FieldKind::Colors: return readText(field, text, nullptr, &colors);
+    case FieldKind::Role: return readText(field, text, nullptr, &role);
+    case FieldKind::InsetSides: return readText(field, text, nullptr, &insets);
+    default: return readText(field, text, nullptr, &scalar);
+    }
 }
 
 std::vector<std::string> wordsOf(const Vocabulary& vocabulary)

@@ -12,6 +12,9 @@ namespace vela::lint {
 // "a colour (#RRGGBB or three decimals)", "one of linear, reflected, ...".
 std::string acceptedBy(const Field& field);
 
+// Whether the text would be read: reading itself reports nothing.
+bool acceptsText(const Field& field, std::wstring_view text);
+
 // All words of a vocabulary as its table spells them, the usual one of each value first.
 std::vector<std::string> wordsOf(const Vocabulary& vocabulary);
 

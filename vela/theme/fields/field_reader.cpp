@@ -97,48 +97,6 @@ void setImage(SurfaceStyle& surface, BitmapSkin image)
     surface.image = std::move(image);
 }
 
-// One text of one field. The record is the one that holds the field at the place.
-bool readText(const Field& field, std::wstring_view text, void* record, void* place)
-{
-    switch (field.kind) {
-    case FieldKind::ColorValue: return assign<Color>(place, parseColor(text));
-    case FieldKind::Given: {
-        const bool given = field.detail ? parseBoolean(text).has_value() : parseColor(text).has_value();
-        *static_cast<bool*>(place) |= given;
-        return given;
-    }
-    case FieldKind::Byte: return assign<std::uint8_t>(place, parseByte(text));
-    case FieldKind::Length:
-    case FieldKind::Integer: return assign<std::int32_t>(place, leadingInteger(text));
-    case FieldKind::Unsigned: return assign<std::uint32_t>(place, leadingUnsigned(text));
-    case FieldKind::Boolean: return assign<bool>(place, parseBoolean(text));
-    case FieldKind::Weight: return assign<std::int32_t>(place, parseWeight(text));
-    case FieldKind::Text: return assign<std::wstring>(place, std::optional(text));
-    case FieldKind::Word: return assign<std::uint8_t>(place, parseWord(vocabularyOf(field), text));
-    case FieldKind::Role: return assign<std::optional<PaletteRole>>(place, parseWord<PaletteRole>(text));
-    case FieldKind::Colors: return assign<std::vector<ThemeColor>>(place, parseThemeColors(text));
-    case FieldKind::InsetSides: return assign<Insets>(place, parseInsets(text));
-    case FieldKind::SurfaceMaterial: return readSurfaceMaterial(text, *static_cast<SurfaceStyle*>(place));
-    case FieldKind::SurfaceAlphaShape: return readAlphaShape(text, *static_cast<SurfaceStyle*>(place));
-    case FieldKind::ProfileMaterial: return readProfileMaterial(text, *static_cast<MaterialProfile*>(place));
-    case FieldKind::ProfilePreset:
-        return readProfilePreset(text, *static_cast<MaterialPreset*>(place),
-                                 *static_cast<MaterialProfile*>(record));
-    case FieldKind::SurfaceImagePath: {
-        auto& surface = *static_cast<SurfaceStyle*>(place);
-        BitmapSkin image = surface.image ? *surface.image : BitmapSkin{};
-        image.path = text;
-        setImage(surface, std::move(image));
-        return true;
-    }
-    case FieldKind::Record:
-    case FieldKind::States:
-    case FieldKind::Geometry:
-    case FieldKind::SurfaceImage: return false;
-    }
-    return false;
-}
-
 constexpr std::string_view kShapeSuffix = "Shape";
 
 // The key with the state in place of its "*".
@@ -317,34 +275,51 @@ bool startsKey(std::string_view key, std::wstring_view name)
 
 } // namespace
 
+bool readText(const Field& field, std::wstring_view text, void* record, void* place)
+{
+    switch (field.kind) {
+    case FieldKind::ColorValue: return assign<Color>(place, parseColor(text));
+    case FieldKind::Given: {
+        const bool given = field.detail ? parseBoolean(text).has_value() : parseColor(text).has_value();
+        *static_cast<bool*>(place) |= given;
+        return given;
+    }
+    case FieldKind::Byte: return assign<std::uint8_t>(place, parseByte(text));
+    case FieldKind::Length:
+    case FieldKind::Integer: return assign<std::int32_t>(place, leadingInteger(text));
+    case FieldKind::Unsigned: return assign<std::uint32_t>(place, leadingUnsigned(text));
+    case FieldKind::Boolean: return assign<bool>(place, parseBoolean(text));
+    case FieldKind::Weight: return assign<std::int32_t>(place, parseWeight(text));
+    case FieldKind::Text: return assign<std::wstring>(place, std::optional(text));
+    case FieldKind::Word: return assign<std::uint8_t>(place, parseWord(vocabularyOf(field), text));
+    case FieldKind::Role: return assign<std::optional<PaletteRole>>(place, parseWord<PaletteRole>(text));
+    case FieldKind::Colors: return assign<std::vector<ThemeColor>>(place, parseThemeColors(text));
+    case FieldKind::InsetSides: return assign<Insets>(place, parseInsets(text));
+    case FieldKind::SurfaceMaterial: return readSurfaceMaterial(text, *static_cast<SurfaceStyle*>(place));
+    case FieldKind::SurfaceAlphaShape: return readAlphaShape(text, *static_cast<SurfaceStyle*>(place));
+    case FieldKind::ProfileMaterial: return readProfileMaterial(text, *static_cast<MaterialProfile*>(place));
+    case FieldKind::ProfilePreset:
+        return readProfilePreset(text, *static_cast<MaterialPreset*>(place),
+                                 *static_cast<MaterialProfile*>(record));
+    case FieldKind::SurfaceImagePath: {
+        auto& surface = *static_cast<SurfaceStyle*>(place);
+        BitmapSkin image = surface.image ? *surface.image : BitmapSkin{};
+        image.path = text;
+        setImage(surface, std::move(image));
+        return true;
+    }
+    case FieldKind::Record:
+    case FieldKind::States:
+    case FieldKind::Geometry:
+    case FieldKind::SurfaceImage: return false;
+    }
+    return false;
+}
+
 void readRecord(const SkinView& view, const FieldTable& table, void* record, KeyStyle keys)
 {
     if (!view.empty())
         RecordReader(view, table, record, keys).read();
-}
-
-bool acceptsText(const Field& field, std::wstring_view text)
-{
-    // One place of each type that a field can have; which one the text lands in follows from the kind.
-    SurfaceStyle surface;
-    MaterialProfile profile;
-    Insets insets;
-    std::wstring string;
-    std::vector<ThemeColor> colors;
-    std::optional<PaletteRole> role;
-    std::uint32_t scalar = 0;
-    switch (field.kind) {
-    case FieldKind::SurfaceMaterial:
-    case FieldKind::SurfaceImagePath:
-    case FieldKind::SurfaceAlphaShape: return readText(field, text, &surface, &surface);
-    case FieldKind::ProfileMaterial: return readText(field, text, &profile, &profile);
-    case FieldKind::ProfilePreset: return readText(field, text, &profile, &profile.control);
-    case FieldKind::Text: return readText(field, text, nullptr, &string);
-    case FieldKind::Colors: return readText(field, text, nullptr, &colors);
-    case FieldKind::Role: return readText(field, text, nullptr, &role);
-    case FieldKind::InsetSides: return readText(field, text, nullptr, &insets);
-    default: return readText(field, text, nullptr, &scalar);
-    }
 }
 
 bool isFieldKey(const FieldTable& table, std::wstring_view key, KeyStyle keys)

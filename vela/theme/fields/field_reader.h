@@ -33,8 +33,9 @@ void readRecord(const SkinMap& map, std::wstring_view prefix, Record& record)
 // Whether a key is that of a field, or the first segment of one.
 bool isFieldKey(const FieldTable& table, std::wstring_view key, KeyStyle keys = KeyStyle::Full);
 
-// Whether a text, in place of what the field holds, would be read; for tools, since reading reports nothing.
-bool acceptsText(const Field& field, std::wstring_view text);
+// Reads one text into the place of a field. The record is the one that holds the field there. False, with
+// nothing changed, when the text is no value of the field.
+bool readText(const Field& field, std::wstring_view text, void* record, void* place);
 
 // Writes the shape fields of a record, and of the records within it, into the surfaces they shape.
 void spreadShapes(const FieldTable& table, void* record) noexcept;
