@@ -2,7 +2,6 @@
 
 #include "tools/skin_lint/document_lint.h"
 
-#include "vela/text.h"
 #include "vela/theme/document/json.h"
 #include "vela/theme/document/utf8.h"
 #include "vela/theme/skins/skin_catalog.h"
@@ -18,13 +17,6 @@ using vela::lint::Finding;
 using vela::lint::Severity;
 
 namespace {
-
-auto findId(const std::vector<SkinDefinition>& skins, std::wstring_view id)
-{
-    return std::find_if(skins.begin(), skins.end(), [id](const SkinDefinition& skin) {
-        return vela::equalsIgnoringAsciiCase(skin.id, id);
-    });
-}
 
 std::vector<std::wstring> linesOf(const FileReport& report)
 {
@@ -91,7 +83,7 @@ void SkinShelf::join()
     const std::wstring id = skins_.empty() ? std::wstring() : skin().id;
     skins_ = fromFile_;
     for (const SkinDefinition& skin : catalogue_) {
-        if (findId(fromFile_, skin.id) == fromFile_.end())
+        if (!vela::findSkin(fromFile_, skin.id))
             skins_.push_back(skin);
     }
     if (skins_.empty())
@@ -102,10 +94,10 @@ void SkinShelf::join()
 
 bool SkinShelf::choose(std::wstring_view id)
 {
-    const auto found = findId(skins_, id);
-    if (found == skins_.end())
+    const SkinDefinition* const found = vela::findSkin(skins_, id);
+    if (!found)
         return false;
-    index_ = static_cast<std::size_t>(found - skins_.begin());
+    index_ = static_cast<std::size_t>(found - skins_.data());
     return true;
 }
 

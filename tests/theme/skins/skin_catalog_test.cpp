@@ -149,8 +149,8 @@ TEST(SkinCatalog, FindsTheFirstSkinOfAnIdOrTheBuiltInOne)
         EXPECT_EQ(catalog.find(row.id).name, row.name) << std::string(row.id.begin(), row.id.end());
     host.lightTheme = 0;
     EXPECT_EQ(catalog.find(L"windows11-auto").name, L"dark");
-    EXPECT_EQ(catalog.findUnresolved(L"WIN11-auto").name, L"auto");
-    EXPECT_EQ(catalog.findUnresolved(L"windows-11-auto").name, L"");
+    EXPECT_EQ(findSkin(catalog.skins(), L"WIN11-auto")->name, L"auto");
+    EXPECT_EQ(findSkin(catalog.skins(), L"windows-11-auto"), nullptr);
 }
 
 TEST(SkinCatalog, WithoutSkinsGivesTheBuiltInOne)

@@ -39,6 +39,13 @@ StyleSheet styleSheetFor(const SkinDefinition& skin, SkinHost& host)
     return sheet;
 }
 
+const SkinDefinition* findSkin(std::span<const SkinDefinition> skins, std::wstring_view id) noexcept
+{
+    const auto found = std::ranges::find_if(
+        skins, [id](const SkinDefinition& skin) { return equalsIgnoringAsciiCase(skin.id, id); });
+    return found != skins.end() ? &*found : nullptr;
+}
+
 SkinCatalog::SkinCatalog(SkinHost& host, std::span<const std::wstring> folders) : host_(host)
 {
     for (const std::wstring& folder : folders) {
@@ -50,15 +57,8 @@ SkinCatalog::SkinCatalog(SkinHost& host, std::span<const std::wstring> folders) 
 
 const SkinDefinition& SkinCatalog::find(std::wstring_view requestedId) const
 {
-    return findUnresolved(resolveSkinId(requestedId, host_));
-}
-
-const SkinDefinition& SkinCatalog::findUnresolved(std::wstring_view id) const
-{
-    const auto found = std::find_if(skins_.begin(), skins_.end(), [&](const SkinDefinition& skin) {
-        return equalsIgnoringAsciiCase(skin.id, id);
-    });
-    return found != skins_.end() ? *found : builtInSkin();
+    const SkinDefinition* const found = findSkin(skins_, resolveSkinId(requestedId, host_));
+    return found ? *found : builtInSkin();
 }
 
 } // namespace vela

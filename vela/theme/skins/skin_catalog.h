@@ -22,6 +22,10 @@ const SkinDefinition& builtInSkin();
 // colours.
 StyleSheet styleSheetFor(const SkinDefinition& skin, SkinHost& host);
 
+// The first skin of that id, in any case; null when there is none. Nothing is resolved: here the automatic
+// Windows 11 skin is a skin like any other.
+const SkinDefinition* findSkin(std::span<const SkinDefinition> skins, std::wstring_view id) noexcept;
+
 class SkinCatalog {
 public:
     // Reads the folders in their order. The host is borrowed and must outlive the catalogue.
@@ -31,9 +35,6 @@ public:
 
     // The first skin whose id is the resolved one, or the built-in skin.
     const SkinDefinition& find(std::wstring_view requestedId) const;
-
-    // The same without resolution, for tools: here the automatic Windows 11 skin is a skin like any other.
-    const SkinDefinition& findUnresolved(std::wstring_view id) const;
 
 private:
     SkinHost& host_;
