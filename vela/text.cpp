@@ -30,6 +30,16 @@ std::optional<Integer> leadingNumber(std::wstring_view text) noexcept
 
 } // namespace
 
+std::optional<std::uint32_t> hexDigit(wchar_t c) noexcept
+{
+    if (isDigit(c))
+        return static_cast<std::uint32_t>(c - L'0');
+    const wchar_t lower = lowerAscii(c);
+    if (lower >= L'a' && lower <= L'f')
+        return static_cast<std::uint32_t>(lower - L'a' + 10);
+    return std::nullopt;
+}
+
 std::wstring_view trimmed(std::wstring_view text) noexcept
 {
     while (!text.empty() && isSpace(text.front()))

@@ -18,6 +18,9 @@ constexpr wchar_t lowerAscii(wchar_t c) noexcept
     return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
 }
 
+// The value of a hexadecimal digit in either case.
+std::optional<std::uint32_t> hexDigit(wchar_t c) noexcept;
+
 // The part of the text between the first and the last character that is not white space.
 std::wstring_view trimmed(std::wstring_view text) noexcept;
 

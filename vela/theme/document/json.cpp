@@ -34,16 +34,6 @@ constexpr Word kWords[] = {
     {L"null", JsonKind::Null, false},
 };
 
-std::optional<unsigned> hexDigit(wchar_t c) noexcept
-{
-    if (isDigit(c))
-        return static_cast<unsigned>(c - L'0');
-    const wchar_t lower = lowerAscii(c);
-    if (lower >= L'a' && lower <= L'f')
-        return static_cast<unsigned>(lower - L'a') + 10;
-    return std::nullopt;
-}
-
 // The C library's conversion without its locale: the point, which a locale may spell otherwise, is left out
 // and the exponent lowered by the digits behind it. (std::from_chars knows no locale either, but adds 33 KB
 // to a static program where this adds 14.)
@@ -66,7 +56,8 @@ double toDouble(std::wstring_view scanned)
     if (mantissaEnd < scanned.size())
         exponent += leadingInteger(scanned.substr(mantissaEnd + 1)).value_or(0);
     decimal += 'e';
-    decimal += std::to_string(exponent);
+    const std::wstring digits = decimalText(exponent);
+    decimal.append(digits.begin(), digits.end());
     return std::strtod(decimal.c_str(), nullptr);
 }
 
@@ -238,7 +229,7 @@ private:
         if (!take(L'u'))
             return fail("unknown escape");
         // One unit, wherever wchar_t has 32 bits too: a pair of surrogates stays two.
-        unsigned code = 0;
+        std::uint32_t code = 0;
         for (int digit = 0; digit < 4; ++digit, ++at_) {
             const auto value = hexDigit(*at_);
             if (!value)

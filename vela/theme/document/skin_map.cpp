@@ -17,19 +17,11 @@ constexpr std::size_t kMaxPathLength = 192;
 // Every number of a skin is an integer; one beyond any field's range only has to stay beyond it.
 constexpr double kMaxNumber = 1e15;
 
-void appendNumber(std::wstring& text, double number)
+std::wstring numberText(double number)
 {
     const bool negative = number < 0;
-    auto left = static_cast<std::uint64_t>(std::min(negative ? -number : number, kMaxNumber));
-    wchar_t digits[24];
-    std::size_t first = std::size(digits);
-    do {
-        digits[--first] = static_cast<wchar_t>(L'0' + left % 10);
-        left /= 10;
-    } while (left != 0);
-    if (negative)
-        text += L'-';
-    text.append(digits + first, std::size(digits) - first);
+    const double magnitude = std::min(negative ? -number : number, kMaxNumber);
+    return decimalText(static_cast<std::uint64_t>(magnitude), negative);
 }
 
 // False when the value is no leaf or is null.
@@ -38,7 +30,7 @@ bool appendLeaf(std::wstring& text, const JsonValue& value)
     if (const std::optional<std::wstring_view> string = value.string())
         text += *string;
     else if (const std::optional<double> number = value.number())
-        appendNumber(text, *number);
+        text += numberText(*number);
     else if (const std::optional<bool> boolean = value.boolean())
         text += *boolean ? L"true" : L"false";
     else

@@ -14,16 +14,6 @@ namespace {
 constexpr std::int32_t kMinWeight = 100;
 constexpr std::int32_t kMaxWeight = 900;
 
-std::optional<std::uint32_t> hexDigit(wchar_t c) noexcept
-{
-    if (isDigit(c))
-        return static_cast<std::uint32_t>(c - L'0');
-    const wchar_t lower = lowerAscii(c);
-    if (lower >= L'a' && lower <= L'f')
-        return static_cast<std::uint32_t>(lower - L'a' + 10);
-    return std::nullopt;
-}
-
 std::optional<Color> parseHexColor(std::wstring_view text) noexcept
 {
     constexpr std::size_t kDigits = 6;
