@@ -72,7 +72,9 @@ std::string acceptedBy(const Field& field)
     case FieldKind::Length:
     case FieldKind::Integer: return "a whole number";
     case FieldKind::Unsigned: return "a whole number from 0 to 4294967295";
-    case FieldKind::Weight: return "a number from 100 to 900 or " + listOf(wordsOf(kWeightWords));
+    case FieldKind::Weight:
+        return "a number from " + std::to_string(kMinFontWeight) + " to " + std::to_string(kMaxFontWeight) +
+               " or " + listOf(wordsOf(kWeightWords));
     case FieldKind::Text:
     case FieldKind::SurfaceImagePath: return "a text";
     case FieldKind::Colors: return "a list of palette roles and #RRGGBB colours";

@@ -231,11 +231,6 @@ private:
             values_.report(value, path, "there is no style \"" + toUtf8(name) + "\" to start from");
     }
 
-    static bool isInheritanceKey(std::wstring_view name)
-    {
-        return anyWord(kInheritanceKeys, [name](std::string_view key) { return isName(name, key); });
-    }
-
     static std::vector<std::string> sectionNames()
     {
         std::vector<std::string> names;

@@ -7,8 +7,6 @@
 namespace vela::lint {
 namespace {
 
-constexpr std::string_view kShapeSuffix = "Shape";
-
 // The key with its "*" replaced by each word for a state; a key without one as it is.
 template <typename Visit>
 void eachSpelledOut(std::string_view key, Visit&& visit)
@@ -84,8 +82,8 @@ void KeyScope::addKey(const Field& field, std::string_view key, KeyStyle keys)
     // In a section of shapes "shape" may be left out of a key.
     if (key == "shape")
         add(field, {}, keys);
-    else if (key.ends_with(kShapeSuffix))
-        add(field, key.substr(0, key.size() - kShapeSuffix.size()), keys);
+    else if (const std::string_view part = withoutShapeSuffix(key); !part.empty())
+        add(field, part, keys);
 }
 
 KeyScope KeyScope::below(std::wstring_view member) const

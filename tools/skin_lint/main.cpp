@@ -34,8 +34,11 @@ FileReport lintFile(const char* path, std::vector<KnownId>& known)
     if (!bytes)
         report.findings.push_back({Severity::Error, 0, {}, "the file cannot be read"});
     else if (bytes->size() > kMaxSkinFileSize)
-        report.findings.push_back(
-            {Severity::Error, 0, {}, "the file is larger than 8 MB and would not be read"});
+        report.findings.push_back({Severity::Error,
+                                   0,
+                                   {},
+                                   "the file is larger than " + std::to_string(kMaxSkinFileSize >> 20) +
+                                       " MB and would not be read"});
     else
         report.findings = lintDocument(report.text = decodeUtf8(*bytes), report.file, known);
     return report;

@@ -160,8 +160,8 @@ private:
         case FieldKind::Unsigned: return number("unsigned", {{"minimum", 0}, {"maximum", 4294967295U}});
         case FieldKind::Boolean: return boolean();
         case FieldKind::Weight:
-            return anyOf(
-                {number("weight-number", {{"minimum", 100}, {"maximum", 900}}), vocabulary(kWeightWords)});
+            return anyOf({number("weight-number", {{"minimum", kMinFontWeight}, {"maximum", kMaxFontWeight}}),
+                          vocabulary(kWeightWords)});
         case FieldKind::Role: return vocabulary(kPaletteRoleWords);
         case FieldKind::Colors: return anyOf({text, {{"type", "array"}, {"items", text}}});
         case FieldKind::InsetSides:

@@ -18,7 +18,7 @@ FontSpec textOf(const Context& context, Color color, Color disabledColor, TypeSt
 {
     FontSpec font = context.theme.uiFont;
     font.pointSize = std::max(std::clamp(font.pointSize, 1, kLargestPoints) + step.points, 1);
-    font.weight = std::clamp(font.weight + step.weight, 100, std::max(font.weight, 700));
+    font.weight = std::clamp(font.weight + step.weight, kMinFontWeight, std::max(font.weight, 700));
     font.color = color;
     font.disabledColor = disabledColor;
     return font;

@@ -97,8 +97,6 @@ void setImage(SurfaceStyle& surface, BitmapSkin image)
     surface.image = std::move(image);
 }
 
-constexpr std::string_view kShapeSuffix = "Shape";
-
 // The key with the state in place of its "*".
 std::wstring keyOfState(std::string_view pattern, std::string_view state)
 {
@@ -142,9 +140,8 @@ private:
     {
         if (key == "shape")
             return visit(view_, kAllStates);
-        if (!key.ends_with(kShapeSuffix) || !mayHold(key))
-            return false;
-        return visit(view_.at(key.substr(0, key.size() - kShapeSuffix.size())), kAllStates);
+        const std::string_view part = withoutShapeSuffix(key);
+        return !part.empty() && mayHold(part) && visit(view_.at(part), kAllStates);
     }
 
     template <typename Visit>
@@ -316,6 +313,12 @@ bool readText(const Field& field, std::wstring_view text, void* record, void* pl
     return false;
 }
 
+std::string_view withoutShapeSuffix(std::string_view key) noexcept
+{
+    constexpr std::string_view kSuffix = "Shape";
+    return key.ends_with(kSuffix) ? key.substr(0, key.size() - kSuffix.size()) : std::string_view();
+}
+
 void readRecord(const SkinView& view, const FieldTable& table, void* record, KeyStyle keys)
 {
     if (!view.empty())
@@ -330,8 +333,8 @@ bool isFieldKey(const FieldTable& table, std::wstring_view key, KeyStyle keys)
                 return field.kind == FieldKind::Record && isFieldKey(tableOf(field), key, keys);
             if (startsKey(alias, key))
                 return true;
-            return keys == KeyStyle::ShapeImplied && holdsShape(field) && alias.ends_with(kShapeSuffix) &&
-                   isName(key, alias.substr(0, alias.size() - kShapeSuffix.size()));
+            const std::string_view part = withoutShapeSuffix(alias);
+            return keys == KeyStyle::ShapeImplied && holdsShape(field) && !part.empty() && isName(key, part);
         });
         if (found)
             return true;

@@ -14,6 +14,9 @@ namespace vela {
 // place of a record is that record's "shape".
 enum class KeyStyle : std::uint8_t { Full, ShapeImplied };
 
+// What such a key is then: "track" of "trackShape"; empty for keys that do not end so, as "shape" itself.
+std::string_view withoutShapeSuffix(std::string_view key) noexcept;
+
 // The record must be of the type that the table describes.
 void readRecord(const SkinView& view, const FieldTable& table, void* record, KeyStyle keys = KeyStyle::Full);
 

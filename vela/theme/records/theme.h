@@ -12,10 +12,13 @@
 
 namespace vela {
 
+inline constexpr std::int32_t kMinFontWeight = 100;
+inline constexpr std::int32_t kMaxFontWeight = 900;
+
 struct FontSpec {
     std::wstring family;         // empty: the renderer's default face
     std::int32_t pointSize = 10; // points
-    std::int32_t weight = 400;   // 100 to 900
+    std::int32_t weight = 400;
     Color color = hexColor(0xD3E4DD);
     Color disabledColor = hexColor(0x7A928C);
     bool italic = false;

@@ -2,6 +2,7 @@
 
 #include "vela/text.h"
 #include "vela/theme/records/spellings.h"
+#include "vela/theme/records/theme.h"
 
 #include <algorithm>
 #include <array>
@@ -10,9 +11,6 @@
 
 namespace vela {
 namespace {
-
-constexpr std::int32_t kMinWeight = 100;
-constexpr std::int32_t kMaxWeight = 900;
 
 std::optional<Color> parseHexColor(std::wstring_view text) noexcept
 {
@@ -94,7 +92,7 @@ std::optional<std::int32_t> parseWeight(std::wstring_view text) noexcept
     if (const std::optional<std::uint16_t> named = parseWord(kWeightWords, text))
         return *named;
     const std::optional<std::int32_t> number = leadingInteger(text);
-    return number && *number >= kMinWeight && *number <= kMaxWeight ? number : std::nullopt;
+    return number && *number >= kMinFontWeight && *number <= kMaxFontWeight ? number : std::nullopt;
 }
 
 std::optional<Insets> parseInsets(std::wstring_view text) noexcept

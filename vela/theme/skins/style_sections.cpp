@@ -141,11 +141,6 @@ std::wstring_view inheritedName(const SkinView& block)
     return name;
 }
 
-bool isInheritanceKey(std::wstring_view name)
-{
-    return anyWord(kInheritanceKeys, [name](std::string_view key) { return isName(name, key); });
-}
-
 // "kind.variant", where the variant may be left out.
 struct StyleName {
     const ControlSection* section; // null when there is no such kind
@@ -301,6 +296,11 @@ void spreadDerivedShapes(StyleSheet& sheet)
 }
 
 } // namespace
+
+bool isInheritanceKey(std::wstring_view name) noexcept
+{
+    return anyWord(kInheritanceKeys, [name](std::string_view key) { return isName(name, key); });
+}
 
 std::span<const ControlSection> controlSections() noexcept { return kSections; }
 

@@ -25,6 +25,7 @@
 namespace vela {
 
 inline constexpr std::string_view kInheritanceKeys = "inherits extends base";
+bool isInheritanceKey(std::wstring_view name) noexcept;
 inline constexpr int kMaxInheritance = 8;
 
 // Variants that one kind may have; a skin cannot add more.
