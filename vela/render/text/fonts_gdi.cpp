@@ -1,5 +1,6 @@
 #include "vela/render/text/fonts_gdi.h"
 
+#include "vela/folder_listing_win32.h"
 #include "vela/render/text/fonts.h"
 #include "vela/text.h"
 
@@ -8,12 +9,6 @@
 
 namespace vela {
 namespace {
-
-struct FindTraits {
-    using Handle = HANDLE;
-    static Handle empty() noexcept { return INVALID_HANDLE_VALUE; }
-    static void close(Handle search) noexcept { ::FindClose(search); }
-};
 
 class PrivateFonts {
 public:
@@ -24,14 +19,10 @@ public:
     {
         if (std::exchange(loaded_, true) || folder_.empty())
             return;
-        WIN32_FIND_DATAW found;
-        const Owned<FindTraits> search(::FindFirstFileW((folder_ + L"\\*").c_str(), &found));
-        if (!search)
-            return;
-        do {
-            if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && isFontFileName(found.cFileName))
-                add(folder_ + L"\\" + found.cFileName);
-        } while (::FindNextFileW(search.get(), &found));
+        for (const std::wstring& name : fileNamesIn(folder_)) {
+            if (isFontFileName(name))
+                add(folder_ + L"\\" + name);
+        }
     }
 
 private:

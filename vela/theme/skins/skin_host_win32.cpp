@@ -1,5 +1,6 @@
 #include "vela/theme/skins/skin_host_win32.h"
 
+#include "vela/folder_listing_win32.h"
 #include "vela/owned_win32.h"
 
 #include <utility>
@@ -9,13 +10,6 @@
 namespace vela {
 
 namespace {
-
-struct FileSearchTraits {
-    using Handle = HANDLE;
-    static Handle empty() noexcept { return INVALID_HANDLE_VALUE; }
-    static void close(Handle handle) noexcept { ::FindClose(handle); }
-};
-using OwnedFileSearch = Owned<FileSearchTraits>;
 
 std::vector<std::wstring>& skinFolders()
 {
@@ -27,17 +21,7 @@ std::vector<std::wstring>& skinFolders()
 
 std::vector<std::wstring> WindowsSkinHost::fileNames(const std::wstring& folder)
 {
-    std::vector<std::wstring> names;
-    // All files, because a pattern would also match short names: "*.json" finds "skin.jsonx".
-    WIN32_FIND_DATAW entry{};
-    const OwnedFileSearch search(::FindFirstFileW((folder + L"\\*").c_str(), &entry));
-    if (!search)
-        return names;
-    do {
-        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
-            names.emplace_back(entry.cFileName);
-    } while (::FindNextFileW(search.get(), &entry));
-    return names;
+    return fileNamesIn(folder);
 }
 
 std::optional<std::string> WindowsSkinHost::readFile(const std::wstring& path, std::size_t limit)
