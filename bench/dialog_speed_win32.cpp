@@ -9,8 +9,8 @@
 
 #include "vela/render/gdi/dib_gdi.h"
 #include "vela/render/gdi/paint_context.h"
-#include "vela/theme/skins/skin_host_win32.h"
 #include "vela/theme/skins/style_sections.h"
+#include "vela/theme/skins/system_skins.h"
 
 #include <algorithm>
 #include <chrono>

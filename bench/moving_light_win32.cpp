@@ -5,8 +5,8 @@
 #include "app/dialogs/toolkit_texts.h"
 
 #include "vela/render/materials/material_overlay_gdi.h"
-#include "vela/theme/skins/skin_host_win32.h"
 #include "vela/theme/skins/style_sections.h"
+#include "vela/theme/skins/system_skins.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -5,7 +5,7 @@
 
 #include "vela/render/bitmaps/surface_bitmaps.h"
 #include "vela/render/text/fonts.h"
-#include "vela/theme/skins/skin_host_win32.h"
+#include "vela/theme/skins/system_skins.h"
 
 namespace setup {
 namespace {

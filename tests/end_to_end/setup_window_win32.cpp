@@ -8,8 +8,8 @@
 #include "tools/png_file_win32.h"
 #include "vela/com_apartment_win32.h"
 #include "vela/render/gdi/dib_gdi.h"
-#include "vela/theme/skins/skin_host_win32.h"
 #include "vela/theme/skins/style_sections.h"
+#include "vela/theme/skins/system_skins.h"
 
 #include <algorithm>
 #include <filesystem>

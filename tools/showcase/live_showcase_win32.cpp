@@ -9,6 +9,7 @@
 #include "vela/theme/skins/skin_files.h"
 #include "vela/theme/skins/skin_host_win32.h"
 #include "vela/theme/skins/style_sections.h"
+#include "vela/theme/skins/system_skins.h"
 
 #include <algorithm>
 #include <memory>

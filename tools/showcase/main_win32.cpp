@@ -5,7 +5,7 @@
 #include "app/dialogs/toolkit_texts.h"
 
 #include "vela/render/text/fonts.h"
-#include "vela/theme/skins/skin_host_win32.h"
+#include "vela/theme/skins/system_skins.h"
 
 #include <cstdio>
 

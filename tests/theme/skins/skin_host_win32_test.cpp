@@ -1,6 +1,7 @@
 #include "vela/theme/skins/skin_host_win32.h"
 
 #include "vela/owned_win32.h"
+#include "vela/theme/skins/system_skins.h"
 
 #include <algorithm>
 #include <string>

@@ -3,21 +3,9 @@
 #include "vela/folder_listing_win32.h"
 #include "vela/owned_win32.h"
 
-#include <utility>
-
 #include <windows.h>
 
 namespace vela {
-
-namespace {
-
-std::vector<std::wstring>& skinFolders()
-{
-    static std::vector<std::wstring> folders;
-    return folders;
-}
-
-} // namespace
 
 std::vector<std::wstring> WindowsSkinHost::fileNames(const std::wstring& folder)
 {
@@ -65,33 +53,6 @@ std::optional<SystemColors> WindowsSkinHost::highContrastColors()
                         .highlightText = ::GetSysColor(COLOR_HIGHLIGHTTEXT),
                         .buttonFace = ::GetSysColor(COLOR_BTNFACE),
                         .buttonText = ::GetSysColor(COLOR_BTNTEXT)};
-}
-
-SkinHost& systemSkinHost()
-{
-    static WindowsSkinHost host;
-    return host;
-}
-
-void setSkinFolders(std::vector<std::wstring> folders) { skinFolders() = std::move(folders); }
-
-const SkinCatalog& skinCatalog()
-{
-    static const SkinCatalog catalog(systemSkinHost(), skinFolders());
-    return catalog;
-}
-
-std::shared_ptr<const StyleSheet> systemStyles(std::wstring_view requestedId)
-{
-    static const SkinDefinition* skin = nullptr;
-    static std::optional<SystemColors> colors;
-    static std::shared_ptr<const StyleSheet> sheet;
-    const SkinDefinition& wanted = skinCatalog().find(requestedId);
-    const std::optional<SystemColors> contrast = systemSkinHost().highContrastColors();
-    const bool sameSkin = std::exchange(skin, &wanted) == &wanted;
-    if (std::exchange(colors, contrast) != contrast || !sameSkin)
-        sheet = std::make_shared<const StyleSheet>(styleSheetFor(wanted, systemSkinHost()));
-    return sheet;
 }
 
 } // namespace vela

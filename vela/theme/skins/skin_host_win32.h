@@ -1,12 +1,7 @@
-// The catalogue's machine, and the catalogue of this process. UI thread only.
+// The machine as the catalogue sees it: files, the user's choice of light or dark, and the contrast theme.
 #pragma once
 
-#include "vela/theme/skins/skin_catalog.h"
-
-#include <memory>
-#include <string>
-#include <string_view>
-#include <vector>
+#include "vela/theme/skins/skin_files.h"
 
 namespace vela {
 
@@ -17,21 +12,5 @@ public:
     std::optional<std::uint32_t> appsUseLightTheme() override;
     std::optional<SystemColors> highContrastColors() override;
 };
-
-// The folders that the process's catalogue is read from, in order: "skins" beside the program first, so that
-// a user's file wins over those the program brings. Means something only before the first use of
-// skinCatalog().
-void setSkinFolders(std::vector<std::wstring> folders);
-
-// The machine itself.
-SkinHost& systemSkinHost();
-
-// Read from disk on the first call and kept until the process ends: a file that changes meanwhile counts from
-// the next start on.
-const SkinCatalog& skinCatalog();
-
-// What a window's style source gives: the styles of the requested skin, "win11-auto" among them, for the
-// system's present light or dark and high-contrast mode. The last ones are kept while nothing changes.
-std::shared_ptr<const StyleSheet> systemStyles(std::wstring_view requestedId);
 
 } // namespace vela
