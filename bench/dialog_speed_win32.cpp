@@ -9,6 +9,7 @@
 
 #include "vela/render/gdi/dib_gdi.h"
 #include "vela/render/gdi/paint_context.h"
+#include "vela/resource_folders.h"
 #include "vela/theme/skins/style_sections.h"
 #include "vela/theme/skins/system_skins.h"
 
@@ -133,7 +134,7 @@ int wmain(int count, wchar_t** arguments)
     if (count < 2)
         return 2;
     vela::setToolkitTexts(setup::kToolkitTexts);
-    vela::setSkinFolders({arguments[1]});
+    vela::setResourceFolders({.skins = {arguments[1]}, .fonts = {}, .bitmaps = {}});
     const vela::SkinCatalog& catalog = vela::skinCatalog();
     std::printf("goals: a dialog of 690 x 420 within %.1f ms, a button within %.1f ms\n", kDialogGoal,
                 kButtonGoal);

@@ -5,6 +5,7 @@
 #include "app/dialogs/toolkit_texts.h"
 
 #include "vela/render/materials/material_overlay_gdi.h"
+#include "vela/resource_folders.h"
 #include "vela/theme/skins/style_sections.h"
 #include "vela/theme/skins/system_skins.h"
 
@@ -68,7 +69,7 @@ int wmain(int count, wchar_t** arguments)
     if (count < 3)
         return 2;
     vela::setToolkitTexts(setup::kToolkitTexts);
-    vela::setSkinFolders({arguments[1]});
+    vela::setResourceFolders({.skins = {arguments[1]}, .fonts = {}, .bitmaps = {}});
     const DWORD seconds = count > 3 ? static_cast<DWORD>(std::wcstoul(arguments[3], nullptr, 10)) : 10;
     const auto styles =
         std::make_shared<vela::StyleSheet>(vela::buildStyleSheet(vela::skinCatalog().find(arguments[2])));

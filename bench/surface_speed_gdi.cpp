@@ -4,6 +4,7 @@
 #include "vela/render/gdi/dib_gdi.h"
 #include "vela/render/paint/paint.h"
 #include "vela/render/text/text.h"
+#include "vela/resource_folders.h"
 #include "vela/theme/derive/derive_style_sheet.h"
 
 #include <algorithm>
@@ -85,6 +86,7 @@ void measureText(const vela::DibSurface& target)
 int main()
 {
     vela::setToolkitTexts(setup::kToolkitTexts);
+    vela::setResourceFolders({});
     const vela::DibSurface target({1960, 1120});
     for (const auto& [name, mode] :
          {std::pair{"flat", vela::SurfaceMode::Flat2d}, {"sculpted", vela::SurfaceMode::Sculpted3d}}) {

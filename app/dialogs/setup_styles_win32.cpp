@@ -3,8 +3,7 @@
 #include "app/dialogs/setup_skins.h"
 #include "app/run/paths.h"
 
-#include "vela/render/bitmaps/surface_bitmaps.h"
-#include "vela/render/text/fonts.h"
+#include "vela/resource_folders.h"
 #include "vela/theme/skins/system_skins.h"
 
 namespace setup {
@@ -15,10 +14,9 @@ void prepareSkins(SetupEffects& effects)
 {
     static const bool prepared = [&effects] {
         const std::wstring own = userSkinFolder(effects);
-        vela::setSkinFolders(prepareSkinFolders(effects));
-        if (!own.empty())
-            vela::setPrivateFontFolder(joinPath(own, L"fonts"));
-        vela::setBitmapFolder(own);
+        vela::setResourceFolders({.skins = prepareSkinFolders(effects),
+                                  .fonts = own.empty() ? std::wstring() : joinPath(own, L"fonts"),
+                                  .bitmaps = own});
         return true;
     }();
     static_cast<void>(prepared);

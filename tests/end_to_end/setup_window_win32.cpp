@@ -8,6 +8,7 @@
 #include "tools/png_file_win32.h"
 #include "vela/com_apartment_win32.h"
 #include "vela/render/gdi/dib_gdi.h"
+#include "vela/resource_folders.h"
 #include "vela/theme/skins/style_sections.h"
 #include "vela/theme/skins/system_skins.h"
 
@@ -28,7 +29,7 @@ constexpr std::wstring_view kWindowClass = L"VelaDesignWindow";
 setup::DialogHost planHost()
 {
     static const auto sheet = [] {
-        vela::setSkinFolders({source(L"resources")});
+        vela::setResourceFolders({.skins = {source(L"resources")}, .fonts = {}, .bitmaps = {}});
         return std::make_shared<const vela::StyleSheet>(
             vela::buildStyleSheet(vela::skinCatalog().find(setup::kSetupSkin)));
     }();

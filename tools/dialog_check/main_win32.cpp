@@ -9,6 +9,7 @@
 
 #include "vela/mul_div.h"
 #include "vela/render/surface/focus_ring.h"
+#include "vela/resource_folders.h"
 #include "vela/theme/document/json.h"
 #include "vela/theme/document/utf8.h"
 #include "vela/theme/skins/style_sections.h"
@@ -195,6 +196,7 @@ int wmain(int count, wchar_t** arguments)
         std::fputs("dialog_check SKINS-DOCUMENT\n", stderr);
         return 2;
     }
+    vela::setResourceFolders({});
     Check check;
     for (const vela::SkinDefinition& skin : readSkins(arguments[1]))
         for (const stage::Scene& scene : stage::scenes())

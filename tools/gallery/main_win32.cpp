@@ -4,6 +4,7 @@
 #include "tools/gallery/gallery_gdi.h"
 #include "tools/gallery/showcase_camera_gdi.h"
 #include "tools/showcase_content/contrast_themes.h"
+#include "vela/resource_folders.h"
 #include "vela/theme/document/json.h"
 #include "vela/theme/document/utf8.h"
 #include "vela/theme/skins/style_sections.h"
@@ -91,6 +92,7 @@ int wmain(int count, wchar_t** arguments)
         std::fputs("gallery OUTPUT-FOLDER SKINS-DOCUMENT [WORD]\n", stderr);
         return 2;
     }
+    vela::setResourceFolders({});
     const std::filesystem::path folder = arguments[1];
     const std::wstring word = count > 3 ? arguments[3] : L"";
     int failed = 0;

@@ -5,6 +5,7 @@
 #include "app/dialogs/toolkit_texts.h"
 
 #include "vela/render/text/fonts.h"
+#include "vela/resource_folders.h"
 #include "vela/theme/skins/system_skins.h"
 
 #include <cstdio>
@@ -43,8 +44,7 @@ int wmain(int count, wchar_t** words)
     }
     const std::wstring folder = programFolder();
     const std::wstring skins = folder + L"\\skins";
-    vela::setSkinFolders({skins});
-    vela::setPrivateFontFolder(folder + L"\\fonts");
+    vela::setResourceFolders({.skins = {skins}, .fonts = folder + L"\\fonts", .bitmaps = skins});
     showcase::LiveShowcase live(*arguments, vela::skinCatalog().skins(), skins);
     if (!live.open()) {
         std::fputs("the window cannot be opened\n", stderr);

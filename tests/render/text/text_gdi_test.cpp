@@ -6,6 +6,7 @@
 #include "vela/render/paint/paint.h"
 #include "vela/render/text/fonts.h"
 #include "vela/render/text/text_dwrite.h"
+#include "vela/resource_folders.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -26,13 +27,13 @@ FontSpec uiFont(std::int32_t points = 10, std::int32_t weight = 400)
     return {L"Segoe UI", points, weight, hexColor(0xF0F6F4), hexColor(0x808080)};
 }
 
-// A font file whose family exists nowhere else: one of the system's, renamed. The folder must be known before
-// the first font is made, so it is prepared before the first test.
+// A font file whose family exists nowhere else: one of the system's, renamed. It must lie in its folder
+// before the first font is made, so it is put there before the first test.
 class PrivateFontFolder final : public ::testing::Environment {
 public:
     void SetUp() override
     {
-        const std::wstring folder = std::wstring(L"" TAMBER_BINARY_DIR) + L"\\private-fonts";
+        const std::wstring& folder = resourceFolders().fonts;
         ::CreateDirectoryW(folder.c_str(), nullptr);
         std::ifstream source("Z:/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf", std::ios::binary);
         std::string font{std::istreambuf_iterator<char>(source), {}};
@@ -45,7 +46,6 @@ public:
                                            CREATE_ALWAYS, 0, nullptr));
         DWORD written = 0;
         ::WriteFile(file.get(), font.data(), static_cast<DWORD>(font.size()), &written, nullptr);
-        setPrivateFontFolder(folder);
     }
 };
 [[maybe_unused]] const auto* const kPrivateFontFolder =

@@ -1,7 +1,6 @@
 #include "vela/theme/skins/skin_host_win32.h"
 
 #include "vela/owned_win32.h"
-#include "vela/theme/skins/system_skins.h"
 
 #include <algorithm>
 #include <string>
@@ -64,15 +63,6 @@ TEST_F(SkinFolder, IsListedWithoutItsSubfoldersAndReadWhole)
     EXPECT_EQ(host.readFile(in(L"folder.json"), 20), std::nullopt);
     EXPECT_EQ(host.readFile(in(L"missing.json"), 20), std::nullopt);
     EXPECT_TRUE(host.fileNames(in(L"missing")).empty());
-}
-
-TEST_F(SkinFolder, FillsTheCatalogueOfTheProcessOnce)
-{
-    write(L"a.json", R"({"id": "kept", "name": "first"})");
-    setSkinFolders({folder_});
-    EXPECT_EQ(skinCatalog().find(L"kept").name, L"first");
-    write(L"a.json", R"({"id": "kept", "name": "changed"})");
-    EXPECT_EQ(skinCatalog().find(L"kept").name, L"first");
 }
 
 // The current user's keys, replaced by an empty one for the length of a test.

@@ -22,7 +22,10 @@ std::size_t BitmapCache::Weight::operator()(const Picture& picture) const noexce
                     kMostPixels / kMostPictures);
 }
 
-BitmapCache::BitmapCache(Decode decode) : decode_(decode), pictures_(kMostPixels) {}
+BitmapCache::BitmapCache(Decode decode, std::wstring folder)
+    : decode_(decode), folder_(std::move(folder)), pictures_(kMostPixels)
+{
+}
 
 void BitmapCache::setFolder(std::wstring folder)
 {

@@ -26,7 +26,7 @@ public:
     // Reads a picture file; an empty image when it is missing, damaged or too large.
     using Decode = BitmapImage (*)(const std::wstring& file);
 
-    explicit BitmapCache(Decode decode);
+    explicit BitmapCache(Decode decode, std::wstring folder = {});
 
     // Where the paths of styles lead: the folder of the current skin's document. Forgets all bitmaps.
     void setFolder(std::wstring folder);

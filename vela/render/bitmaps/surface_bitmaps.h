@@ -7,8 +7,8 @@
 
 namespace vela {
 
-// The folder of the current skin's document, to which the paths of its bitmaps are relative. To be called
-// whenever another skin becomes the current one; without it surfaces have no bitmaps.
+// For programs that show skins from elsewhere than the resource folders: the folder of the document that has
+// become the current one, to which the paths of its bitmaps are relative. Forgets all bitmaps.
 void setBitmapFolder(std::wstring folder);
 
 // Those that the style names and that could be read.

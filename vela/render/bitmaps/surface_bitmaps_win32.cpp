@@ -1,6 +1,7 @@
 #include "vela/render/bitmaps/surface_bitmaps.h"
 
 #include "vela/render/bitmaps/image_decoder_win32.h"
+#include "vela/resource_folders.h"
 
 #include <utility>
 
@@ -9,7 +10,7 @@ namespace {
 
 BitmapCache& cache()
 {
-    static BitmapCache bitmaps(decodeImage);
+    static BitmapCache bitmaps(decodeImage, resourceFolders().bitmaps);
     return bitmaps;
 }
 

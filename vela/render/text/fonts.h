@@ -13,11 +13,8 @@ namespace vela {
 // The GDI font of the record for a window of that DPI; null when the system can make none. Borrowed.
 HFONT fontFor(const FontSpec& font, std::int32_t dpi);
 
-// The folder whose font files become known to this process alone when the first font is asked for. To be
-// called before that, once; without it there are no private fonts.
-void setPrivateFontFolder(std::wstring folder);
-
-// Registers the files of that folder. The first font request does it too; only the first call has an effect.
+// Registers the files in the resource folder of fonts, for this process alone. The first font request does it
+// too; only the first call has an effect.
 void loadPrivateFonts();
 
 } // namespace vela

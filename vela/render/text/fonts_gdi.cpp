@@ -2,6 +2,7 @@
 
 #include "vela/folder_listing_win32.h"
 #include "vela/render/text/fonts.h"
+#include "vela/resource_folders.h"
 #include "vela/text.h"
 
 #include <algorithm>
@@ -12,16 +13,18 @@ namespace {
 
 class PrivateFonts {
 public:
-    void setFolder(std::wstring folder) { folder_ = std::move(folder); }
     const std::vector<std::wstring>& files() const noexcept { return files_; }
 
     void loadOnce()
     {
-        if (std::exchange(loaded_, true) || folder_.empty())
+        if (std::exchange(loaded_, true))
             return;
-        for (const std::wstring& name : fileNamesIn(folder_)) {
+        const std::wstring& folder = resourceFolders().fonts;
+        if (folder.empty())
+            return;
+        for (const std::wstring& name : fileNamesIn(folder)) {
             if (isFontFileName(name))
-                add(folder_ + L"\\" + name);
+                add(folder + L"\\" + name);
         }
     }
 
@@ -34,7 +37,6 @@ private:
             files_.push_back(std::move(path));
     }
 
-    std::wstring folder_;
     std::vector<std::wstring> files_;
     bool loaded_ = false;
 };
@@ -125,8 +127,6 @@ std::size_t fontCount() noexcept { return fonts().size(); }
 const std::vector<std::wstring>& privateFontFiles() { return privateFonts().files(); }
 
 HFONT fontFor(const FontSpec& font, std::int32_t dpi) { return ensureFont(font, dpi).owned.get(); }
-
-void setPrivateFontFolder(std::wstring folder) { privateFonts().setFolder(std::move(folder)); }
 
 void loadPrivateFonts() { privateFonts().loadOnce(); }
 

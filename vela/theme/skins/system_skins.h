@@ -4,22 +4,15 @@
 #include "vela/theme/skins/skin_catalog.h"
 
 #include <memory>
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace vela {
-
-// The folders that the process's catalogue is read from, in order: "skins" beside the program first, so that
-// a user's file wins over those the program brings. Means something only before the first use of
-// skinCatalog().
-void setSkinFolders(std::vector<std::wstring> folders);
 
 // The machine itself.
 SkinHost& systemSkinHost();
 
-// Read from disk on the first call and kept until the process ends: a file that changes meanwhile counts from
-// the next start on.
+// The skins in the resource folders, read from disk on the first call and kept until the process ends: a file
+// that changes meanwhile counts from the next start on.
 const SkinCatalog& skinCatalog();
 
 // What a window's style source gives: the styles of the requested skin, "win11-auto" among them, for the

@@ -1,22 +1,12 @@
 #include "vela/theme/skins/system_skins.h"
 
+#include "vela/resource_folders.h"
 #include "vela/theme/skins/skin_host_win32.h"
 
 #include <optional>
 #include <utility>
 
 namespace vela {
-namespace {
-
-std::vector<std::wstring>& skinFolders()
-{
-    static std::vector<std::wstring> folders;
-    return folders;
-}
-
-} // namespace
-
-void setSkinFolders(std::vector<std::wstring> folders) { skinFolders() = std::move(folders); }
 
 SkinHost& systemSkinHost()
 {
@@ -26,7 +16,7 @@ SkinHost& systemSkinHost()
 
 const SkinCatalog& skinCatalog()
 {
-    static const SkinCatalog catalog(systemSkinHost(), skinFolders());
+    static const SkinCatalog catalog(systemSkinHost(), resourceFolders().skins);
     return catalog;
 }
 
