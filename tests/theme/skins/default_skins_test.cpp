@@ -285,7 +285,8 @@ TEST(DefaultSkins, HaveTheAutomaticWindowsSkinEqualToTheLightOne)
     EXPECT_EQ(looksOf(L"win11-auto"), looksOf(L"win11-light"));
 }
 
-// Nothing of the materials, a graphics device least of all, comes to be for a Windows skin.
+// Nothing of the materials comes to be for a Windows skin, or the setup's own windows would wait for a
+// graphics device before their first picture.
 TEST(DefaultSkins, CarryNoMaterialInTheWindowsSkins)
 {
     for (const std::wstring_view id : {L"win11-auto", L"win11-light", L"win11-dark"}) {
@@ -324,18 +325,6 @@ float lookDistance(const SkinDefinition& one, const SkinDefinition& other)
     steps += one.theme.uiFont.family != other.theme.uiFont.family;
     steps += one.theme.materials.surface != other.theme.materials.surface;
     return colours / kPaletteRoleCount / kGlance + static_cast<float>(steps);
-}
-
-// Or the setup's own windows would wait for a graphics device before their first picture.
-TEST(DefaultSkins, HaveNoMaterialInTheWindowsSkins)
-{
-    for (const std::wstring_view id : {L"win11-light", L"win11-dark"}) {
-        testing_surfaces::visitSurfaces(
-            buildStyleSheet(skinNamed(id)),
-            [](const std::string& path, const SurfaceStyle& surface, const ShapeKind*) {
-                EXPECT_FALSE(carriesMaterial(surface)) << path;
-            });
-    }
 }
 
 TEST(DefaultSkins, AreToldApartAtAGlance)
