@@ -1,7 +1,7 @@
 // The contrast rules once more, on the pixels that the default skins really show under their texts.
 #include "tests/support/default_skins.h"
 #include "tests/support/rendered_tones.h"
-#include "tests/theme/skins/skin_text.h"
+#include "tests/support/skin_text.h"
 #include "vela/theme/checks/contrast_checks.h"
 #include "vela/theme/skins/style_sections.h"
 

@@ -1,6 +1,6 @@
 #include "vela/theme/derive/high_contrast.h"
 
-#include "tests/theme/skins/skin_text.h"
+#include "tests/support/skin_text.h"
 #include "tools/showcase_content/contrast_themes.h"
 #include "vela/render/layers/paint_plan.h"
 #include "vela/theme/checks/contrast_checks.h"

@@ -1,5 +1,5 @@
 // The keys that skins write, listed by hand: none of them may get lost from the field tables.
-#include "tests/theme/skins/skin_text.h"
+#include "tests/support/skin_text.h"
 #include "vela/theme/fields/field_reader.h"
 #include "vela/theme/skins/style_sections.h"
 

@@ -1,6 +1,6 @@
 #include "vela/theme/fields/field_reader.h"
 
-#include "tests/theme/skins/skin_text.h"
+#include "tests/support/skin_text.h"
 #include "vela/theme/records/named_materials.h"
 
 #include <gtest/gtest.h>

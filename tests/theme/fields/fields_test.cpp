@@ -1,7 +1,7 @@
 // Walks the field tables of all records: what they accept, and that every key reaches its own member.
 #include "vela/theme/fields/fields.h"
 
-#include "tests/theme/skins/skin_text.h"
+#include "tests/support/skin_text.h"
 #include "vela/theme/fields/field_reader.h"
 #include "vela/theme/fields/record_copy.h"
 #include "vela/theme/skins/style_sections.h"

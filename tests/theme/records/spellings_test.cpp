@@ -1,6 +1,6 @@
 #include "vela/theme/records/spellings.h"
 
-#include "tests/theme/skins/skin_text.h"
+#include "tests/support/skin_text.h"
 #include "vela/theme/records/palette.h"
 
 #include <gtest/gtest.h>

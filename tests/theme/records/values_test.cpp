@@ -1,6 +1,6 @@
 #include "vela/theme/records/values.h"
 
-#include "tests/theme/skins/skin_text.h"
+#include "tests/support/skin_text.h"
 #include "vela/text.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 #include "tests/support/default_skins.h"
 #include "tests/support/written_json.h"
 #include "tests/theme/records/surface_walk.h"
-#include "tests/theme/skins/skin_text.h"
+#include "tests/support/skin_text.h"
 #include "vela/theme/checks/contrast_checks.h"
 #include "vela/theme/color/contrast.h"
 #include "vela/theme/color/oklab.h"

@@ -1,6 +1,6 @@
 #include "vela/theme/skins/skin_document.h"
 
-#include "tests/theme/skins/skin_text.h"
+#include "tests/support/skin_text.h"
 
 #include <gtest/gtest.h>
 

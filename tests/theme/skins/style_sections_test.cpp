@@ -1,6 +1,6 @@
 #include "vela/theme/skins/style_sections.h"
 
-#include "tests/theme/skins/skin_text.h"
+#include "tests/support/skin_text.h"
 #include "vela/theme/derive/derive_style_sheet.h"
 
 #include <gtest/gtest.h>
