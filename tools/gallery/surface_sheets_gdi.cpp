@@ -2,7 +2,7 @@
 #include "tools/gallery/gallery_gdi.h"
 #include "vela/render/paint/paint.h"
 #include "vela/theme/derive/derive_style_sheet.h"
-#include "vela/theme/records/palette.h"
+#include "vela/theme/fields/palette.h"
 #include "vela/theme/records/spellings.h"
 
 #include <iterator>

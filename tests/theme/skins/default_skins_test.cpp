@@ -1,14 +1,14 @@
 // The skins that travel inside the setup: what their document promises in words is held against their
 // colours.
 #include "tests/support/default_skins.h"
+#include "tests/support/skin_text.h"
 #include "tests/support/written_json.h"
 #include "tests/theme/records/surface_walk.h"
-#include "tests/support/skin_text.h"
 #include "vela/theme/checks/contrast_checks.h"
 #include "vela/theme/color/contrast.h"
 #include "vela/theme/color/oklab.h"
 #include "vela/theme/document/json.h"
-#include "vela/theme/records/palette.h"
+#include "vela/theme/fields/palette.h"
 #include "vela/theme/records/spellings.h"
 #include "vela/theme/skins/skin_document.h"
 #include "vela/theme/skins/style_sections.h"

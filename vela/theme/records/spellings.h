@@ -63,7 +63,7 @@ extern const Vocabulary kAlphaHitModeWords;
 extern const Vocabulary kTintModeWords;
 extern const Vocabulary kMaskChannelWords;
 extern const Vocabulary kVisualStateWords; // a checked control paints as an active one
-extern const Vocabulary kPaletteRoleWords;
+extern const Vocabulary kPaletteRoleWords; // the keys of the theme's colours, and defined with these
 extern const Vocabulary kBooleanWords;
 extern const Vocabulary kWeightWords;
 extern const Vocabulary kTintSwitchWords; // what a tint block may be instead of an object; values of TintMode
