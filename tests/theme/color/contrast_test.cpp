@@ -1,7 +1,6 @@
 #include "vela/theme/color/contrast.h"
 
 #include "vela/theme/color/oklab.h"
-#include "vela/theme/records/surface_tones.h"
 
 #include <gtest/gtest.h>
 
@@ -77,53 +76,6 @@ TEST(Contrast, MovesAFaceOffTheMiddleTonesThatNoTextIsReadOn)
         }
     }
     EXPECT_EQ(readableFace(hexColor(0x202020), 0.02F, 5.4F), hexColor(0x202020));
-}
-
-TEST(Oklab, AgreesWithItsPublishedValuesAndGoesBackToTheSameColour)
-{
-    const struct {
-        std::uint32_t color;
-        Oklab lab;
-    } rows[] = {
-        {0xFFFFFF, {1.0F, 0.0F, 0.0F}},
-        {0xFF0000, {0.628F, 0.225F, 0.126F}},
-        {0x00FF00, {0.866F, -0.234F, 0.179F}},
-        {0x0000FF, {0.452F, -0.032F, -0.312F}},
-    };
-    for (const auto& row : rows) {
-        const Oklab lab = oklabOf(hexColor(row.color));
-        EXPECT_NEAR(lab.lightness, row.lab.lightness, 0.001F);
-        EXPECT_NEAR(lab.a, row.lab.a, 0.001F);
-        EXPECT_NEAR(lab.b, row.lab.b, 0.001F);
-    }
-    for (std::uint32_t color = 0; color < 0x1000000; color += 0x010307)
-        EXPECT_EQ(colorOf(oklabOf(hexColor(color))), hexColor(color)) << std::hex << color;
-}
-
-TEST(SurfaceTones, SeesGradientsTheirDarkMiddlesAndWhatShinesThrough)
-{
-    SurfaceStyle style;
-    style.fill = hexColor(0x808080);
-    const ToneRange under(kBlack, hexColor(0x101010));
-    EXPECT_EQ(surfaceTones(style, under).lightest, hexColor(0x808080));
-
-    style.drawFill = false;
-    EXPECT_EQ(surfaceTones(style, under).lightest, hexColor(0x101010));
-
-    style.useGradient = true;
-    style.gradientStart = hexColor(0xFF0000);
-    style.gradientEnd = hexColor(0x0000FF);
-    EXPECT_LT(relativeLuminance(surfaceTones(style, under).darkest), relativeLuminance(style.gradientEnd));
-
-    style.gradientStart = kWhite;
-    style.gradientEnd = kWhite;
-    style.opacity = 128;
-    EXPECT_EQ(surfaceTones(style, under).darkest, hexColor(0x808080));
-    EXPECT_EQ(surfaceTones(style, under).lightest, hexColor(0x888888));
-
-    style.useGradientMid = true;
-    style.gradientMid = kBlack;
-    EXPECT_EQ(surfaceTones(style, under).darkest, kBlack);
 }
 
 } // namespace
