@@ -81,31 +81,31 @@ std::string described(const ContrastCheck& check)
 
 TEST(DeriveStyleSheet, ReachesTheContrastRuleForAnyPalette)
 {
-    std::size_t judged = 0;
+    std::size_t checked = 0;
     for (const Palette& palette : allPalettes()) {
         for (const SurfaceMode mode : kModes) {
             for (const ContrastCheck& check : contrastChecks(deriveStyleSheet(themeOf(palette, mode)))) {
-                ++judged;
+                ++checked;
                 EXPECT_GE(check.reached, check.required)
                     << described(check) << ", mode " << static_cast<int>(mode) << ", panel " << std::hex
                     << palette[2] << ", accent " << palette[8];
             }
         }
     }
-    EXPECT_GT(judged, 100'000U);
+    EXPECT_GT(checked, 100'000U);
 }
 
 // What tells one state from another at a glance.
 struct Appearance {
     const SurfaceStyle* surface;
-    Color ink;
+    Color text;
 };
 
 float difference(const Appearance& one, const Appearance& other)
 {
     const SurfaceStyle& left = *one.surface;
     const SurfaceStyle& right = *other.surface;
-    float most = visualDistance(one.ink, other.ink);
+    float most = visualDistance(one.text, other.text);
     if (left.drawFill != right.drawFill)
         return 1;
     if (left.drawFill)
@@ -158,11 +158,11 @@ TEST(DeriveStyleSheet, ShowsEveryStateDifferently)
             expectDistinctStates(sheet.find<TabsStyle>(kDefaultVariant).itemButton, "tab" + where);
 
             const auto& field = sheet.find<TextInputStyle>(kDefaultVariant);
-            const Color ink = field.text.color;
-            expectAllDistinct({{&field.surface, ink},
-                               {&field.hotSurface, ink},
-                               {&field.pressedSurface, ink},
-                               {&field.focusedSurface, ink},
+            const Color text = field.text.color;
+            expectAllDistinct({{&field.surface, text},
+                               {&field.hotSurface, text},
+                               {&field.pressedSurface, text},
+                               {&field.focusedSurface, text},
                                {&field.disabledSurface, field.text.disabledColor}},
                               "text input" + where);
             // The check mark itself tells the checked boxes from the others.

@@ -26,7 +26,7 @@ constexpr std::wstring_view kNames[] = {
     L"zinc",
 };
 
-TEST(NamedMaterials, HaveEverySubstanceOnce)
+TEST(NamedMaterials, HaveEveryMaterialOnce)
 {
     std::set<std::wstring_view> listed;
     for (const NamedMaterial& material : namedMaterials())

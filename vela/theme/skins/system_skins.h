@@ -16,7 +16,7 @@ SkinHost& systemSkinHost();
 const SkinCatalog& skinCatalog();
 
 // What a window's style source gives: the styles of the requested skin, "win11-auto" among them, for the
-// system's present light or dark and high-contrast mode. The last ones are kept while nothing changes.
+// system's present light or dark and high-contrast mode. The last ones are cached while nothing changes.
 std::shared_ptr<const StyleSheet> systemStyles(std::wstring_view requestedId);
 
 } // namespace vela

@@ -23,7 +23,7 @@ Theme themeIn(SurfaceMode mode)
 constexpr SurfaceMode kModes[] = {SurfaceMode::Flat2d, SurfaceMode::Sculpted3d, SurfaceMode::Textured,
                                   SurfaceMode::BitmapPlates, SurfaceMode::WindowsClean};
 
-TEST(DerivedForms, AreNothingButColourAndLineInThePlainModes)
+TEST(DerivedSurfaces, AreNothingButColourAndLineInThePlainModes)
 {
     for (const SurfaceMode mode :
          {SurfaceMode::Flat2d, SurfaceMode::BitmapPlates, SurfaceMode::WindowsClean}) {
@@ -43,7 +43,7 @@ TEST(DerivedForms, AreNothingButColourAndLineInThePlainModes)
     }
 }
 
-TEST(DerivedForms, AreCarvedAndLitWhenSculpted)
+TEST(DerivedSurfaces, AreCarvedAndLitWhenSculpted)
 {
     const StyleSheet sheet = deriveStyleSheet(themeIn(SurfaceMode::Sculpted3d));
     const auto& button = sheet.find<ButtonStyle>(L"primary").surface;
@@ -64,7 +64,7 @@ TEST(DerivedForms, AreCarvedAndLitWhenSculpted)
     EXPECT_TRUE(sheet.find<PopupStyle>(kDefaultVariant).surface.useNoise);
 }
 
-TEST(DerivedForms, AreReliefEvenWhereATexturelessThemeIsSculpted)
+TEST(DerivedSurfaces, AreReliefEvenWhereATexturelessThemeIsSculpted)
 {
     Theme theme = themeIn(SurfaceMode::Sculpted3d);
     theme.materials.enabled = false;
@@ -74,7 +74,7 @@ TEST(DerivedForms, AreReliefEvenWhereATexturelessThemeIsSculpted)
     EXPECT_GT(button.normal.materialDepth, 0);
 }
 
-TEST(DerivedForms, WearTheMaterialOfTheirSubstance)
+TEST(DerivedSurfaces, HaveTheMaterialOfTheirRole)
 {
     const StyleSheet sheet = deriveStyleSheet(themeIn(SurfaceMode::Textured));
     const struct {
@@ -98,7 +98,7 @@ TEST(DerivedForms, WearTheMaterialOfTheirSubstance)
     }
 }
 
-TEST(DerivedForms, WearNoneWhenTheThemeSwitchesMaterialsOffOrGivesThemNoStrength)
+TEST(DerivedSurfaces, HaveNoMaterialWhenTheThemeSwitchesItOffOrGivesItNoStrength)
 {
     Theme off = themeIn(SurfaceMode::Sculpted3d);
     off.materials.enabled = false;
@@ -111,7 +111,7 @@ TEST(DerivedForms, WearNoneWhenTheThemeSwitchesMaterialsOffOrGivesThemNoStrength
                       });
 }
 
-TEST(DerivedForms, TakeTheThemesLightMappingAndFinish)
+TEST(DerivedSurfaces, TakeTheThemesLightMappingAndFinish)
 {
     Theme theme = themeIn(SurfaceMode::Sculpted3d);
     theme.materials.materialLightAngle = 300;
@@ -126,7 +126,7 @@ TEST(DerivedForms, TakeTheThemesLightMappingAndFinish)
 }
 
 // An inner shadow on a large rounded surface would darken its cut-off corners.
-TEST(DerivedForms, HaveNoInnerShadowWhereTheyAreLarge)
+TEST(DerivedSurfaces, HaveNoInnerShadowWhereTheyAreLarge)
 {
     for (const SurfaceMode mode : kModes) {
         const StyleSheet sheet = deriveStyleSheet(themeIn(mode));
@@ -148,7 +148,7 @@ TEST(DerivedForms, HaveNoInnerShadowWhereTheyAreLarge)
     }
 }
 
-TEST(DerivedForms, HaveTheShapesOfTheirRecordsAndSmallNoiseSeeds)
+TEST(DerivedSurfaces, HaveTheShapesOfTheirRecordsAndSmallNoiseSeeds)
 {
     for (const SurfaceMode mode : kModes) {
         visitSurfaces(deriveStyleSheet(themeIn(mode)),
@@ -159,7 +159,7 @@ TEST(DerivedForms, HaveTheShapesOfTheirRecordsAndSmallNoiseSeeds)
     }
 }
 
-TEST(DerivedForms, OfTheCleanModeLookLikeTheSystems)
+TEST(DerivedSurfaces, OfTheCleanModeLookLikeTheSystems)
 {
     const StyleSheet sheet = deriveStyleSheet(themeIn(SurfaceMode::WindowsClean));
     const auto& button = sheet.find<ButtonStyle>(kDefaultVariant);
@@ -177,7 +177,7 @@ TEST(DerivedForms, OfTheCleanModeLookLikeTheSystems)
     EXPECT_EQ(bar.rightMargin, 0);
 }
 
-TEST(DerivedForms, SetTextInTheThemesFonts)
+TEST(DerivedSurfaces, SetTextInTheThemesFonts)
 {
     Theme theme = themeIn(SurfaceMode::Flat2d);
     theme.uiFont.family = L"Corbel";
