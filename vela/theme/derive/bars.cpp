@@ -53,9 +53,9 @@ PerState<SurfaceStyle> arrowButtons(const Context& context, Color arrow, const B
 
 } // namespace
 
-void buildProgressBar(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<ProgressBarStyle>& bars)
 {
-    ProgressBarStyle& style = sheet.table<ProgressBarStyle>().defaultRecord();
+    ProgressBarStyle& style = bars.defaultRecord();
     style.shape = context.mode.trackShape;
     style.frameShape = context.mode.trackShape;
     style.trackShape = context.mode.trackShape;
@@ -118,15 +118,15 @@ void deriveScrollBar(const Context& context, const Backdrop& backdrop, ScrollBar
     style.showButtons = false;
 }
 
-void buildScrollBar(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<ScrollBarStyle>& bars)
 {
-    deriveScrollBar(context, context.backdrop, sheet.table<ScrollBarStyle>().defaultRecord());
+    deriveScrollBar(context, context.backdrop, bars.defaultRecord());
 }
 
-void buildTitleBar(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<ChromeTitleBarStyle>& titleBars)
 {
     const bool flush = context.mode.flushCaptionButtons;
-    ChromeTitleBarStyle& style = sheet.table<ChromeTitleBarStyle>().defaultRecord();
+    ChromeTitleBarStyle& style = titleBars.defaultRecord();
     style.shape = ShapeKind::Rect;
     style.surface = containerSurface(context, context.headerFill, context.hairline, style.shape);
     style.surface.showOutline = false;
@@ -154,7 +154,7 @@ void buildTitleBar(const Context& context, StyleSheet& sheet)
     style.titleLeft = 36;
 }
 
-void buildMenuBar(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<MenuBarStyle>& bars)
 {
     const Color bar = context.backdrop.fill;
     const Color text = context.text;
@@ -166,7 +166,7 @@ void buildMenuBar(const Context& context, StyleSheet& sheet)
     const Color pressed = item(0.09F, {bar, hot});
     const Color active = context.fillBehind(text, bar, mixOklab(bar, context.theme.accent, 0.18F),
                                             Elevation::Flat, {bar, hot, pressed});
-    MenuBarStyle& style = sheet.table<MenuBarStyle>().defaultRecord();
+    MenuBarStyle& style = bars.defaultRecord();
     style.surface = containerSurface(context, bar, context.hairline, style.shape);
     style.surface.showOutline = false;
     style.popupSurface = containerSurface(context, bar, mixOklab(bar, context.edge, 0.6F), style.popupShape);

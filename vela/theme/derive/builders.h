@@ -1,5 +1,4 @@
-// The builders of the control kinds. Each derives every variant of its kind from the context into the sheet;
-// a builder may use the records of kinds that were built before it.
+// The builder of each control kind: it derives every variant of the kind from the context.
 #pragma once
 
 #include "vela/theme/derive/context.h"
@@ -7,29 +6,30 @@
 
 namespace vela::derive {
 
-// The scroll bar of a list, on the list's own surface.
-void deriveScrollBar(const Context& context, const Backdrop& backdrop, ScrollBarStyle& style);
+void build(const Context& context, VariantTable<TextStyle>& texts);
+void build(const Context& context, VariantTable<ButtonStyle>& buttons);
+void build(const Context& context, VariantTable<BitmapButtonStyle>& buttons);
+void build(const Context& context, VariantTable<PanelStyle>& panels);
+void build(const Context& context, VariantTable<CardStyle>& cards);
+void build(const Context& context, VariantTable<ChromeTitleBarStyle>& titleBars);
+void build(const Context& context, VariantTable<StatusChipStyle>& chips);
+void build(const Context& context, VariantTable<ProgressBarStyle>& bars);
+void build(const Context& context, VariantTable<ScrollBarStyle>& bars);
+void build(const Context& context, VariantTable<CheckBoxStyle>& checkBoxes);
+void build(const Context& context, VariantTable<SelectBoxStyle>& boxes);
+void build(const Context& context, VariantTable<ListBoxStyle>& boxes);
+void build(const Context& context, VariantTable<DateInputStyle>& inputs);
+void build(const Context& context, VariantTable<TabsStyle>& tabStrips);
+void build(const Context& context, VariantTable<MenuBarStyle>& bars);
+void build(const Context& context, VariantTable<TableListStyle>& lists);
+void build(const Context& context, VariantTable<RichTextStyle>& texts);
+void build(const Context& context, VariantTable<TextInputStyle>& inputs);
+void build(const Context& context, VariantTable<SelectableTextStyle>& texts);
+void build(const Context& context, VariantTable<PopupStyle>& popups);
+void build(const Context& context, VariantTable<TooltipStyle>& tooltips);
 
-void buildTexts(const Context& context, StyleSheet& sheet);
-void buildButtons(const Context& context, StyleSheet& sheet);
-void buildBitmapButtons(const Context& context, StyleSheet& sheet);
-void buildPanels(const Context& context, StyleSheet& sheet);
-void buildCards(const Context& context, StyleSheet& sheet);
-void buildTitleBar(const Context& context, StyleSheet& sheet);
-void buildStatusChips(const Context& context, StyleSheet& sheet);
-void buildProgressBar(const Context& context, StyleSheet& sheet);
-void buildScrollBar(const Context& context, StyleSheet& sheet);
-void buildCheckBox(const Context& context, StyleSheet& sheet);
-void buildSelectBox(const Context& context, StyleSheet& sheet);
-void buildListBox(const Context& context, StyleSheet& sheet);
-void buildDateInput(const Context& context, StyleSheet& sheet);
-void buildTabs(const Context& context, StyleSheet& sheet);
-void buildMenuBar(const Context& context, StyleSheet& sheet);
-void buildTableList(const Context& context, StyleSheet& sheet);
-void buildRichText(const Context& context, StyleSheet& sheet);
-void buildTextInput(const Context& context, StyleSheet& sheet);
-void buildSelectableText(const Context& context, StyleSheet& sheet);
-void buildPopups(const Context& context, StyleSheet& sheet);
-void buildTooltips(const Context& context, StyleSheet& sheet);
+// Parts of other kinds.
+void deriveScrollBar(const Context& context, const Backdrop& backdrop, ScrollBarStyle& style);
+void deriveSelectBox(const Context& context, SelectBoxStyle& style);
 
 } // namespace vela::derive

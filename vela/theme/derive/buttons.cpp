@@ -172,19 +172,19 @@ void deriveButton(const Context& context, const ButtonRecipe& recipe, const Back
     style.text.disabled.color = style.text.disabled.disabledColor;
 }
 
-void buildButtons(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<ButtonStyle>& buttons)
 {
     for (const ButtonVariant& variant : kButtonVariants)
         deriveButton(context, variant.recipe, context.backdrop, context.mode.controlShape,
-                     sheet.table<ButtonStyle>().ensure(variant.name));
+                     buttons.ensure(variant.name));
 }
 
-void buildBitmapButtons(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<BitmapButtonStyle>& buttons)
 {
     ButtonStyle face;
     for (const BitmapButtonVariant& variant : kBitmapButtonVariants) {
         deriveButton(context, variant.recipe, context.backdrop, context.mode.controlShape, face);
-        BitmapButtonStyle& style = sheet.table<BitmapButtonStyle>().ensure(variant.name);
+        BitmapButtonStyle& style = buttons.ensure(variant.name);
         style.text = face.text.normal;
         style.image = face.surface.normal;
         if (variant.muted)
@@ -193,9 +193,9 @@ void buildBitmapButtons(const Context& context, StyleSheet& sheet)
     }
 }
 
-void buildTabs(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<TabsStyle>& tabStrips)
 {
-    TabsStyle& style = sheet.table<TabsStyle>().defaultRecord();
+    TabsStyle& style = tabStrips.defaultRecord();
     style.shape = context.mode.controlShape;
     deriveButton(context, {Intent::Neutral, Emphasis::Quiet}, context.backdrop, style.shape,
                  style.itemButton);

@@ -112,10 +112,10 @@ void deriveTooltip(const Context& context, TooltipStyle& style)
 
 } // namespace
 
-void buildPanels(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<PanelStyle>& panels)
 {
     const auto panel = [&](std::wstring_view variant, Color fill, Color border) -> PanelStyle& {
-        PanelStyle& style = sheet.table<PanelStyle>().ensure(variant);
+        PanelStyle& style = panels.ensure(variant);
         style.shape = context.mode.panelShape;
         style.surface = containerSurface(context, fill, border, style.shape);
         style.padding = 16;
@@ -127,26 +127,23 @@ void buildPanels(const Context& context, StyleSheet& sheet)
     glass.opacity = glass.useGradient ? kGlassOpacity : glass.opacity;
 }
 
-void buildCards(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<CardStyle>& cards)
 {
-    VariantTable<CardStyle>& cards = sheet.table<CardStyle>();
     deriveCard(context, context.containerFills.card, cards.ensure(L"default"));
     deriveRaisedCard(context, cards.ensure(L"raised"));
     deriveDashboardCard(context, cards.ensure(L"dashboard"));
 }
 
-void buildStatusChips(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<StatusChipStyle>& chips)
 {
-    VariantTable<StatusChipStyle>& chips = sheet.table<StatusChipStyle>();
     deriveChip(context, Intent::Neutral, chips.ensure(L"default"));
     deriveChip(context, Intent::Success, chips.ensure(L"success"));
     deriveChip(context, Intent::Warning, chips.ensure(L"warning"));
     deriveChip(context, Intent::Danger, chips.ensure(L"danger"));
 }
 
-void buildPopups(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<PopupStyle>& popups)
 {
-    VariantTable<PopupStyle>& popups = sheet.table<PopupStyle>();
     const Color frame = context.theme.frame;
     derivePopup(context, frame, Intent::Accent, popups.ensure(L"default"));
     // A failure is told, not shouted: the badge is red and the frame leans to red; what Enter presses looks
@@ -155,9 +152,8 @@ void buildPopups(const Context& context, StyleSheet& sheet)
                 popups.ensure(L"danger"));
 }
 
-void buildTooltips(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<TooltipStyle>& tooltips)
 {
-    VariantTable<TooltipStyle>& tooltips = sheet.table<TooltipStyle>();
     deriveTooltip(context, tooltips.ensure(L"default"));
     TooltipStyle& help = tooltips.ensure(L"designed-help");
     deriveTooltip(context, help);

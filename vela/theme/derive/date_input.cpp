@@ -48,11 +48,12 @@ void deriveCalendar(const Context& context, DateInputStyle& style)
 
 } // namespace
 
-void buildDateInput(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<DateInputStyle>& inputs)
 {
     // Closed, it is a select box with another drop-down.
-    const SelectBoxStyle& box = sheet.find<SelectBoxStyle>(kDefaultVariant);
-    DateInputStyle& style = sheet.table<DateInputStyle>().defaultRecord();
+    SelectBoxStyle box;
+    deriveSelectBox(context, box);
+    DateInputStyle& style = inputs.defaultRecord();
     style.shape = box.shape;
     style.arrowShape = box.arrowShape;
     style.popupShape = box.dropdownShape;

@@ -74,10 +74,10 @@ void addAttachments(const Context& context, Color text, Color input, TextInputSt
 
 } // namespace
 
-void buildTextInput(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<TextInputStyle>& inputs)
 {
     const InputFills fills = inputFills(context, Elevation::Sunken);
-    TextInputStyle& style = sheet.table<TextInputStyle>().defaultRecord();
+    TextInputStyle& style = inputs.defaultRecord();
     style.shape = context.mode.controlShape;
     style.surface = sunkenSurface(context, fills.normal, context.edge, style.shape);
     style.hotSurface = sunkenSurface(context, fills.hot, context.hotEdge, style.shape);
@@ -101,19 +101,19 @@ void buildTextInput(const Context& context, StyleSheet& sheet)
     addAttachments(context, style.text.color, fills.normal, style);
 }
 
-void buildSelectableText(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<SelectableTextStyle>& texts)
 {
-    SelectableTextStyle& style = sheet.table<SelectableTextStyle>().defaultRecord();
+    SelectableTextStyle& style = texts.defaultRecord();
     style.surface = bareSurface(context, style.shape);
     style.text = textOn(context, context.backdrop.tones, {context.text});
     style.selection = selectionOn(context, context.text, context.backdrop.fill, ShapeKind::Rect);
     style.selectedText = textOn(context, backdropOf(style.selection, context.backdrop).tones, {context.text});
 }
 
-void buildCheckBox(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<CheckBoxStyle>& checkBoxes)
 {
     const InputFills fills = inputFills(context, Elevation::Sunken);
-    CheckBoxStyle& style = sheet.table<CheckBoxStyle>().defaultRecord();
+    CheckBoxStyle& style = checkBoxes.defaultRecord();
     style.shape = ShapeKind::RoundedRect;
     style.boxSize = 20;
     style.textLeft = 28;
@@ -147,14 +147,13 @@ void buildCheckBox(const Context& context, StyleSheet& sheet)
         surfaceOf(context, {.fill = disabled, .border = disabled, .bordered = false}, style.shape);
 }
 
-void buildSelectBox(const Context& context, StyleSheet& sheet)
+void deriveSelectBox(const Context& context, SelectBoxStyle& style)
 {
     const InputFills fills = inputFills(context, Elevation::Raised);
     const auto face = [&](Color fill, Color border, Elevation elevation) {
         return Face{
             .fill = fill, .border = border, .elevation = elevation, .material = MaterialRole::Control};
     };
-    SelectBoxStyle& style = sheet.table<SelectBoxStyle>().defaultRecord();
     style.shape = context.mode.controlShape;
     style.dropdownShape =
         context.mode.panelShape == ShapeKind::Rect ? ShapeKind::RoundedRect : context.mode.panelShape;
@@ -193,6 +192,11 @@ void buildSelectBox(const Context& context, StyleSheet& sheet)
                     ShapeKind::RoundedRect);
     deriveScrollBar(context, backdropOf(style.dropdownSurface, context.backdrop), style.scrollBar);
     style.itemHeight = 32;
+}
+
+void build(const Context& context, VariantTable<SelectBoxStyle>& boxes)
+{
+    deriveSelectBox(context, boxes.defaultRecord());
 }
 
 } // namespace vela::derive

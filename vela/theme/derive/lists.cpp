@@ -56,11 +56,11 @@ SurfaceStyle railOn(const Context& context, const RowFills& fills, ShapeKind sha
 
 } // namespace
 
-void buildListBox(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<ListBoxStyle>& boxes)
 {
     const RowFills fills = rowFills(context, listFill(context));
     const ToneRange tones = tonesOf(context, fills);
-    ListBoxStyle& style = sheet.table<ListBoxStyle>().defaultRecord();
+    ListBoxStyle& style = boxes.defaultRecord();
     style.shape = context.mode.panelShape;
     style.rowShape = context.mode.slimTracks ? ShapeKind::RoundedRect : ShapeKind::Rect;
     style.selectedRowShape = style.rowShape;
@@ -81,11 +81,11 @@ void buildListBox(const Context& context, StyleSheet& sheet)
     style.rowHeight = 32;
 }
 
-void buildTableList(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<TableListStyle>& lists)
 {
     const RowFills fills = rowFills(context, listFill(context));
     const ToneRange tones = tonesOf(context, fills);
-    TableListStyle& style = sheet.table<TableListStyle>().defaultRecord();
+    TableListStyle& style = lists.defaultRecord();
     style.shape = context.mode.panelShape;
     style.surface =
         containerSurface(context, fills.list, mixOklab(context.hairline, context.edge, 0.4F), style.shape);

@@ -39,9 +39,8 @@ FontSpec readingTextOn(const Context& context, const ToneRange& on, std::initial
     return font;
 }
 
-void buildTexts(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<TextStyle>& texts)
 {
-    VariantTable<TextStyle>& texts = sheet.table<TextStyle>();
     const ToneRange& backdrop = context.backdrop.tones;
     texts.ensure(L"default") = readingTextOn(context, backdrop, {context.text});
     texts.ensure(L"title") = textOn(context, backdrop, {context.strongText}, kLabel);
@@ -53,9 +52,9 @@ void buildTexts(const Context& context, StyleSheet& sheet)
     texts.ensure(L"danger") = textOn(context, backdrop, {context.textColor(Intent::Danger)});
 }
 
-void buildRichText(const Context& context, StyleSheet& sheet)
+void build(const Context& context, VariantTable<RichTextStyle>& texts)
 {
-    RichTextStyle& style = sheet.table<RichTextStyle>().defaultRecord();
+    RichTextStyle& style = texts.defaultRecord();
     style.shape = context.mode.panelShape;
     style.surface = containerSurface(context, context.containerFills.card, context.hairline, style.shape);
     const Backdrop backdrop = backdropOf(style.surface, context.backdrop);

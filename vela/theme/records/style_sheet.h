@@ -39,7 +39,7 @@ enum class ControlKind : std::uint8_t {
     Popup,
     Tooltip,
 };
-inline constexpr std::size_t kControlKindCount = 21;
+inline constexpr std::size_t kControlKindCount = static_cast<std::size_t>(ControlKind::Tooltip) + 1;
 
 inline constexpr std::wstring_view kDefaultVariant = L"default";
 
