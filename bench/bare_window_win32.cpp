@@ -2,6 +2,7 @@
 // its client area with one colour. What a window of the toolkit needs beyond this is its own. Usage:
 // bare_window WIDTH HEIGHT
 #include "vela/controls/window/window_geometry.h"
+#include "vela/rect_win32.h"
 
 #include <cwchar>
 
@@ -50,8 +51,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR arguments, int)
 
     RECT work{};
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    const vela::Rect place = vela::initialPlacement(
-        sizeFrom(arguments), {work.left, work.top, work.right - work.left, work.bottom - work.top});
+    const vela::Rect place = vela::initialPlacement(sizeFrom(arguments), vela::toRect(work));
     const HWND window =
         ::CreateWindowExW(0, record.lpszClassName, L"Bare", WS_POPUP | WS_SYSMENU, place.x, place.y,
                           place.width, place.height, nullptr, nullptr, instance, nullptr);

@@ -3,6 +3,7 @@
 // finished picture and the window's width and height. The script beside this file turns them into medians.
 // Usage: first_paint ROUNDS COMMAND...     a command is one argument, quoted as a whole
 #include "vela/owned_win32.h"
+#include "vela/rect_win32.h"
 #include "vela/render/gdi/dib_gdi.h"
 
 #include <algorithm>
@@ -80,7 +81,7 @@ class Screen {
 public:
     std::uint64_t pictureOf(const RECT& rect)
     {
-        const vela::Size size{rect.right - rect.left, rect.bottom - rect.top};
+        const vela::Size size = sizeOf(vela::toRect(rect));
         if (!copy_ || copy_->size() != size)
             copy_.emplace(size);
         const HDC screen = ::GetDC(nullptr);
@@ -117,7 +118,7 @@ std::optional<FirstPicture> watch(const Program& program, Clock::time_point star
             picture = seen;
             changed = now;
         } else if (picture != 0 && now - changed > kSettled) {
-            return FirstPicture{changed, {rect.right - rect.left, rect.bottom - rect.top}};
+            return FirstPicture{changed, sizeOf(vela::toRect(rect))};
         }
         ::Sleep(1);
     }

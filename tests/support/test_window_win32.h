@@ -2,6 +2,7 @@
 #pragma once
 
 #include "vela/controls/window/window.h"
+#include "vela/rect_win32.h"
 
 #include <string>
 #include <vector>
@@ -76,13 +77,13 @@ struct Desktop {
     {
         RECT work{};
         ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-        return {work.left, work.top, work.right - work.left, work.bottom - work.top};
+        return toRect(work);
     }
     static Rect clipBox(HDC dc)
     {
         RECT box{};
         ::GetClipBox(dc, &box);
-        return {box.left, box.top, box.right - box.left, box.bottom - box.top};
+        return toRect(box);
     }
     static void movePointer(HWND window, Point client)
     {

@@ -8,6 +8,7 @@
 #include "vela/controls/window/text_services_win32.h"
 #include "vela/controls/window/window_diagnostics.h"
 #include "vela/controls/window/window_geometry.h"
+#include "vela/rect_win32.h"
 #include "vela/render/gdi/dib_gdi.h"
 
 #include <optional>
@@ -27,15 +28,6 @@ struct MonitorAreas {
     std::int32_t dpi = 96;
 };
 MonitorAreas monitorAreas(HMONITOR monitor) noexcept;
-
-constexpr Rect toRect(const RECT& rect) noexcept
-{
-    return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
-}
-constexpr RECT toRECT(const Rect& rect) noexcept
-{
-    return {rect.x, rect.y, rect.x + rect.width, rect.y + rect.height};
-}
 
 class TaskbarList;
 class TooltipWindow;

@@ -1,5 +1,7 @@
 #include "vela/render/text/glyph_store_dwrite.h"
 
+#include "vela/rect_win32.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -71,7 +73,7 @@ bool GlyphStore::draw(const GlyphFace& face, UINT16 index, DWRITE_MEASURING_MODE
         return false;
     if (!ink_)
         ink_.emplace(gamma);
-    picture.box = {bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top};
+    picture.box = toRect(bounds);
     if (isEmpty(picture.box))
         return true;
     picture.coverage.resize(static_cast<std::size_t>(picture.box.width) *

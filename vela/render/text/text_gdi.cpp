@@ -1,5 +1,6 @@
 #include "vela/render/text/text.h"
 
+#include "vela/rect_win32.h"
 #include "vela/render/gdi/clip_gdi.h"
 #include "vela/render/gdi/pixel_layer_gdi.h"
 #include "vela/render/pixels/bounded_cache.h"
@@ -76,11 +77,6 @@ UINT flagsFor(TextWrap wrap, TextAlign align) noexcept
     return kCommonFlags | DT_END_ELLIPSIS | placing | kAlignFlags[static_cast<std::size_t>(align)];
 }
 
-constexpr RECT toWin32(const Rect& rect) noexcept
-{
-    return {rect.x, rect.y, rect.x + rect.width, rect.y + rect.height};
-}
-
 // A context that draws text in that font and colour over what is there, for as long as this lives.
 class GdiPen {
 public:
@@ -107,7 +103,7 @@ private:
 void drawGdi(HDC dc, const Rect& rect, std::wstring_view text, HFONT font, UINT flags, Color color)
 {
     const GdiPen pen(dc, font, color);
-    RECT room = toWin32(rect);
+    RECT room = toRECT(rect);
     ::DrawTextW(dc, text.data(), static_cast<int>(text.size()), &room, flags);
 }
 
