@@ -40,6 +40,14 @@ std::optional<std::uint32_t> hexDigit(wchar_t c) noexcept
     return std::nullopt;
 }
 
+CodePoint codePointAt(std::wstring_view text, std::size_t index) noexcept
+{
+    const auto unit = static_cast<char32_t>(text[index]);
+    if (isHighSurrogate(text[index]) && index + 1 < text.size() && isLowSurrogate(text[index + 1]))
+        return {0x10000 + ((unit & 0x3FF) << 10) + (static_cast<char32_t>(text[index + 1]) & 0x3FF), 2};
+    return {unit, 1};
+}
+
 std::wstring_view trimmed(std::wstring_view text) noexcept
 {
     while (!text.empty() && isSpace(text.front()))

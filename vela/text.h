@@ -4,6 +4,7 @@
 #pragma once
 
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -20,6 +21,24 @@ constexpr wchar_t lowerAscii(wchar_t c) noexcept
 
 // The value of a hexadecimal digit in either case.
 std::optional<std::uint32_t> hexDigit(wchar_t c) noexcept;
+
+// The halves of a character that takes two units of 16 bits, as on Windows.
+constexpr bool isHighSurrogate(wchar_t unit) noexcept
+{
+    return (static_cast<std::uint32_t>(unit) & ~0x3FFU) == 0xD800;
+}
+constexpr bool isLowSurrogate(wchar_t unit) noexcept
+{
+    return (static_cast<std::uint32_t>(unit) & ~0x3FFU) == 0xDC00;
+}
+
+struct CodePoint {
+    char32_t value;
+    std::size_t units;
+};
+
+// What begins at the index, which lies within the text; half a pair without the other is itself.
+CodePoint codePointAt(std::wstring_view text, std::size_t index) noexcept;
 
 // The part of the text between the first and the last character that is not white space.
 std::wstring_view trimmed(std::wstring_view text) noexcept;

@@ -9,23 +9,7 @@ namespace vela {
 
 namespace {
 
-struct CodePoint {
-    char32_t value;
-    std::size_t units;
-};
-
 constexpr char32_t kZeroWidthJoiner = 0x200D;
-
-bool isHighSurrogate(wchar_t unit) noexcept { return (static_cast<std::uint32_t>(unit) & ~0x3FFu) == 0xD800; }
-bool isLowSurrogate(wchar_t unit) noexcept { return (static_cast<std::uint32_t>(unit) & ~0x3FFu) == 0xDC00; }
-
-CodePoint codePointAt(std::wstring_view text, std::size_t index) noexcept
-{
-    const auto unit = static_cast<char32_t>(text[index]);
-    if (isHighSurrogate(text[index]) && index + 1 < text.size() && isLowSurrogate(text[index + 1]))
-        return {0x10000 + ((unit & 0x3FF) << 10) + (static_cast<char32_t>(text[index + 1]) & 0x3FF), 2};
-    return {unit, 1};
-}
 
 std::size_t codePointStart(std::wstring_view text, std::size_t index) noexcept
 {

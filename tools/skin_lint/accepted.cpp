@@ -156,12 +156,9 @@ std::string nearest(std::string_view text, const std::vector<std::string>& candi
 std::string toUtf8(std::wstring_view text)
 {
     std::string bytes;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        auto c = static_cast<char32_t>(text[i]);
-        const bool pair = (c & ~0x3FFU) == 0xD800 && i + 1 < text.size() &&
-                          (static_cast<char32_t>(text[i + 1]) & ~0x3FFU) == 0xDC00;
-        if (pair)
-            c = 0x10000 + ((c & 0x3FF) << 10) + (static_cast<char32_t>(text[++i]) & 0x3FF);
+    for (std::size_t i = 0; i < text.size();) {
+        const auto [c, units] = codePointAt(text, i);
+        i += units;
         const auto put = [&bytes](char32_t byte) { bytes += static_cast<char>(byte); };
         if (c < 0x80) {
             put(c);

@@ -3,6 +3,7 @@
 
 #include "vela/controls/window/cursor_win32.h"
 #include "vela/library_win32.h"
+#include "vela/text.h"
 
 #include <algorithm>
 #include <utility>
@@ -16,9 +17,6 @@ namespace {
 bool isDown(int key) noexcept { return ::GetKeyState(key) < 0; }
 
 KeyModifiers modifiersNow() noexcept { return {isDown(VK_CONTROL), isDown(VK_SHIFT), isDown(VK_MENU)}; }
-
-constexpr bool isHighSurrogate(wchar_t unit) noexcept { return (unit & 0xFC00) == 0xD800; }
-constexpr bool isLowSurrogate(wchar_t unit) noexcept { return (unit & 0xFC00) == 0xDC00; }
 
 constexpr struct ButtonMessage {
     UINT message;
