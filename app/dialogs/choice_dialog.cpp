@@ -31,7 +31,7 @@ constexpr ChoiceButton kInstalledButtons[] = {
 // The two forms of the dialog.
 struct ChoiceForm {
     std::wstring_view title;
-    std::wstring_view glyph;
+    std::wstring_view iconText;
     std::wstring_view body;
     std::wstring_view folderHint;
     std::int32_t folderWidth;
@@ -76,7 +76,7 @@ ChoiceDialog::ChoiceDialog(DialogHost host, const ChoiceState& state, FolderPick
 {
     const ChoiceForm& form = state.installed ? kInstalledForm : kInstallForm;
     popup().setTitle(std::wstring(form.title));
-    popup().setGlyph(std::wstring(form.glyph));
+    popup().setIconText(std::wstring(form.iconText));
     popup().setMessage(std::wstring(form.body));
     popup().setActions(actionsOf(form));
     for (const ChoiceButton& button : form.buttons) {

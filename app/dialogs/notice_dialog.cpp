@@ -9,7 +9,7 @@ NoticeDialog::NoticeDialog(DialogHost host, const Notice& notice)
 {
     popup().setStyleKey(notice.danger ? L"danger" : L"default");
     popup().setTitle(std::wstring(notice.title));
-    popup().setGlyph(notice.danger ? L"X" : L"i");
+    popup().setIconText(notice.danger ? L"X" : L"i");
     popup().setMessage(notice.body);
     popup().setActions({{L"OK", L"ok", true}});
     subscribe(L"ok", [this](vela::CommandEvent&) { endModal(1); });

@@ -17,7 +17,7 @@ ProgressDialog::ProgressDialog(DialogHost host, std::wstring_view title, std::ws
                   title)
 {
     popup().setTitle(std::wstring(title));
-    popup().setGlyph(L"i");
+    popup().setIconText(L"i");
     popup().setMessage(std::wstring(body));
     bar_ = &root().addControl(
         std::make_unique<vela::ProgressBar>(L"setup-progress.bar", Rect{74, 166, 492, 28}));

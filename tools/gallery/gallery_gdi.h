@@ -15,7 +15,7 @@ namespace gallery {
 bool drawShapeSheet(const std::wstring& path);
 bool drawGradientSheet(const std::wstring& path);
 bool drawLayerSheet(const std::wstring& path);
-bool drawGlyphSheet(const std::wstring& path);
+bool drawIconSheet(const std::wstring& path);
 bool drawTypeSheet(const std::wstring& path);
 bool drawPresetSheet(const std::wstring& path);
 bool drawSubstanceSheet(const std::wstring& path);

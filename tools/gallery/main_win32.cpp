@@ -25,7 +25,7 @@ using SheetDrawer = bool (*)(const std::wstring& path);
 
 constexpr std::pair<const wchar_t*, SheetDrawer> kSheets[] = {
     {L"shapes", gallery::drawShapeSheet},        {L"gradients", gallery::drawGradientSheet},
-    {L"layers", gallery::drawLayerSheet},        {L"glyphs", gallery::drawGlyphSheet},
+    {L"layers", gallery::drawLayerSheet},        {L"icons", gallery::drawIconSheet},
     {L"type", gallery::drawTypeSheet},           {L"material-presets", gallery::drawPresetSheet},
     {L"materials", gallery::drawSubstanceSheet},
 };

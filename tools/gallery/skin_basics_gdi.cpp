@@ -70,20 +70,20 @@ void SkinPage::button(const Rect& rect, const ButtonStyle& style, VisualState st
 void SkinPage::arrow(const Rect& rect, vela::Color color, bool up) const
 {
     const std::int32_t side = std::min({rect.width, rect.height, 12});
-    vela::paintGlyph(sheet.dc(), up ? vela::Glyph::ChevronUp : vela::Glyph::ChevronDown,
-                     centered(rect, {side, side}), kDpi, color);
+    vela::paintIcon(sheet.dc(), up ? vela::Icon::ChevronUp : vela::Icon::ChevronDown,
+                    centered(rect, {side, side}), kDpi, color);
 }
 
 std::int32_t drawTitleBar(const SkinPage& page, Rect bar, std::wstring_view title)
 {
     struct CaptionButton {
-        vela::Glyph glyph;
+        vela::Icon icon;
         VisualState state;
     };
-    constexpr CaptionButton kButtons[] = {{vela::Glyph::Close, VisualState::Normal},
-                                          {vela::Glyph::Maximize, VisualState::Hot},
-                                          {vela::Glyph::Minimize, VisualState::Pressed},
-                                          {vela::Glyph::ResetSize, VisualState::Disabled}};
+    constexpr CaptionButton kButtons[] = {{vela::Icon::Close, VisualState::Normal},
+                                          {vela::Icon::Maximize, VisualState::Hot},
+                                          {vela::Icon::Minimize, VisualState::Pressed},
+                                          {vela::Icon::ResetSize, VisualState::Disabled}};
     const auto& style = page.styles.find<vela::ChromeTitleBarStyle>(vela::kDefaultVariant);
     bar.height = style.buttonTop + style.buttonHeight + 4;
     page.surface(bar, style.surface);
@@ -94,9 +94,9 @@ std::int32_t drawTitleBar(const SkinPage& page, Rect bar, std::wstring_view titl
                          style.buttonHeight};
         page.surface(place, style.titleButton.surface[button.state]);
         const vela::FontSpec& font = style.titleButton.text[button.state];
-        const std::int32_t side = vela::captionGlyphSize(kDpi);
-        vela::paintGlyph(page.sheet.dc(), button.glyph, centered(place, {side, side}), kDpi,
-                         button.state == VisualState::Disabled ? font.disabledColor : font.color);
+        const std::int32_t side = vela::captionIconSize(kDpi);
+        vela::paintIcon(page.sheet.dc(), button.icon, centered(place, {side, side}), kDpi,
+                        button.state == VisualState::Disabled ? font.disabledColor : font.color);
         right -= style.buttonWidth + style.buttonGap;
     }
     return bar.y + bar.height;
@@ -152,8 +152,8 @@ std::int32_t drawCheckBoxes(const SkinPage& page, vela::Point place)
         const bool disabled = i % 4 == 3;
         page.surface(box, style.*state.box);
         if (state.checked)
-            vela::paintGlyph(page.sheet.dc(), vela::Glyph::Check,
-                             vela::markBox((style.*state.box).shape, box), kDpi, style.checkColor);
+            vela::paintIcon(page.sheet.dc(), vela::Icon::Check, vela::markBox((style.*state.box).shape, box),
+                            kDpi, style.checkColor);
         page.text({cell.x + style.textLeft, cell.y, cell.width - style.textLeft, cell.height}, state.name,
                   style.text, {.tone = disabled ? TextTone::Disabled : TextTone::Enabled});
     }

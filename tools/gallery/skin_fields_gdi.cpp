@@ -77,8 +77,7 @@ std::int32_t drawTextInputs(const SkinPage& page, vela::Point place)
                       chip.y + (chip.height - style.attachmentRemoveExtent) / 2, style.attachmentRemoveExtent,
                       style.attachmentRemoveExtent};
     page.surface(remove, style.attachmentRemoveSurface);
-    vela::paintGlyph(page.sheet.dc(), vela::Glyph::Close, inset(remove, 4, 4), kDpi,
-                     style.attachmentIconColor);
+    vela::paintIcon(page.sheet.dc(), vela::Icon::Close, inset(remove, 4, 4), kDpi, style.attachmentIconColor);
 
     const auto& selectable = page.styles.find<vela::SelectableTextStyle>(vela::kDefaultVariant);
     const Rect log{place.x + 190, place.y + 84, 368, 26};
@@ -253,19 +252,19 @@ std::int32_t drawMenu(const SkinPage& page, vela::Point place)
         if (i < 2)
             page.surface(item, i == 0 ? style.popupItemHotSurface : style.popupItemPressedSurface);
         if (i == 1)
-            vela::paintGlyph(page.sheet.dc(), vela::Glyph::Check,
-                             centered({item.x, item.y, style.checkColumnWidth, item.height}, {12, 12}), kDpi,
-                             style.check);
+            vela::paintIcon(page.sheet.dc(), vela::Icon::Check,
+                            centered({item.x, item.y, style.checkColumnWidth, item.height}, {12, 12}), kDpi,
+                            style.check);
         page.text({item.x + style.checkColumnWidth, item.y, 120, item.height}, kItems[i], style.itemText);
         page.text({item.x + item.width - style.shortcutColumnWidth, item.y, style.shortcutColumnWidth - 10,
                    item.height},
                   kShortcuts[i], style.shortcutText, {.align = TextAlign::Right});
         if (i == 2)
-            vela::paintGlyph(page.sheet.dc(), vela::Glyph::ChevronRight,
-                             centered({item.x + item.width - style.submenuArrowWidth, item.y,
-                                       style.submenuArrowWidth, item.height},
-                                      {10, 10}),
-                             kDpi, style.arrow);
+            vela::paintIcon(page.sheet.dc(), vela::Icon::ChevronRight,
+                            centered({item.x + item.width - style.submenuArrowWidth, item.y,
+                                      style.submenuArrowWidth, item.height},
+                                     {10, 10}),
+                            kDpi, style.arrow);
         top += style.popupItemHeight;
         if (i == 1) {
             vela::fillShape(page.sheet.dc(),
@@ -297,12 +296,12 @@ std::int32_t drawCalendar(const SkinPage& page, vela::Point place)
     const Rect header{inside.x, inside.y, inside.width, style.headerHeight};
     page.surface(header, style.headerSurface);
     page.text(header, L"listopad 2026", style.headerText, {.align = TextAlign::Center});
-    for (const auto& [glyph, x] :
-         {std::pair{vela::Glyph::ChevronLeft, header.x},
-          std::pair{vela::Glyph::ChevronRight, header.x + header.width - style.navButtonExtent}})
-        vela::paintGlyph(page.sheet.dc(), glyph,
-                         centered({x, header.y, style.navButtonExtent, header.height}, {12, 12}), kDpi,
-                         style.arrowColor);
+    for (const auto& [icon, x] :
+         {std::pair{vela::Icon::ChevronLeft, header.x},
+          std::pair{vela::Icon::ChevronRight, header.x + header.width - style.navButtonExtent}})
+        vela::paintIcon(page.sheet.dc(), icon,
+                        centered({x, header.y, style.navButtonExtent, header.height}, {12, 12}), kDpi,
+                        style.arrowColor);
     constexpr std::wstring_view kDays[] = {L"Po", L"Út", L"St", L"Čt", L"Pá", L"So", L"Ne"};
     const std::int32_t cell = inside.width / 7;
     for (int day = 0; day < 7; ++day)

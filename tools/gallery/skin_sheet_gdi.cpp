@@ -88,15 +88,14 @@ std::int32_t drawPopups(const SkinPage& page, vela::Point place)
         const Rect icon{popup.x + style.paddingX, popup.y + (style.headerHeight - style.iconSize) / 2,
                         style.iconSize, style.iconSize};
         page.badge(icon, style.icon);
-        vela::paintGlyph(page.sheet.dc(), vela::Glyph::Info,
-                         centered(icon, {style.iconSize / 2, style.iconSize / 2}), kDpi,
-                         style.iconText.color);
+        vela::paintIcon(page.sheet.dc(), vela::Icon::Info,
+                        centered(icon, {style.iconSize / 2, style.iconSize / 2}), kDpi, style.iconText.color);
         page.text({icon.x + icon.width + 14, popup.y, 260, style.headerHeight}, L"Nainstalovano",
                   style.titleText);
         const Rect close{popup.x + popup.width - 40, popup.y + 8, 30, 26};
         page.surface(close, style.closeButton.surface.normal);
-        vela::paintGlyph(page.sheet.dc(), vela::Glyph::Close, centered(close, {10, 10}), kDpi,
-                         style.closeButton.text.normal.color);
+        vela::paintIcon(page.sheet.dc(), vela::Icon::Close, centered(close, {10, 10}), kDpi,
+                        style.closeButton.text.normal.color);
         page.text(inset({popup.x, popup.y + style.headerHeight, popup.width, 80}, style.paddingX,
                         style.paddingY / 2),
                   L"Tamber je připraven. Po zavření tohoto okna se aplikace otevře.", style.messageText,

@@ -1,4 +1,4 @@
-// Sheets of surfaces without any control: shapes, gradients, layers, glyphs.
+// Sheets of surfaces without any control: shapes, gradients, layers, icons.
 #include "tools/gallery/gallery_gdi.h"
 #include "vela/render/paint/paint.h"
 #include "vela/theme/derive/derive_style_sheet.h"
@@ -172,19 +172,19 @@ bool drawLayerSheet(const std::wstring& path)
     return sheet.save(path);
 }
 
-bool drawGlyphSheet(const std::wstring& path)
+bool drawIconSheet(const std::wstring& path)
 {
     constexpr std::int32_t kDpis[] = {96, 120, 144, 192};
     constexpr std::int32_t kCell = 72;
-    Sheet sheet({2 * kMargin + vela::kGlyphCount * kCell, kTop + 5 * kCell + kMargin}, {});
+    Sheet sheet({2 * kMargin + vela::kIconCount * kCell, kTop + 5 * kCell + kMargin}, {});
     sheet.title({kMargin, 20}, L"Glyphs at 100, 125, 150 and 200 %, badges and rings");
     std::int32_t top = kTop;
     for (const std::int32_t dpi : kDpis) {
-        for (std::int32_t glyph = 0; glyph < vela::kGlyphCount; ++glyph) {
-            const Rect cell{kMargin + glyph * kCell, top, kCell, kCell};
-            const std::int32_t side = 2 * vela::captionGlyphSize(dpi);
-            vela::paintGlyph(sheet.dc(), static_cast<vela::Glyph>(glyph), centered(cell, {side, side}), dpi,
-                             sheet.look().ink);
+        for (std::int32_t icon = 0; icon < vela::kIconCount; ++icon) {
+            const Rect cell{kMargin + icon * kCell, top, kCell, kCell};
+            const std::int32_t side = 2 * vela::captionIconSize(dpi);
+            vela::paintIcon(sheet.dc(), static_cast<vela::Icon>(icon), centered(cell, {side, side}), dpi,
+                            sheet.look().ink);
         }
         top += kCell;
     }

@@ -280,7 +280,7 @@ void addPopups(Panel& panel, std::int32_t top)
 {
     constexpr struct {
         std::wstring_view variant;
-        std::wstring_view glyph;
+        std::wstring_view iconText;
         std::wstring_view title;
         std::wstring_view message;
         bool focused;
@@ -294,10 +294,10 @@ void addPopups(Panel& panel, std::int32_t top)
     constexpr std::int32_t kPopup = (kWidth - (kCount - 1) * kGap) / kCount;
     std::int32_t x = kLeft;
     for (const auto& shown : kPopups) {
-        auto popup = std::make_unique<DesignedPopup>(idOf(L"popup", shown.variant, shown.glyph),
+        auto popup = std::make_unique<DesignedPopup>(idOf(L"popup", shown.variant, shown.iconText),
                                                      Rect{x, top, kPopup, 206});
         popup->setStyleKey(std::wstring(shown.variant));
-        popup->setGlyph(std::wstring(shown.glyph));
+        popup->setIconText(std::wstring(shown.iconText));
         popup->setTitle(std::wstring(shown.title));
         popup->setMessage(std::wstring(shown.message));
         popup->setActions({{L"Záznam", L""}, {L"Zavřít", L"", true}});

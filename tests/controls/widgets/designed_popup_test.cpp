@@ -93,17 +93,17 @@ TEST_F(DesignedPopupTest, APopupPaintsItsPartsInsideItself)
 {
     auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 40, 690, 380}));
     popup.setTitle(L"Titul");
-    popup.setGlyph(L"!");
+    popup.setIcon(L"!");
     popup.setMessage(L"Zprava");
     popup.applyStyle(styles);
     const PopupStyle style;
     const auto texts = testing::paintedBy<TextCall>(popup);
     EXPECT_EQ(rectOf(texts, L"Titul").x, style.paddingX + style.iconSize + 14);
     EXPECT_EQ(rectOf(texts, L"Zprava").y, 40 + style.headerHeight + 16); // clear of the header's band
-    const auto icons = testing::paintedBy<GlyphCall>(popup);
+    const auto icons = testing::paintedBy<IconCall>(popup);
     ASSERT_EQ(icons.size(), 2u);
-    EXPECT_EQ(icons[0].glyph, Glyph::Warning);
-    EXPECT_EQ(icons[1].glyph, Glyph::Close);
+    EXPECT_EQ(icons[0].icon, Icon::Warning);
+    EXPECT_EQ(icons[1].icon, Icon::Close);
     for (const PaintCall& call : testing::paintedBy(popup)) {
         const Rect rect = paintedRect(call).value_or(Rect{});
         EXPECT_EQ(intersection(rect, popup.bounds()), rect);

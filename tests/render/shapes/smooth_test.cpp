@@ -10,11 +10,11 @@ namespace {
 
 constexpr Color kWhite = hexColor(0xFFFFFF);
 
-Picture glyphPicture(Glyph glyph, std::int32_t side, std::int32_t dpi, std::int32_t margin = 0)
+Picture iconPicture(Icon icon, std::int32_t side, std::int32_t dpi, std::int32_t margin = 0)
 {
     const std::int32_t whole = side + 2 * margin;
     return drawLayer({0, 0, whole, whole}, [&](const LayerTarget& target) {
-        drawGlyph(target, glyph, {margin, margin, side, side}, dpi, kWhite);
+        drawIcon(target, icon, {margin, margin, side, side}, dpi, kWhite);
     });
 }
 
@@ -26,14 +26,14 @@ double coveredArea(const Picture& picture)
     return area;
 }
 
-TEST(Glyphs, StraightLinesFillWholePixels)
+TEST(Icons, StraightLinesFillWholePixels)
 {
     for (const std::int32_t dpi : {96, 120, 144, 168, 192, 240}) {
         SCOPED_TRACE(dpi);
-        const std::int32_t side = captionGlyphSize(dpi);
+        const std::int32_t side = captionIconSize(dpi);
         const std::int32_t pen = dpi < 168 ? 1 : 2;
         EXPECT_EQ(side, std::lround(10.0 * dpi / 96));
-        const Picture frame = glyphPicture(Glyph::Maximize, side, dpi);
+        const Picture frame = iconPicture(Icon::Maximize, side, dpi);
         for (std::int32_t at = pen; at < side - pen; ++at)
             for (std::int32_t across = 0; across < side; ++across) {
                 const Pixel expected = across < pen || across >= side - pen ? 0xFFFFFFFF : 0U;
@@ -43,14 +43,14 @@ TEST(Glyphs, StraightLinesFillWholePixels)
     }
 }
 
-TEST(Glyphs, StayInTheirBoxAndLeaveAMark)
+TEST(Icons, StayInTheirBoxAndLeaveAMark)
 {
-    for (int glyph = 0; glyph < kGlyphCount; ++glyph)
+    for (int icon = 0; icon < kIconCount; ++icon)
         for (const std::int32_t dpi : {96, 144, 240}) {
-            SCOPED_TRACE(glyph * 1000 + dpi);
+            SCOPED_TRACE(icon * 1000 + dpi);
             const std::int32_t side = 14 * dpi / 96;
             const std::int32_t margin = 3;
-            const Picture picture = glyphPicture(static_cast<Glyph>(glyph), side, dpi, margin);
+            const Picture picture = iconPicture(static_cast<Icon>(icon), side, dpi, margin);
             EXPECT_GT(coveredArea(picture), side / 2.0);
             EXPECT_LT(coveredArea(picture), side * side / 2.0);
             for (std::int32_t y = 0; y < picture.size.height; ++y)
@@ -61,12 +61,12 @@ TEST(Glyphs, StayInTheirBoxAndLeaveAMark)
         }
 }
 
-TEST(Glyphs, ChevronsMirrorEachOther)
+TEST(Icons, ChevronsMirrorEachOther)
 {
     const std::int32_t side = 15;
-    const Picture up = glyphPicture(Glyph::ChevronUp, side, 96);
-    const Picture down = glyphPicture(Glyph::ChevronDown, side, 96);
-    const Picture left = glyphPicture(Glyph::ChevronLeft, side, 96);
+    const Picture up = iconPicture(Icon::ChevronUp, side, 96);
+    const Picture down = iconPicture(Icon::ChevronDown, side, 96);
+    const Picture left = iconPicture(Icon::ChevronLeft, side, 96);
     for (std::int32_t y = 0; y < side; ++y)
         for (std::int32_t x = 0; x < side; ++x) {
             EXPECT_LE(largestDifference(up.at(x, y), down.at(x, side - 1 - y)), 1);

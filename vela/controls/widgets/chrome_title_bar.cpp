@@ -24,17 +24,17 @@ struct Caption {
     const wchar_t* id;
     const wchar_t* action;
     const wchar_t* ToolkitTexts::*hint;
-    Glyph glyph;
+    Icon icon;
 };
 constexpr Caption kCaptions[kCaptionButtonCount] = {
-    {L"chrome-reset-size", L"reset-size", &ToolkitTexts::resetSize, Glyph::ResetSize},
-    {L"chrome-minimize", L"minimize", &ToolkitTexts::minimize, Glyph::Minimize},
-    {L"chrome-maximize", L"maximize", &ToolkitTexts::maximize, Glyph::Maximize},
-    {L"chrome-close", L"close", &ToolkitTexts::close, Glyph::Close},
+    {L"chrome-reset-size", L"reset-size", &ToolkitTexts::resetSize, Icon::ResetSize},
+    {L"chrome-minimize", L"minimize", &ToolkitTexts::minimize, Icon::Minimize},
+    {L"chrome-maximize", L"maximize", &ToolkitTexts::maximize, Icon::Maximize},
+    {L"chrome-close", L"close", &ToolkitTexts::close, Icon::Close},
 };
 
 // What the button to maximise is while the window is maximised.
-constexpr Caption kRestore{L"chrome-maximize", L"restore", &ToolkitTexts::restore, Glyph::Restore};
+constexpr Caption kRestore{L"chrome-maximize", L"restore", &ToolkitTexts::restore, Icon::Restore};
 
 // The close button is one of the others until the pointer comes.
 ButtonStyle closeButtonStyle(const ChromeTitleBarStyle& style)
@@ -43,13 +43,13 @@ ButtonStyle closeButtonStyle(const ChromeTitleBarStyle& style)
     const struct {
         VisualState state;
         const SurfaceStyle& surface;
-        Color glyph;
+        Color icon;
     } looks[] = {{VisualState::Hot, style.closeHotSurface, style.closeHotColor},
                  {VisualState::Pressed, style.closePressedSurface, style.closePressedColor}};
-    for (const auto& [state, surface, glyph] : looks) {
+    for (const auto& [state, surface, icon] : looks) {
         close.surface[state] = surface;
         close.surface[state].shape = style.titleButton.surface[state].shape;
-        close.text[state].color = glyph;
+        close.text[state].color = icon;
     }
     return close;
 }
@@ -68,7 +68,7 @@ ChromeTitleBar::ChromeTitleBar(std::wstring id, Rect bounds, std::wstring title,
         auto& made = captions_[static_cast<std::size_t>(i)];
         made = std::make_unique<UnfocusedButton>(kCaptions[i].id, Rect{}, L"");
         made->setAction(kCaptions[i].action);
-        made->setGlyph(kCaptions[i].glyph);
+        made->setIcon(kCaptions[i].icon);
         made->setHint(toolkitTexts().*kCaptions[i].hint);
         made->setVisible(i == static_cast<int>(CaptionButton::Close));
         addChild(*made);
@@ -159,7 +159,7 @@ void ChromeTitleBar::showMaximisedState()
     const bool restores = window() && window()->isMaximised();
     const Caption& caption = restores ? kRestore : kCaptions[static_cast<int>(CaptionButton::Maximize)];
     maximise.setAction(caption.action);
-    maximise.setGlyph(caption.glyph);
+    maximise.setIcon(caption.icon);
     maximise.setHint(toolkitTexts().*caption.hint);
     dragArea_.setDoubleClickAction(maximise.isVisible() ? caption.action : L"");
 }

@@ -23,8 +23,8 @@ constexpr std::int32_t kBandGap = 16;
 
 constexpr struct {
     std::wstring_view text;
-    Glyph glyph;
-} kIconGlyphs[] = {{L"i", Glyph::Info}, {L"!", Glyph::Warning}, {L"X", Glyph::Failure}};
+    Icon icon;
+} kNamedIcons[] = {{L"i", Icon::Info}, {L"!", Icon::Warning}, {L"X", Icon::Failure}};
 
 // Closes its popup before it says so: whoever hears of it may destroy both.
 class PopupCloseButton final : public ThemedButton {
@@ -33,7 +33,7 @@ public:
         : ThemedButton(popup.id() + L".close", {}, L""), popup_(popup)
     {
         setAction(L"close");
-        setGlyph(Glyph::Close);
+        setIcon(Icon::Close);
         setHint(toolkitTexts().close);
     }
     void activate() override
@@ -107,7 +107,7 @@ void DesignedPopup::setTitle(std::wstring title)
     header_.setSender(id(), title_);
 }
 
-void DesignedPopup::setGlyph(std::wstring glyph) { setPart(glyph_, std::move(glyph)); }
+void DesignedPopup::setIconText(std::wstring text) { setPart(iconText_, std::move(text)); }
 
 void DesignedPopup::setMessage(std::wstring message) { setPart(message_, std::move(message)); }
 
@@ -214,7 +214,7 @@ Rect DesignedPopup::iconRect() const noexcept
 
 std::int32_t DesignedPopup::titleLeft() const noexcept
 {
-    const bool behindIcon = !column_ && !glyph_.empty();
+    const bool behindIcon = !column_ && !iconText_.empty();
     return behindIcon ? style_.paddingX + style_.iconSize + scaled(kTitleGap) : contentLeft();
 }
 
@@ -262,18 +262,18 @@ void DesignedPopup::paintBackground(HDC dc, const Rect& box) const
     fillShape(dc, {box.x, top, box.width, scaled(1)}, ShapeKind::Rect, style_.footer.border);
 }
 
-void DesignedPopup::paintIcon(HDC dc, Point at) const
+void DesignedPopup::paintHeaderIcon(HDC dc, Point at) const
 {
     const Rect icon = movedBy(iconRect(), at);
     paintControlFace(dc, icon, style_.icon);
-    const auto* const row = std::find_if(std::begin(kIconGlyphs), std::end(kIconGlyphs),
-                                         [this](const auto& known) { return known.text == glyph_; });
+    const auto* const row = std::find_if(std::begin(kNamedIcons), std::end(kNamedIcons),
+                                         [this](const auto& known) { return known.text == iconText_; });
     const std::int32_t side = icon.width * 9 / 16;
     const Rect inner{icon.x + (icon.width - side) / 2, icon.y + (icon.height - side) / 2, side, side};
-    if (row != std::end(kIconGlyphs))
-        paintGlyph(dc, row->glyph, inner, dpi(), style_.iconText.color);
+    if (row != std::end(kNamedIcons))
+        paintIcon(dc, row->icon, inner, dpi(), style_.iconText.color);
     else
-        drawText(dc, icon, glyph_, style_.iconText, dpi(), {.align = TextAlign::Center});
+        drawText(dc, icon, iconText_, style_.iconText, dpi(), {.align = TextAlign::Center});
 }
 
 void DesignedPopup::paint(HDC dc, Point origin)
@@ -283,8 +283,8 @@ void DesignedPopup::paint(HDC dc, Point origin)
     if (framed_)
         shadow_.paint(dc, *this, box);
     paintBackground(dc, box);
-    if (!glyph_.empty())
-        paintIcon(dc, at);
+    if (!iconText_.empty())
+        paintHeaderIcon(dc, at);
     const Rect header = headerRoom();
     const std::int32_t left = header.x + titleLeft();
     const std::int32_t titleRight =

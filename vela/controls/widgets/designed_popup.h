@@ -43,7 +43,7 @@ public:
     // The first text names the popup; a drag carries it.
     void setTitle(std::wstring title);
     // "i", "!" or "X"; any other text is drawn as it is.
-    void setGlyph(std::wstring glyph);
+    void setIconText(std::wstring text);
     void setMessage(std::wstring message);
     // In their order from left to right; the row ends at the right. Enter presses the primary one, or the
     // first when none is.
@@ -78,7 +78,7 @@ private:
     std::int32_t contentRight() const noexcept;
     std::int32_t footerHeight() const noexcept;
     void paintBackground(HDC dc, const Rect& box) const;
-    void paintIcon(HDC dc, Point at) const;
+    void paintHeaderIcon(HDC dc, Point at) const;
     std::wstring copiedText() const;
     bool moveAlongActions(const KeyEvent& event);
     std::int32_t titleLeft() const noexcept;
@@ -90,7 +90,7 @@ private:
     Rect messageRect() const noexcept;
 
     std::wstring title_;
-    std::wstring glyph_;
+    std::wstring iconText_;
     std::wstring message_;
     std::vector<PopupAction> actions_;
     std::optional<ContentColumn> column_;

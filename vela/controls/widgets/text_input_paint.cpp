@@ -95,9 +95,9 @@ void TextInput::paintChips(HDC dc, Point at)
         const Rect remove = movedBy(chip.remove, at);
         paintControlSurface(dc, remove, style_.attachmentRemoveSurface);
         const std::int32_t inset = remove.width / 4;
-        paintGlyph(dc, Glyph::Close,
-                   {remove.x + inset, remove.y + inset, remove.width - 2 * inset, remove.height - 2 * inset},
-                   dpi(), style_.attachmentIconColor);
+        paintIcon(dc, Icon::Close,
+                  {remove.x + inset, remove.y + inset, remove.width - 2 * inset, remove.height - 2 * inset},
+                  dpi(), style_.attachmentIconColor);
     }
 }
 

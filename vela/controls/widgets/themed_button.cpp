@@ -83,10 +83,10 @@ void ThemedButton::paint(HDC dc, Point origin)
     paintControlSurface(dc, box, style_.surface[state]);
     const TextTone tone = isEnabled() ? TextTone::Enabled : TextTone::Disabled;
     const Rect room = movedBy(contentBounds(), {box.x, box.y});
-    if (glyph_) {
-        const std::int32_t side = captionGlyphSize(dpi());
+    if (icon_) {
+        const std::int32_t side = captionIconSize(dpi());
         const Rect square{room.x + (room.width - side) / 2, room.y + (room.height - side) / 2, side, side};
-        paintGlyph(dc, *glyph_, square, dpi(), isEnabled() ? font.color : font.disabledColor);
+        paintIcon(dc, *icon_, square, dpi(), isEnabled() ? font.color : font.disabledColor);
     } else {
         const Rect caption = narrowed(room, captionPadding(bounds().height));
         drawText(dc, caption, text_, font, dpi(), {tone, TextAlign::Center, TextWrap::SingleLine});
@@ -123,7 +123,7 @@ AccessibleInfo ThemedButton::accessibleInfo() const
     AccessibleInfo info = Control::accessibleInfo();
     info.role = AccessibleRole::PushButton;
     info.action = AccessibleAction::Press;
-    // One that shows a glyph has its name in its hint.
+    // One that shows an icon has its name in its hint.
     if (info.name.empty())
         std::swap(info.name, info.description);
     return info;
@@ -138,9 +138,9 @@ void ThemedButton::setText(std::wstring text)
     invalidate(InvalidationReason::State);
 }
 
-void ThemedButton::setGlyph(std::optional<Glyph> glyph)
+void ThemedButton::setIcon(std::optional<Icon> icon)
 {
-    if (std::exchange(glyph_, glyph) != glyph)
+    if (std::exchange(icon_, icon) != icon)
         invalidate(InvalidationReason::State);
 }
 

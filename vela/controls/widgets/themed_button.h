@@ -1,4 +1,4 @@
-// A button with a caption or a glyph, five looks and one action. Its click handler runs only when nobody
+// A button with a caption or an icon, five looks and one action. Its click handler runs only when nobody
 // subscribed at the window has handled the command first.
 #pragma once
 
@@ -32,7 +32,7 @@ public:
     // For buttons whose style is part of another record, as those of a title bar or a popup.
     void setStyle(const ButtonStyle& style);
     void setText(std::wstring text);
-    void setGlyph(std::optional<Glyph> glyph);
+    void setIcon(std::optional<Icon> icon);
     // What the command is called; the control's id when it is empty.
     void setAction(std::wstring action) { action_ = std::move(action); }
     void setActive(bool active) { setFlag(active_, active); }
@@ -45,7 +45,7 @@ private:
     std::wstring text_;
     std::wstring action_;
     ButtonStyle style_;
-    std::optional<Glyph> glyph_;
+    std::optional<Icon> icon_;
     bool active_ = false;
     ClickHandler clicked_;
 };

@@ -66,9 +66,9 @@ void TooltipView::paint(HDC dc, Point origin)
         const Rect icon{x, room.y + style_.paddingY, style_.iconSize, style_.iconSize};
         paintControlFace(dc, icon, style_.icon);
         const std::int32_t side = style_.iconSize / 2;
-        paintGlyph(dc, Glyph::Info,
-                   {icon.x + (icon.width - side) / 2, icon.y + (icon.height - side) / 2, side, side}, dpi(),
-                   style_.iconText.color);
+        paintIcon(dc, Icon::Info,
+                  {icon.x + (icon.width - side) / 2, icon.y + (icon.height - side) / 2, side, side}, dpi(),
+                  style_.iconText.color);
     }
     // Beside a larger icon the text stands in the middle.
     const std::int32_t width = std::max(room.width - textLeft() - style_.paddingX, 0);

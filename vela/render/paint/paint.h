@@ -41,7 +41,7 @@ void strokeShapeOutline(HDC dc, const Rect& rect, ShapeKind kind, Color color, s
 // A band of the shape around the rectangle, within focusRingBounds.
 void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi, Color color);
 
-void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color);
+void paintIcon(HDC dc, Icon icon, const Rect& box, std::int32_t dpi, Color color);
 
 // The program's own icon; nothing in a program without one.
 void paintProgramIcon(HDC dc, const Rect& box);

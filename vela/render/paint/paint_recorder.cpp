@@ -15,7 +15,7 @@ std::int32_t unitWidth(std::int32_t dpi) { return 8 * dpi / kDesignDpi; }
 
 struct RectOf {
     std::optional<Rect> operator()(const ClipCall&) const { return std::nullopt; }
-    std::optional<Rect> operator()(const GlyphCall& call) const { return call.box; }
+    std::optional<Rect> operator()(const IconCall& call) const { return call.box; }
     std::optional<Rect> operator()(const ProgramIconCall& call) const { return call.box; }
     std::optional<Rect> operator()(const ProgressFillCall& call) const
     {
@@ -78,9 +78,9 @@ void paintFocusRing(HDC, const Rect& rect, ShapeKind shape, std::int32_t dpi, Co
     PaintRecorder::note(FocusRingCall{rect, shape, dpi, color});
 }
 
-void paintGlyph(HDC, Glyph glyph, const Rect& box, std::int32_t dpi, Color color)
+void paintIcon(HDC, Icon icon, const Rect& box, std::int32_t dpi, Color color)
 {
-    PaintRecorder::note(GlyphCall{glyph, box, dpi, color});
+    PaintRecorder::note(IconCall{icon, box, dpi, color});
 }
 
 void paintProgramIcon(HDC, const Rect& box) { PaintRecorder::note(ProgramIconCall{box}); }

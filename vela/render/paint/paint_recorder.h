@@ -60,12 +60,12 @@ struct FocusRingCall {
     friend bool operator==(const FocusRingCall&, const FocusRingCall&) = default;
 };
 
-struct GlyphCall {
-    Glyph glyph = Glyph::Check;
+struct IconCall {
+    Icon icon = Icon::Check;
     Rect box;
     std::int32_t dpi = 0;
     Color color = 0;
-    friend bool operator==(const GlyphCall&, const GlyphCall&) = default;
+    friend bool operator==(const IconCall&, const IconCall&) = default;
 };
 
 struct ProgramIconCall {
@@ -98,7 +98,7 @@ struct ClipCall {
 };
 
 using PaintCall = std::variant<SurfaceCall, ControlSurfaceCall, ControlFaceCall, ProgressFillCall,
-                               ShapeFillCall, ShapeOutlineCall, FocusRingCall, GlyphCall, ProgramIconCall,
+                               ShapeFillCall, ShapeOutlineCall, FocusRingCall, IconCall, ProgramIconCall,
                                TextCall, UnclippedLineCall, ClipCall>;
 
 // Records while it lives; one inside another takes the calls of its own time. Without one, painting is

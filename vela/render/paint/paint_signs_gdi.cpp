@@ -18,9 +18,9 @@ void drawUnclippedLine(HDC dc, const Rect& rect, std::wstring_view text, const F
     render::drawUnclippedLine(dc, rect, text, font, dpi, color);
 }
 
-void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color)
+void paintIcon(HDC dc, Icon icon, const Rect& box, std::int32_t dpi, Color color)
 {
-    render::paintGlyph(dc, glyph, box, dpi, color);
+    render::paintIcon(dc, icon, box, dpi, color);
 }
 
 } // namespace vela

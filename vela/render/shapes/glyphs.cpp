@@ -13,7 +13,7 @@ namespace {
 
 using simd::Float4;
 
-// A glyph's pen moves through points of a unit square; a lift starts a new line, and a line of one point is a
+// An icon's pen moves through points of a unit square; a lift starts a new line, and a line of one point is a
 // dot.
 struct Move {
     float x;
@@ -46,7 +46,7 @@ struct Design {
     bool crisp; // its lines lie along rows and columns: pen and points are kept on whole pixels
 };
 
-constexpr Design kDesigns[kGlyphCount] = {
+constexpr Design kDesigns[kIconCount] = {
     {kCheck, 1.9F, false},       {kChevronUp, 1.5F, false},    {kChevronDown, 1.5F, false},
     {kChevronLeft, 1.5F, false}, {kChevronRight, 1.5F, false}, {kMinimize, 1, true},
     {kMaximize, 1, true},        {kRestore, 1, true},          {kResetSize, 1, true},
@@ -64,7 +64,7 @@ struct Segment {
 
 constexpr std::size_t kMostSegments = 16;
 
-// Where the glyph's points lie on the surface.
+// Where the icon's points lie on the surface.
 class Placement {
 public:
     Placement(const Rect& box, float pen, bool crisp) : pen_(pen), crisp_(crisp)
@@ -93,9 +93,9 @@ private:
     float extent_ = 0;
 };
 
-class GlyphLines {
+class IconLines {
 public:
-    GlyphLines(const Design& design, const Placement& placement)
+    IconLines(const Design& design, const Placement& placement)
     {
         for (std::size_t i = 0; i < design.moves.size(); ++i) {
             const Move& to = design.moves[i];
@@ -151,14 +151,14 @@ float penOf(const Design& design, std::int32_t dpi) noexcept
 
 } // namespace
 
-std::int32_t captionGlyphSize(std::int32_t dpi) noexcept { return mulDiv(10, dpi, kDesignDpi); }
+std::int32_t captionIconSize(std::int32_t dpi) noexcept { return mulDiv(10, dpi, kDesignDpi); }
 
-void drawGlyph(const LayerTarget& target, Glyph glyph, const Rect& box, std::int32_t dpi, Color color,
-               std::uint8_t alpha)
+void drawIcon(const LayerTarget& target, Icon icon, const Rect& box, std::int32_t dpi, Color color,
+              std::uint8_t alpha)
 {
-    const Design& design = kDesigns[static_cast<std::size_t>(glyph)];
+    const Design& design = kDesigns[static_cast<std::size_t>(icon)];
     const float pen = penOf(design, dpi);
-    const GlyphLines lines(design, Placement(box, pen, design.crisp));
+    const IconLines lines(design, Placement(box, pen, design.crisp));
     smooth::paintSmooth(target, color, alpha, [&](Float4 x, float y) {
         return smooth::coverageAt(simd::splat(pen / 2) - simd::squareRoot(lines.squaredDistance(x, y)));
     });

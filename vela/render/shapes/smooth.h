@@ -1,4 +1,4 @@
-// Small things drawn with smooth edges: marks, caption glyphs, badges, rings around the focus and the end of
+// Small things drawn with smooth edges: marks, caption icons, badges, rings around the focus and the end of
 // a progress fill. Each call writes the whole target, transparent where nothing is drawn. Rectangles are in
 // the coordinates of the target's surface; a line that lies on whole pixels stays crisp.
 #pragma once
@@ -11,7 +11,7 @@
 
 namespace vela {
 
-enum class Glyph : std::uint8_t {
+enum class Icon : std::uint8_t {
     Check,
     ChevronUp,
     ChevronDown,
@@ -26,14 +26,14 @@ enum class Glyph : std::uint8_t {
     Warning,
     Failure,
 };
-inline constexpr int kGlyphCount = 13;
+inline constexpr int kIconCount = 13;
 
-// The glyph fills the square in the middle of the box. The line grows with the DPI.
-void drawGlyph(const LayerTarget& target, Glyph glyph, const Rect& box, std::int32_t dpi, Color color,
-               std::uint8_t alpha = 255);
+// The icon fills the square in the middle of the box. The line grows with the DPI.
+void drawIcon(const LayerTarget& target, Icon icon, const Rect& box, std::int32_t dpi, Color color,
+              std::uint8_t alpha = 255);
 
-// The side of a caption glyph's box, in pixels.
-std::int32_t captionGlyphSize(std::int32_t dpi) noexcept;
+// The side of a caption icon's box, in pixels.
+std::int32_t captionIconSize(std::int32_t dpi) noexcept;
 
 // Where a mark on a small plate of that shape has air around it and keeps clear of its slopes.
 constexpr Rect markBox(ShapeKind shape, const Rect& plate) noexcept

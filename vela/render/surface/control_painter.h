@@ -15,6 +15,6 @@ void paintControlSurface(HDC dc, const Rect& rect, const SurfaceStyle& style);
 void paintControlFace(HDC dc, const Rect& rect, const SurfaceStyle& style);
 void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end);
 void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi, Color color);
-void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color);
+void paintIcon(HDC dc, Icon icon, const Rect& box, std::int32_t dpi, Color color);
 
 } // namespace vela::render

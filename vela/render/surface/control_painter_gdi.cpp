@@ -155,10 +155,10 @@ PictureCache<SurfaceKey>& facePictures()
 
 } // namespace
 
-void paintGlyph(HDC dc, Glyph glyph, const Rect& box, std::int32_t dpi, Color color)
+void paintIcon(HDC dc, Icon icon, const Rect& box, std::int32_t dpi, Color color)
 {
     drawAntialiased(dc, box, [&](const LayerTarget& target, const Rect& local) {
-        drawGlyph(target, glyph, local, dpi, color);
+        drawIcon(target, icon, local, dpi, color);
     });
 }
 
