@@ -35,6 +35,15 @@ Picture drawLayer(const Rect& visible, Fill&& fill)
     return picture;
 }
 
+// In whole pixels.
+inline double coveredArea(const Picture& picture)
+{
+    double area = 0;
+    for (const Pixel pixel : picture.pixels)
+        area += alphaOf(pixel) / 255.0;
+    return area;
+}
+
 inline int channelOf(Pixel pixel, int channel) { return static_cast<int>(pixel >> (8 * channel) & 0xFF); }
 
 inline int largestDifference(Pixel a, Pixel b)

@@ -4,7 +4,7 @@
 
 #include "vela/controls/tree/command_event.h"
 #include "vela/controls/widgets/pressable.h"
-#include "vela/render/shapes/smooth.h"
+#include "vela/render/shapes/icons.h"
 #include "vela/theme/records/control_styles.h"
 
 #include <functional>

@@ -10,7 +10,7 @@
 #include "vela/geometry.h"
 #include "vela/platform_handles.h"
 #include "vela/render/bitmaps/bitmap_geometry.h"
-#include "vela/render/shapes/smooth.h"
+#include "vela/render/shapes/icons.h"
 #include "vela/render/text/text_look.h"
 #include "vela/theme/records/surface_style.h"
 #include "vela/theme/records/theme.h"

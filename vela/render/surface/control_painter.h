@@ -4,7 +4,7 @@
 
 #include "vela/geometry.h"
 #include "vela/platform_handles.h"
-#include "vela/render/shapes/smooth.h"
+#include "vela/render/shapes/icons.h"
 #include "vela/theme/records/surface_style.h"
 
 #include <cstdint>

@@ -5,6 +5,7 @@
 #include "vela/render/gdi/picture_cache_gdi.h"
 #include "vela/render/gdi/pixel_layer_gdi.h"
 #include "vela/render/materials/material_clock.h"
+#include "vela/render/shapes/smooth.h"
 #include "vela/render/surface/focus_ring.h"
 #include "vela/render/surface/surface_key.h"
 #include "vela/render/surface/surface_painter.h"

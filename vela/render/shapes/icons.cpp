@@ -1,4 +1,4 @@
-#include "vela/render/shapes/smooth.h"
+#include "vela/render/shapes/icons.h"
 
 #include "vela/mul_div.h"
 #include "vela/render/shapes/smooth_paint.h"

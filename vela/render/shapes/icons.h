@@ -1,0 +1,45 @@
+// Symbols drawn as lines of a pen, at any size: marks, chevrons, the signs of caption buttons and of notices.
+// A drawing writes the whole target, transparent where nothing is drawn.
+#pragma once
+
+#include "vela/geometry.h"
+#include "vela/render/pixels/pixel_buffer.h"
+#include "vela/theme/records/vocabulary.h"
+
+#include <cstdint>
+
+namespace vela {
+
+enum class Icon : std::uint8_t {
+    Check,
+    ChevronUp,
+    ChevronDown,
+    ChevronLeft,
+    ChevronRight,
+    Minimize,
+    Maximize,
+    Restore,
+    ResetSize,
+    Close,
+    Info,
+    Warning,
+    Failure,
+};
+inline constexpr int kIconCount = 13;
+
+// The icon fills the square in the middle of the box, which is in the coordinates of the target's surface.
+// The line grows with the DPI.
+void drawIcon(const LayerTarget& target, Icon icon, const Rect& box, std::int32_t dpi, Color color,
+              std::uint8_t alpha = 255);
+
+// The side of a caption icon's box, in pixels.
+std::int32_t captionIconSize(std::int32_t dpi) noexcept;
+
+// Where a mark on a small plate of that shape has air around it and keeps clear of its slopes.
+constexpr Rect markBox(ShapeKind shape, const Rect& plate) noexcept
+{
+    const std::int32_t inset = plate.width / (shape == ShapeKind::Diamond ? 5 : 8);
+    return {plate.x + inset, plate.y + inset, plate.width - 2 * inset, plate.height - 2 * inset};
+}
+
+} // namespace vela
