@@ -1,6 +1,6 @@
 // The pixel layers in megapixels a second (items), beside memset of the same bytes and beside two well-known
-// rasterisers doing the nearest thing they can: cairo on a rounded rectangle without smoothing, pixman on the
-// whole rectangle. One thread; the names end in the surface's size.
+// rasterisers doing the nearest thing they can: cairo on a rounded rectangle without antialiasing, pixman on
+// the whole rectangle. One thread; the names end in the surface's size.
 #include "vela/render/layers/gradient.h"
 #include "vela/render/layers/inner_shadow.h"
 #include "vela/render/layers/noise.h"

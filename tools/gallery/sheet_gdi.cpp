@@ -3,7 +3,7 @@
 #include "tools/png_file_win32.h"
 #include "vela/render/gdi/pixel_layer_gdi.h"
 #include "vela/render/paint/paint.h"
-#include "vela/render/shapes/smooth.h"
+#include "vela/render/shapes/antialias.h"
 
 #include <algorithm>
 
@@ -49,7 +49,7 @@ bool Sheet::save(const std::wstring& path, std::int32_t height) const
 void paintBadge(HDC dc, const Rect& rect, vela::ShapeKind shape, vela::Color color)
 {
     vela::renderPixelLayer(dc, rect, [&](const vela::LayerTarget& target) {
-        fillSmoothShape(target, shape, {0, 0, rect.width, rect.height}, color);
+        fillAntialiased(target, shape, {0, 0, rect.width, rect.height}, color);
     });
 }
 

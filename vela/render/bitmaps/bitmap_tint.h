@@ -5,8 +5,8 @@
 //   AlphaMask   the picture is opaque, its alpha is a packed mask: where it is set, the colour is.
 //   Colorize    the picture multiplied by the colour, as far as the mask says.
 //   PaletteMap  the palette spread over the picture's luminance, as far as the mask says.
-// In the last two the mask Alpha stands for "wherever the picture is", so that smooth edges take the colour
-// whole. All of them mix with the untinted picture by the amount.
+// In the last two the mask Alpha stands for "wherever the picture is", so that antialiased edges take the
+// colour whole. All of them mix with the untinted picture by the amount.
 #pragma once
 
 #include "vela/render/bitmaps/bitmap_image.h"

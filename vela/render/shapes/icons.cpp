@@ -1,7 +1,7 @@
 #include "vela/render/shapes/icons.h"
 
 #include "vela/mul_div.h"
-#include "vela/render/shapes/smooth_paint.h"
+#include "vela/render/shapes/antialias_fill.h"
 
 #include <algorithm>
 #include <array>
@@ -159,8 +159,8 @@ void drawIcon(const LayerTarget& target, Icon icon, const Rect& box, std::int32_
     const Design& design = kDesigns[static_cast<std::size_t>(icon)];
     const float pen = penOf(design, dpi);
     const IconLines lines(design, Placement(box, pen, design.crisp));
-    smooth::paintSmooth(target, color, alpha, [&](Float4 x, float y) {
-        return smooth::coverageAt(simd::splat(pen / 2) - simd::squareRoot(lines.squaredDistance(x, y)));
+    antialias::fill(target, color, alpha, [&](Float4 x, float y) {
+        return antialias::coverageAt(simd::splat(pen / 2) - simd::squareRoot(lines.squaredDistance(x, y)));
     });
 }
 

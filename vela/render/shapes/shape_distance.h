@@ -1,5 +1,5 @@
 // How far points lie from the outline of a shape, four at a time and in fractions of pixels: for light that
-// follows the outline and for smooth edges. Distances are positive inside.
+// follows the outline and for antialiased edges. Distances are positive inside.
 #pragma once
 
 #include "vela/geometry.h"

@@ -5,7 +5,7 @@
 #include "vela/render/gdi/picture_cache_gdi.h"
 #include "vela/render/gdi/pixel_layer_gdi.h"
 #include "vela/render/materials/material_clock.h"
-#include "vela/render/shapes/smooth.h"
+#include "vela/render/shapes/antialias.h"
 #include "vela/render/surface/focus_ring.h"
 #include "vela/render/surface/surface_key.h"
 #include "vela/render/surface/surface_painter.h"
@@ -137,7 +137,7 @@ void paintFace(HDC dc, const Rect& rect, const SurfaceStyle& style)
         });
     const auto stroke = [&](float width, Color color) {
         drawAntialiased(dc, rect, [&](const LayerTarget& target, const Rect& local) {
-            strokeSmoothShape(target, style.shape, local, width, color);
+            strokeAntialiased(target, style.shape, local, width, color);
         });
     };
     if (style.drawBorder)
@@ -172,7 +172,7 @@ void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi,
     const Rect from = grownBy(movedBy(rect, {-bounds.x, -bounds.y}), growth);
     const auto width = static_cast<float>(mulDiv(kFocusRingWidth, dpi, kDesignDpi));
     drawAntialiased(dc, bounds, [&](const LayerTarget& target, const Rect&) {
-        strokeSmoothShape(target, shape, from, width, color, static_cast<float>(growth - reach));
+        strokeAntialiased(target, shape, from, width, color, static_cast<float>(growth - reach));
     });
 }
 

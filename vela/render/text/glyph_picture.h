@@ -1,4 +1,4 @@
-// Letters as pixels. A text engine smooths each letter of a font once; from then on drawing a text is
+// Letters as pixels. A text engine rasterises each letter of a font once; from then on drawing a text is
 // blending such pictures, in any colour.
 #pragma once
 

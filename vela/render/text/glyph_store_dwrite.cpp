@@ -62,8 +62,9 @@ bool GlyphStore::draw(const GlyphFace& face, UINT16 index, DWRITE_MEASURING_MODE
         FAILED(factory_->CreateGlyphRunAnalysis(&run, kPixelsPerUnit, nullptr, rendering, mode, 0, 0,
                                                 analysis.put())))
         return false;
-    const bool smooth = rendering != DWRITE_RENDERING_MODE_ALIASED;
-    const DWRITE_TEXTURE_TYPE texture = smooth ? DWRITE_TEXTURE_CLEARTYPE_3x1 : DWRITE_TEXTURE_ALIASED_1x1;
+    const bool antialiased = rendering != DWRITE_RENDERING_MODE_ALIASED;
+    const DWRITE_TEXTURE_TYPE texture =
+        antialiased ? DWRITE_TEXTURE_CLEARTYPE_3x1 : DWRITE_TEXTURE_ALIASED_1x1;
     RECT bounds{};
     FLOAT gamma = 1;
     FLOAT contrast = 0; // none in the modes that match GDI
@@ -78,10 +79,11 @@ bool GlyphStore::draw(const GlyphFace& face, UINT16 index, DWRITE_MEASURING_MODE
         return true;
     picture.coverage.resize(static_cast<std::size_t>(picture.box.width) *
                             static_cast<std::size_t>(picture.box.height) * 3);
-    const auto size = static_cast<UINT32>(smooth ? picture.coverage.size() : picture.coverage.size() / 3);
+    const auto size =
+        static_cast<UINT32>(antialiased ? picture.coverage.size() : picture.coverage.size() / 3);
     if (FAILED(analysis->CreateAlphaTexture(texture, &bounds, picture.coverage.data(), size)))
         return false;
-    if (smooth)
+    if (antialiased)
         arrangeChannels(picture.coverage);
     else
         for (std::size_t i = picture.coverage.size(); i-- > 0;)

@@ -166,7 +166,7 @@ void render::drawUnclippedLine(HDC dc, const Rect& rect, std::wstring_view text,
     GdiRuler(made).measure(text, advances);
     std::adjacent_difference(advances.begin(), advances.end(), advances.begin());
     // Every letter where it was measured to be, for carets and selections stand between them: GDI alone draws
-    // a letter that it does not smooth as much as a pixel wider or narrower.
+    // a letter that it does not antialias as much as a pixel wider or narrower.
     const GdiPen pen(dc, made.handle, color);
     ::ExtTextOutW(dc, rect.x, rect.y, 0, nullptr, text.data(), static_cast<UINT>(text.size()),
                   reinterpret_cast<const INT*>(advances.data()));

@@ -1,4 +1,4 @@
-// The inner loop of smooth drawing: a colour as strong as a function of the pixel's centre says.
+// The inner loop of antialiased drawing: a colour as strong as a function of the pixel's centre says.
 #pragma once
 
 #include "vela/render/pixels/pixel_buffer.h"
@@ -6,7 +6,7 @@
 
 #include <array>
 
-namespace vela::smooth {
+namespace vela::antialias {
 
 // A pixel whose centre lies half a pixel inside the outline is covered wholly, one half a pixel outside not
 // at all.
@@ -22,7 +22,7 @@ inline simd::Float4 fourCentres(std::int32_t column) noexcept
 
 // Calls coverage(x, y) -> 0 to 1 for four pixel centres at a time and writes the colour that strongly.
 template <typename CoverageAt>
-void paintSmooth(const LayerTarget& target, Color color, std::uint8_t alpha, CoverageAt&& coverage)
+void fill(const LayerTarget& target, Color color, std::uint8_t alpha, CoverageAt&& coverage)
 {
     std::array<Pixel, 256> shades;
     for (unsigned i = 0; i < shades.size(); ++i)
@@ -39,4 +39,4 @@ void paintSmooth(const LayerTarget& target, Color color, std::uint8_t alpha, Cov
     }
 }
 
-} // namespace vela::smooth
+} // namespace vela::antialias

@@ -1,4 +1,4 @@
-#include "vela/render/shapes/smooth.h"
+#include "vela/render/shapes/antialias.h"
 
 #include "tests/render/layers/layer_testing.h"
 #include "vela/render/layers/solid_layer.h"
@@ -10,7 +10,7 @@ namespace {
 
 constexpr Color kWhite = hexColor(0xFFFFFF);
 
-TEST(SmoothShapes, CoverTheAreaTheyEnclose)
+TEST(AntialiasedShapes, CoverTheAreaTheyEnclose)
 {
     const double pi = std::acos(-1.0);
     const struct {
@@ -29,21 +29,21 @@ TEST(SmoothShapes, CoverTheAreaTheyEnclose)
         const Rect inside{2, 2, row.size.width, row.size.height};
         const Picture filled =
             drawLayer({0, 0, row.size.width + 4, row.size.height + 4},
-                      [&](const LayerTarget& t) { fillSmoothShape(t, row.kind, inside, kWhite); });
+                      [&](const LayerTarget& t) { fillAntialiased(t, row.kind, inside, kWhite); });
         EXPECT_NEAR(coveredArea(filled), row.area, row.area * 0.012) << static_cast<int>(row.kind);
     }
     const Picture ring = drawLayer({0, 0, 44, 44}, [](const LayerTarget& target) {
-        strokeSmoothShape(target, ShapeKind::Pill, {2, 2, 40, 40}, 3, kWhite);
+        strokeAntialiased(target, ShapeKind::Pill, {2, 2, 40, 40}, 3, kWhite);
     });
     EXPECT_NEAR(coveredArea(ring), (400 - 289) * pi, 4);
     EXPECT_EQ(ring.at(22, 22), 0U);
 }
 
-TEST(SmoothShapes, ARingIsEverywhereAsFarFromItsShape)
+TEST(AntialiasedShapes, ARingIsEverywhereAsFarFromItsShape)
 {
     constexpr Rect kShape{10, 10, 100, 40}; // the slanted sides of the hexagon rise at 45 degrees
     const Picture ring = drawLayer({0, 0, 120, 60}, [&](const LayerTarget& target) {
-        strokeSmoothShape(target, ShapeKind::Hexagon, kShape, 3, kWhite, -5);
+        strokeAntialiased(target, ShapeKind::Hexagon, kShape, 3, kWhite, -5);
     });
     const auto thickness = [&](std::int32_t x, std::int32_t from, std::int32_t to) {
         double sum = 0;
@@ -59,10 +59,10 @@ TEST(SmoothShapes, ARingIsEverywhereAsFarFromItsShape)
     EXPECT_NEAR(thickness(17, 18, 30), 22.5 - 2 * diagonal - 18, 0.1);
 }
 
-TEST(SmoothShapes, TakeTheirColourAtTheStrengthAsked)
+TEST(AntialiasedShapes, TakeTheirColourAtTheStrengthAsked)
 {
     const Picture badge = drawLayer({0, 0, 20, 20}, [](const LayerTarget& target) {
-        fillSmoothShape(target, ShapeKind::Pill, {0, 0, 20, 20}, hexColor(0xFF8000), 100);
+        fillAntialiased(target, ShapeKind::Pill, {0, 0, 20, 20}, hexColor(0xFF8000), 100);
     });
     EXPECT_EQ(badge.at(10, 10), 0x64643200U);
     EXPECT_EQ(badge.at(0, 0), 0U);

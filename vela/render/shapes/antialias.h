@@ -1,5 +1,5 @@
-// Shapes drawn with smooth edges: badges, rings around the focus and the end of a progress fill. Each call
-// writes the whole target, transparent where nothing is drawn. Rectangles are in the coordinates of the
+// Shapes drawn with antialiased edges: badges, rings around the focus and the end of a progress fill. Each
+// call writes the whole target, transparent where nothing is drawn. Rectangles are in the coordinates of the
 // target's surface; a line that lies on whole pixels stays crisp.
 #pragma once
 
@@ -11,13 +11,13 @@
 
 namespace vela {
 
-// A shape filled with a smooth edge: badges, dots, check boxes of any size.
-void fillSmoothShape(const LayerTarget& target, ShapeKind kind, const Rect& rect, Color color,
+// Badges, dots, check boxes of any size.
+void fillAntialiased(const LayerTarget& target, ShapeKind kind, const Rect& rect, Color color,
                      std::uint8_t alpha = 255);
 
-// A band along the shape's outline, width pixels wide, that begins so deep inside it: smooth borders, and
+// A band along the shape's outline, width pixels wide, that begins so deep inside it: borders, and
 // where the depth is negative, rings around the shape.
-void strokeSmoothShape(const LayerTarget& target, ShapeKind kind, const Rect& rect, float width, Color color,
+void strokeAntialiased(const LayerTarget& target, ShapeKind kind, const Rect& rect, float width, Color color,
                        float depth = 0);
 
 // Keeps of the target's pixels what lies in the shape when it ends at a fraction of a pixel on the right.

@@ -1,7 +1,7 @@
-#include "vela/render/shapes/smooth.h"
+#include "vela/render/shapes/antialias.h"
 
+#include "vela/render/shapes/antialias_fill.h"
 #include "vela/render/shapes/shape_distance.h"
-#include "vela/render/shapes/smooth_paint.h"
 
 #include <algorithm>
 
@@ -9,22 +9,22 @@ namespace vela {
 
 using simd::Float4;
 
-void fillSmoothShape(const LayerTarget& target, ShapeKind kind, const Rect& rect, Color color,
+void fillAntialiased(const LayerTarget& target, ShapeKind kind, const Rect& rect, Color color,
                      std::uint8_t alpha)
 {
     withShapeEdge(kind, rect, [&](const auto& edge) {
-        smooth::paintSmooth(target, color, alpha,
-                            [&](Float4 x, float y) { return smooth::coverageAt(edge.at(x, y).distance); });
+        antialias::fill(target, color, alpha,
+                        [&](Float4 x, float y) { return antialias::coverageAt(edge.at(x, y).distance); });
     });
 }
 
-void strokeSmoothShape(const LayerTarget& target, ShapeKind kind, const Rect& rect, float width, Color color,
+void strokeAntialiased(const LayerTarget& target, ShapeKind kind, const Rect& rect, float width, Color color,
                        float depth)
 {
     withShapeEdge(kind, rect, [&](const auto& edge) {
-        smooth::paintSmooth(target, color, 255, [&](Float4 x, float y) {
+        antialias::fill(target, color, 255, [&](Float4 x, float y) {
             const Float4 distance = edge.at(x, y).distance - simd::splat(depth);
-            return smooth::coverageAt(distance) - smooth::coverageAt(distance - simd::splat(width));
+            return antialias::coverageAt(distance) - antialias::coverageAt(distance - simd::splat(width));
         });
     });
 }
@@ -50,10 +50,11 @@ void cutToProgress(const LayerTarget& target, ShapeKind kind, const Rect& rect, 
             Pixel* const pixels = target.view.row(row);
             const float y = static_cast<float>(visible.y + row) + 0.5F;
             for (std::int32_t x = 0; x < visible.width; x += simd::kLanes) {
-                const Float4 centres = smooth::fourCentres(visible.x + x);
-                const Float4 kept = smooth::coverageAt(edge.at(centres + simd::splat(shift), y).distance);
+                const Float4 centres = antialias::fourCentres(visible.x + x);
+                const Float4 covered =
+                    antialias::coverageAt(edge.at(centres + simd::splat(shift), y).distance);
                 for (std::int32_t lane = 0; lane < std::min(simd::kLanes, visible.width - x); ++lane)
-                    pixels[x + lane] = scaled(pixels[x + lane], kept[lane]);
+                    pixels[x + lane] = scaled(pixels[x + lane], covered[lane]);
             }
         }
     });
