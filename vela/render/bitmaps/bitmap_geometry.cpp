@@ -1,6 +1,6 @@
 #include "vela/render/bitmaps/bitmap_geometry.h"
 
-#include "vela/render/pixels/lengths.h"
+#include "vela/render/pixels/length_limits.h"
 #include "vela/render/shapes/shape.h"
 #include "vela/theme/fields/record_scale.h"
 

@@ -1,7 +1,7 @@
 #include "vela/render/bitmaps/bitmap_skin.h"
 
 #include "vela/render/bitmaps/bitmap_tint.h"
-#include "vela/render/pixels/lengths.h"
+#include "vela/render/pixels/length_limits.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "vela/render/layers/inner_shadow.h"
 
 #include "vela/render/pixels/simd.h"
-#include "vela/render/shapes/edge_steps.h"
+#include "vela/render/shapes/distance_transform.h"
 
 #include <algorithm>
 #include <array>
@@ -215,11 +215,11 @@ void ShadowPainter::byOutline(const Coverage& coverage)
 {
     const auto limit = static_cast<std::uint8_t>(std::clamp(std::min(shadowSize_, 32) + 2, 3, 34));
     const Rect visible = target_.visible();
-    const EdgeSteps steps(coverage, {visible.y, visible.y + visible.height}, limit);
+    const DistanceTransform distance(coverage, {visible.y, visible.y + visible.height}, limit);
     const FalloffBySteps falloff(shadowSize_, limit + 1);
     paintCovered(target_, coverage, [&](Pixel* first, Span run, std::int32_t y) {
-        const std::uint8_t* const straight = steps.straight(y);
-        const std::uint8_t* const diagonal = steps.diagonal(y);
+        const std::uint8_t* const straight = distance.straight(y);
+        const std::uint8_t* const diagonal = distance.diagonal(y);
         const std::int32_t last = run.end - 1;
         position_.enterRow(y);
         simd::writeInFours(first, run.begin, run.end, [&](std::int32_t x) {
@@ -243,7 +243,7 @@ InnerShadowReach innerShadowReach(const Coverage& coverage) noexcept
     const Size size = coverage.size();
     const std::int64_t area = std::int64_t{size.width} * size.height;
     const bool rectangular = coverage.shape() == ShapeKind::Rect || coverage.shape() > ShapeKind::SlantLeft;
-    // A bitmap's outline is kept at any size: its layers never leave it.
+    // A bitmap's outline is followed at any size: its layers never leave it.
     if (coverage.isShape() && (rectangular || area >= kSmallestRectangularArea))
         return InnerShadowReach::Rectangle;
     return area > kLargestSearchedArea ? InnerShadowReach::RectangleInside : InnerShadowReach::Outline;

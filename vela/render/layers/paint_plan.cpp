@@ -7,7 +7,7 @@
 #include "vela/render/layers/noise.h"
 #include "vela/render/layers/solid_layer.h"
 #include "vela/render/layers/spatial_shading.h"
-#include "vela/render/pixels/lengths.h"
+#include "vela/render/pixels/length_limits.h"
 
 #include <algorithm>
 

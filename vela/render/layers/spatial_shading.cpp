@@ -1,6 +1,6 @@
 #include "vela/render/layers/spatial_shading.h"
 
-#include "vela/render/shapes/shape_distance.h"
+#include "vela/render/shapes/signed_distance.h"
 
 #include <algorithm>
 #include <array>
@@ -41,7 +41,7 @@ public:
     // Light above 0 and shade below, 1 at the most, relative to a flat surface. Slopes count in proportion,
     // not by the cosine of a true normal: that would give a lit edge less than half of what it takes from the
     // other.
-    Float4 at(Float4 x, float y, const EdgeSample& edge) const
+    Float4 at(Float4 x, float y, const DistanceSample& edge) const
     {
         const Float4 zero{};
         const Float4 one = simd::splat(1.0F);
@@ -151,8 +151,8 @@ void fillSpatialShading(const LayerTarget& target, const Coverage& coverage, con
     if (!coverage.isShape() || !castsSpatialShading(style))
         return clearLayer(target);
     const Size size = coverage.size();
-    withShapeEdge(coverage.shape(), {0, 0, size.width, size.height},
-                  [&](const auto& edge) { shadeBody(target, coverage, style, edge); });
+    withSignedDistance(coverage.shape(), {0, 0, size.width, size.height},
+                       [&](const auto& edge) { shadeBody(target, coverage, style, edge); });
 }
 
 } // namespace vela

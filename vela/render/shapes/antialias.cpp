@@ -1,7 +1,7 @@
 #include "vela/render/shapes/antialias.h"
 
 #include "vela/render/shapes/antialias_fill.h"
-#include "vela/render/shapes/shape_distance.h"
+#include "vela/render/shapes/signed_distance.h"
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@ using simd::Float4;
 void fillAntialiased(const LayerTarget& target, ShapeKind kind, const Rect& rect, Color color,
                      std::uint8_t alpha)
 {
-    withShapeEdge(kind, rect, [&](const auto& edge) {
+    withSignedDistance(kind, rect, [&](const auto& edge) {
         antialias::fill(target, color, alpha,
                         [&](Float4 x, float y) { return antialias::coverageAt(edge.at(x, y).distance); });
     });
@@ -21,7 +21,7 @@ void fillAntialiased(const LayerTarget& target, ShapeKind kind, const Rect& rect
 void strokeAntialiased(const LayerTarget& target, ShapeKind kind, const Rect& rect, float width, Color color,
                        float depth)
 {
-    withShapeEdge(kind, rect, [&](const auto& edge) {
+    withSignedDistance(kind, rect, [&](const auto& edge) {
         antialias::fill(target, color, 255, [&](Float4 x, float y) {
             const Float4 distance = edge.at(x, y).distance - simd::splat(depth);
             return antialias::coverageAt(distance) - antialias::coverageAt(distance - simd::splat(width));
@@ -45,7 +45,7 @@ void cutToProgress(const LayerTarget& target, ShapeKind kind, const Rect& rect, 
 {
     const Rect visible = target.visible();
     const float shift = static_cast<float>(rect.x + rect.width) - end;
-    withShapeEdge(kind, rect, [&](const auto& edge) {
+    withSignedDistance(kind, rect, [&](const auto& edge) {
         for (std::int32_t row = 0; row < visible.height; ++row) {
             Pixel* const pixels = target.view.row(row);
             const float y = static_cast<float>(visible.y + row) + 0.5F;

@@ -1,4 +1,4 @@
-#include "vela/render/shapes/edge_steps.h"
+#include "vela/render/shapes/distance_transform.h"
 
 #include <algorithm>
 #include <utility>
@@ -81,7 +81,7 @@ private:
 
 } // namespace
 
-EdgeSteps::EdgeSteps(const Coverage& coverage, Span visibleRows, std::uint8_t limit)
+DistanceTransform::DistanceTransform(const Coverage& coverage, Span visibleRows, std::uint8_t limit)
     : size_(coverage.size()),
       rows_(intersect({0, size_.height}, {visibleRows.begin - limit, visibleRows.end + limit})),
       limit_(limit),
@@ -94,7 +94,7 @@ EdgeSteps::EdgeSteps(const Coverage& coverage, Span visibleRows, std::uint8_t li
     searchSideways(coverage);
 }
 
-void EdgeSteps::searchUpwards(const Coverage& coverage)
+void DistanceTransform::searchUpwards(const Coverage& coverage)
 {
     Front front(size_.width, limit_, rows_.begin == 0);
     for (std::int32_t y = rows_.begin; y < rows_.end; ++y) {
@@ -105,7 +105,7 @@ void EdgeSteps::searchUpwards(const Coverage& coverage)
     }
 }
 
-void EdgeSteps::searchDownwards(const Coverage& coverage)
+void DistanceTransform::searchDownwards(const Coverage& coverage)
 {
     Front front(size_.width, limit_, rows_.end == size_.height);
     for (std::int32_t y = rows_.end - 1; y >= rows_.begin; --y) {
@@ -117,7 +117,7 @@ void EdgeSteps::searchDownwards(const Coverage& coverage)
 }
 
 // To both ends of each run, and to the edges of the surface, which are one step nearer than what lies beyond.
-void EdgeSteps::searchSideways(const Coverage& coverage)
+void DistanceTransform::searchSideways(const Coverage& coverage)
 {
     for (std::int32_t y = rows_.begin; y < rows_.end; ++y) {
         Steps* const row = straight_.data() + offset(y);

@@ -1,5 +1,6 @@
-// How far the pixels of a surface lie from its outline, in whole steps along rows and columns and along
-// diagonals. Meant for small surfaces: it keeps two bytes for every pixel.
+// The distance transform of a surface's coverage: how far its pixels lie from its outline, in whole steps
+// along rows and columns and, apart from those, along diagonals. Meant for small surfaces: it takes two bytes
+// for every pixel.
 #pragma once
 
 #include "vela/render/shapes/coverage.h"
@@ -9,11 +10,11 @@
 
 namespace vela {
 
-class EdgeSteps {
+class DistanceTransform {
 public:
     // The search gives up after limit steps (1 to 254) and then counts limit + 1. Only the visible rows are
     // searched from. A pixel outside the coverage, or outside the surface, is beyond the outline.
-    EdgeSteps(const Coverage& coverage, Span visibleRows, std::uint8_t limit);
+    DistanceTransform(const Coverage& coverage, Span visibleRows, std::uint8_t limit);
 
     // One number per column, valid in covered pixels of visible rows. Straight is the least number of steps
     // left, right, up and down to a pixel beyond the outline, and of steps that stay within the surface.

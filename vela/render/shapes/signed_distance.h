@@ -1,5 +1,5 @@
-// How far points lie from the outline of a shape, four at a time and in fractions of pixels: for light that
-// follows the outline and for antialiased edges. Distances are positive inside.
+// The signed distance of points to the outline of a shape, four at a time and in fractions of pixels: for
+// light that follows the outline and for antialiased edges. It is positive inside.
 #pragma once
 
 #include "vela/geometry.h"
@@ -10,7 +10,7 @@
 
 namespace vela {
 
-struct EdgeSample {
+struct DistanceSample {
     simd::Float4 distance;
     simd::Float4 outX; // the direction out of the shape, of length 1
     simd::Float4 outY;
@@ -24,15 +24,15 @@ struct InnerRange {
 };
 
 // A rectangle with round corners, as a pill is too.
-class BoxEdge {
+class BoxDistance {
 public:
-    BoxEdge(float left, float top, float width, float height, float radius) noexcept
+    BoxDistance(float left, float top, float width, float height, float radius) noexcept
         : middleX_(left + width / 2), middleY_(top + height / 2), halfWidth_(width / 2 - radius),
           halfHeight_(height / 2 - radius), radius_(radius)
     {
     }
 
-    EdgeSample at(simd::Float4 x, float y) const noexcept;
+    DistanceSample at(simd::Float4 x, float y) const noexcept;
     InnerRange innerRange(float depth, float y) const noexcept;
 
 private:
@@ -44,11 +44,11 @@ private:
 };
 
 // A convex polygon: the nearest side counts, so facets meet in a clean mitre.
-class PolygonEdge {
+class PolygonDistance {
 public:
-    PolygonEdge(ShapeKind kind, const Rect& rect);
+    PolygonDistance(ShapeKind kind, const Rect& rect);
 
-    EdgeSample at(simd::Float4 x, float y) const noexcept;
+    DistanceSample at(simd::Float4 x, float y) const noexcept;
     InnerRange innerRange(float depth, float y) const noexcept;
 
 private:
@@ -63,16 +63,17 @@ private:
     std::size_t count_ = 0;
 };
 
-BoxEdge boxEdge(ShapeKind kind, const Rect& rect) noexcept; // of Rect, RoundedRect and Pill
+BoxDistance boxDistance(ShapeKind kind, const Rect& rect) noexcept; // of Rect, RoundedRect and Pill
 
-// Calls use(edge) with the outline of the shape in the rectangle, as the class that knows its kind.
+// Calls use(edge) with the distance to the outline of the shape in the rectangle, as the class that knows its
+// kind.
 template <typename Use>
-void withShapeEdge(ShapeKind kind, const Rect& rect, Use&& use)
+void withSignedDistance(ShapeKind kind, const Rect& rect, Use&& use)
 {
     if (kind >= ShapeKind::Diamond && kind <= ShapeKind::SlantLeft)
-        use(PolygonEdge(kind, rect));
+        use(PolygonDistance(kind, rect));
     else
-        use(boxEdge(kind, rect));
+        use(boxDistance(kind, rect));
 }
 
 } // namespace vela

@@ -1,4 +1,4 @@
-#include "vela/render/shapes/shape_distance.h"
+#include "vela/render/shapes/signed_distance.h"
 
 #include "vela/render/shapes/shape.h"
 
@@ -11,7 +11,7 @@ namespace vela {
 using simd::Float4;
 using simd::Int4;
 
-EdgeSample BoxEdge::at(Float4 x, float y) const noexcept
+DistanceSample BoxDistance::at(Float4 x, float y) const noexcept
 {
     const Float4 zero{};
     const Float4 one = simd::splat(1.0F);
@@ -32,7 +32,7 @@ EdgeSample BoxEdge::at(Float4 x, float y) const noexcept
 
 // What lies so deep is a box again, smaller and with smaller corners; in the rows of its corners only the
 // part between their circles' middles is taken.
-InnerRange BoxEdge::innerRange(float depth, float y) const noexcept
+InnerRange BoxDistance::innerRange(float depth, float y) const noexcept
 {
     const float down = std::abs(y - middleY_);
     const float corner = std::max(radius_ - depth, 0.0F);
@@ -43,7 +43,7 @@ InnerRange BoxEdge::innerRange(float depth, float y) const noexcept
     return {middleX_ - halfWidth, middleX_ + halfWidth};
 }
 
-PolygonEdge::PolygonEdge(ShapeKind kind, const Rect& rect)
+PolygonDistance::PolygonDistance(ShapeKind kind, const Rect& rect)
 {
     const std::vector<Point> corners = shapePolygon(kind, rect);
     for (std::size_t i = 0; i < corners.size(); ++i) {
@@ -58,9 +58,9 @@ PolygonEdge::PolygonEdge(ShapeKind kind, const Rect& rect)
     }
 }
 
-EdgeSample PolygonEdge::at(Float4 x, float y) const noexcept
+DistanceSample PolygonDistance::at(Float4 x, float y) const noexcept
 {
-    EdgeSample nearest{simd::splat(1e6F), {}, {}};
+    DistanceSample nearest{simd::splat(1e6F), {}, {}};
     for (std::size_t i = 0; i < count_; ++i) {
         const Side& side = sides_[i];
         const Float4 distance =
@@ -73,7 +73,7 @@ EdgeSample PolygonEdge::at(Float4 x, float y) const noexcept
     return nearest;
 }
 
-InnerRange PolygonEdge::innerRange(float depth, float y) const noexcept
+InnerRange PolygonDistance::innerRange(float depth, float y) const noexcept
 {
     InnerRange range{-1e6F, 1e6F};
     for (std::size_t i = 0; i < count_; ++i) {
@@ -90,7 +90,7 @@ InnerRange PolygonEdge::innerRange(float depth, float y) const noexcept
     return range;
 }
 
-BoxEdge boxEdge(ShapeKind kind, const Rect& rect) noexcept
+BoxDistance boxDistance(ShapeKind kind, const Rect& rect) noexcept
 {
     return {static_cast<float>(rect.x), static_cast<float>(rect.y), static_cast<float>(rect.width),
             static_cast<float>(rect.height),

@@ -1,4 +1,5 @@
-// Skins choose lengths freely. Before one enters a sum it is limited here, so that no sum overflows.
+// Limits of lengths. Skins choose them freely: before one enters a sum it is limited here, so that no sum
+// overflows.
 #pragma once
 
 #include "vela/theme/records/surface_style.h"
