@@ -78,14 +78,14 @@ TEST(TextTest, BothEnginesAndMeasuringAgreeOnWidths)
 }
 
 // Letters put next to each other as GDI measures them stand where a layout of DirectWrite puts them.
-TEST(TextTest, PlainTextIsPlacedAsALayoutPlacesIt)
+TEST(TextTest, PlainTextIsLaidOutAsDirectWriteLaysItOut)
 {
     if (!hasDirectWrite())
         GTEST_SKIP() << "no DirectWrite";
     const TextLines lines{L"Příliš žluťoučký\nkůň úpěl: 42 % — „ódy“", 2};
-    const auto isSame = [](const PlacedGlyph& one, const PlacedGlyph& other) {
-        return one.pen == other.pen && one.picture->box == other.picture->box &&
-               one.picture->coverage == other.picture->coverage;
+    const auto isSame = [](const PositionedGlyph& one, const PositionedGlyph& other) {
+        return one.pen == other.pen && one.mask->box == other.mask->box &&
+               one.mask->coverage == other.mask->coverage;
     };
     for (const TextAlign align : {TextAlign::Left, TextAlign::Center, TextAlign::Right}) {
         for (const std::int32_t dpi : {96, 144}) {
@@ -93,10 +93,10 @@ TEST(TextTest, PlainTextIsPlacedAsALayoutPlacesIt)
                 FontSpec spec = uiFont();
                 spec.italic = italic;
                 const Font& font = ensureFont(spec, dpi);
-                const auto plain = placePlainText(lines, font, 401, align, GdiRuler(font));
-                const auto layout = placeLayout(lines, font, 401, align);
+                const auto plain = layoutPlainText(lines, font, 401, align, GdiTextMeasurer(font));
+                const auto layout = layoutComplexText(lines, font, 401, align);
                 ASSERT_TRUE(plain && layout);
-                EXPECT_EQ(plain->ink, layout->ink);
+                EXPECT_EQ(plain->inkBounds, layout->inkBounds);
                 EXPECT_TRUE(std::equal(plain->glyphs.begin(), plain->glyphs.end(), layout->glyphs.begin(),
                                        layout->glyphs.end(), isSame))
                     << dpi << ' ' << italic;
@@ -104,7 +104,7 @@ TEST(TextTest, PlainTextIsPlacedAsALayoutPlacesIt)
         }
     }
     const Font& font = ensureFont(uiFont(), 96);
-    EXPECT_FALSE(placePlainText({L"\u0531", 1}, font, 400, TextAlign::Left, GdiRuler(font)));
+    EXPECT_FALSE(layoutPlainText({L"\u0531", 1}, font, 400, TextAlign::Left, GdiTextMeasurer(font)));
 }
 
 // drawCenteredText is GDI's, drawText DirectWrite's where there is one.

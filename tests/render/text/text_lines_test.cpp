@@ -8,7 +8,7 @@ namespace vela {
 namespace {
 
 // Every unit is ten pixels wide, so widths in the tables count characters.
-class TenPixels final : public TextRuler {
+class TenPixels final : public TextMeasurer {
 public:
     void measure(std::wstring_view text, std::vector<std::int32_t>& ends) const override
     {
@@ -17,7 +17,7 @@ public:
             ends.push_back(static_cast<std::int32_t>(i + 1) * 10);
     }
 };
-const TenPixels kRuler;
+const TenPixels kMeasurer;
 
 TEST(TextLinesTest, BreaksAtBlanksAndInsideWordsThatAreTooLong)
 {
@@ -41,7 +41,7 @@ TEST(TextLinesTest, BreaksAtBlanksAndInsideWordsThatAreTooLong)
         {L"abc", 0, L"a\nb\nc"}, // at least one cluster a line, or nothing would ever end
     };
     for (const auto& row : rows)
-        EXPECT_EQ(wrapText(row.text, row.width, kRuler).text, row.lines) << row.width;
+        EXPECT_EQ(wrapText(row.text, row.width, kMeasurer).text, row.lines) << row.width;
 }
 
 TEST(TextLinesTest, ShowsOnlyFullLinesAndMarksWhatIsLeftOver)
@@ -57,7 +57,7 @@ TEST(TextLinesTest, ShowsOnlyFullLinesAndMarksWhatIsLeftOver)
         {L"jedna\n", {90, 20}, L"jedna\u2026"},           {L"jedna", {10, 20}, L"\u2026"},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(composeText(row.text, TextWrap::Words, row.room, 20, kRuler).text, row.lines);
+        EXPECT_EQ(composeText(row.text, TextWrap::Words, row.room, 20, kMeasurer).text, row.lines);
 }
 
 TEST(TextLinesTest, ASingleLineKeepsAllOrEndsInAnEllipsis)
@@ -72,7 +72,7 @@ TEST(TextLinesTest, ASingleLineKeepsAllOrEndsInAnEllipsis)
         {L"slovo   ", 50, L"slovo   "},      {L"slovo", -5, L"\u2026"},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(composeText(row.text, TextWrap::SingleLine, {row.width, 5}, 20, kRuler).text, row.line);
+        EXPECT_EQ(composeText(row.text, TextWrap::SingleLine, {row.width, 5}, 20, kMeasurer).text, row.line);
 }
 
 // Whatever the width, every cut falls where a caret may stand.
@@ -81,7 +81,7 @@ TEST(TextLinesTest, NeverSplitsAClusterAtAnyWidth)
     const std::wstring text =
         L"Prr\u030Celoz\u030Cte \xD83D\xDE80\xD83D\xDC68\u200D\xD83D\xDC69 \xD83D\xDC4B\xD83C\xDFFD konec";
     for (std::int32_t width = 0; width <= 400; width += 10) {
-        const std::wstring wrapped = wrapText(text, width, kRuler).text;
+        const std::wstring wrapped = wrapText(text, width, kMeasurer).text;
         std::size_t at = 0;
         for (std::size_t i = 0; i < wrapped.size(); ++i) {
             if (wrapped[i] == L'\n') {
@@ -95,7 +95,7 @@ TEST(TextLinesTest, NeverSplitsAClusterAtAnyWidth)
         }
         EXPECT_EQ(at, text.size());
 
-        const std::wstring cut = composeText(text, TextWrap::SingleLine, {width, 20}, 20, kRuler).text;
+        const std::wstring cut = composeText(text, TextWrap::SingleLine, {width, 20}, 20, kMeasurer).text;
         const std::size_t kept = cut == text ? text.size() : cut.size() - 1;
         EXPECT_EQ(nearestCaretStop(text, kept), kept) << width;
         EXPECT_EQ(cut.compare(0, kept, text, 0, kept), 0);

@@ -1,4 +1,4 @@
-// Fonts of the process: made from font records when first asked for, kept until it ends. UI thread only.
+// Fonts of the process: made from font records when first asked for, cached until it ends. UI thread only.
 #pragma once
 
 #include "vela/platform_handles.h"

@@ -98,11 +98,12 @@ std::deque<Font>& fonts()
 
 } // namespace
 
-GdiRuler::GdiRuler(const Font& font) : dc_(::CreateCompatibleDC(nullptr)), selected_(dc_.get(), font.handle)
+GdiTextMeasurer::GdiTextMeasurer(const Font& font)
+    : dc_(::CreateCompatibleDC(nullptr)), selected_(dc_.get(), font.handle)
 {
 }
 
-void GdiRuler::measure(std::wstring_view text, std::vector<std::int32_t>& ends) const
+void GdiTextMeasurer::measure(std::wstring_view text, std::vector<std::int32_t>& ends) const
 {
     static_assert(sizeof(INT) == sizeof(std::int32_t));
     ends.assign(text.size(), 0);

@@ -21,10 +21,10 @@ struct Font {
     std::int32_t ascent = 0;     // pixels from the top of a line to its base line
 };
 
-// The widths of a font. It outlives the ruler.
-class GdiRuler final : public TextRuler {
+// The widths of a font. It outlives the measurer.
+class GdiTextMeasurer final : public TextMeasurer {
 public:
-    explicit GdiRuler(const Font& font);
+    explicit GdiTextMeasurer(const Font& font);
     void measure(std::wstring_view text, std::vector<std::int32_t>& ends) const override;
 
 private:

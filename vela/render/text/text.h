@@ -22,7 +22,8 @@ void openTextEngine();
 void drawCenteredText(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font,
                       std::int32_t dpi, TextTone tone = TextTone::Enabled);
 
-// How many fonts and how many layouts the process has made: repainting what was painted before makes none.
+// How many fonts and how many layouts the process has made, for tests: repainting what was painted before
+// makes none.
 struct TextStatistics {
     std::size_t fonts;
     std::size_t layouts;

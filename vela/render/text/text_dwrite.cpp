@@ -1,7 +1,7 @@
 #include "vela/render/text/text_dwrite.h"
 
 #include "vela/library_win32.h"
-#include "vela/render/text/glyph_store_dwrite.h"
+#include "vela/render/text/glyph_cache_dwrite.h"
 #include "vela/text_clusters.h"
 #include "vela/toolkit_texts.h"
 #include "vela/worker_thread_win32.h"
@@ -26,7 +26,7 @@ struct Typeface {
 
 class Engine {
 public:
-    // Null when the system has no DirectWrite. Never destroyed: glyph pictures that other static objects
+    // Null when the system has no DirectWrite. Never destroyed: glyph masks that other static objects
     // still name when the process ends are its own. Any thread may be the first to ask; the others wait.
     static Engine* instance()
     {
@@ -36,7 +36,7 @@ public:
 
     IDWriteFactory* factory() const noexcept { return factory_.get(); }
     IDWriteTypography* plainTypography() const noexcept { return plainTypography_.get(); }
-    GlyphStore& glyphs() noexcept { return *glyphs_; }
+    GlyphCache& glyphs() noexcept { return *glyphs_; }
     // Null for a font that is GDI's alone.
     Typeface* ensureTypeface(const Font& font);
     // Null when there is none, or no layout can be made with it.
@@ -56,7 +56,7 @@ private:
     ComPointer<IDWriteFontCollection> systemFonts_;
     ComPointer<IDWriteFontCollection> privateFonts_;
     ComPointer<IDWriteTypography> plainTypography_;
-    std::optional<GlyphStore> glyphs_;
+    std::optional<GlyphCache> glyphs_;
     std::deque<Typeface> typefaces_; // fonts are never let go, and neither are these
 };
 
@@ -200,10 +200,11 @@ IDWriteTextFormat* Engine::ensureFormat(const Font& font)
     return typeface->format.get();
 }
 
-// Takes down where a layout's letters stand. Lives on the stack for one layout, so it is not counted.
-class GlyphPlacer final : public IDWriteTextRenderer {
+// Takes down where the glyphs of DirectWrite's layout stand. Lives on the stack for one layout, so it is not
+// counted.
+class GlyphCollector final : public IDWriteTextRenderer {
 public:
-    GlyphPlacer(GlyphStore& glyphs, PlacedText& text) : glyphs_(glyphs), text_(text) {}
+    GlyphCollector(GlyphCache& glyphs, TextLayout& layout) : glyphs_(glyphs), layout_(layout) {}
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override
     {
@@ -247,13 +248,13 @@ public:
         for (UINT32 i = 0; i < run->glyphCount; ++i) {
             const DWRITE_GLYPH_OFFSET offset =
                 run->glyphOffsets ? run->glyphOffsets[i] : DWRITE_GLYPH_OFFSET{};
-            const GlyphPicture* const picture = glyphs_.ensureGlyph(face, run->glyphIndices[i], mode);
-            if (!picture)
+            const GlyphMask* const mask = glyphs_.ensureGlyph(face, run->glyphIndices[i], mode);
+            if (!mask)
                 return E_FAIL;
             // A letter of a run to the left stands before its pen.
             const FLOAT left = direction < 0 ? pen - run->glyphAdvances[i] : pen;
-            text_.addGlyph(*picture, {rounded(left + direction * offset.advanceOffset),
-                                      rounded(y - offset.ascenderOffset)});
+            layout_.addGlyph(*mask, {rounded(left + direction * offset.advanceOffset),
+                                     rounded(y - offset.ascenderOffset)});
             pen += direction * run->glyphAdvances[i];
         }
         return S_OK;
@@ -283,12 +284,12 @@ private:
 
     HRESULT addLine(FLOAT x, FLOAT y, FLOAT width, FLOAT thickness)
     {
-        text_.addLine({rounded(x), rounded(y), rounded(width), std::max(rounded(thickness), 1)});
+        layout_.addLine({rounded(x), rounded(y), rounded(width), std::max(rounded(thickness), 1)});
         return S_OK;
     }
 
-    GlyphStore& glyphs_;
-    PlacedText& text_;
+    GlyphCache& glyphs_;
+    TextLayout& layout_;
 };
 
 constexpr DWRITE_TEXT_ALIGNMENT kAlignments[] = {DWRITE_TEXT_ALIGNMENT_LEADING, DWRITE_TEXT_ALIGNMENT_CENTER,
@@ -331,64 +332,64 @@ ComPointer<IDWriteTextLayout> makeDirectWriteLayout(const TextLines& lines, cons
     return layout;
 }
 
-std::optional<PlacedText> placeLayout(const TextLines& lines, const Font& font, std::int32_t width,
-                                      TextAlign align)
+std::optional<TextLayout> layoutComplexText(const TextLines& lines, const Font& font, std::int32_t width,
+                                            TextAlign align)
 {
-    const ComPointer<IDWriteTextLayout> layout = makeDirectWriteLayout(lines, font, width, align);
-    std::optional<PlacedText> text;
-    if (!layout)
-        return text;
-    GlyphPlacer placer(Engine::instance()->glyphs(), text.emplace());
-    if (FAILED(layout->Draw(nullptr, &placer, 0, 0)))
-        text.reset();
-    return text;
+    const ComPointer<IDWriteTextLayout> source = makeDirectWriteLayout(lines, font, width, align);
+    std::optional<TextLayout> layout;
+    if (!source)
+        return layout;
+    GlyphCollector collector(Engine::instance()->glyphs(), layout.emplace());
+    if (FAILED(source->Draw(nullptr, &collector, 0, 0)))
+        layout.reset();
+    return layout;
 }
 
-std::optional<PlacedText> placePlainText(const TextLines& lines, const Font& font, std::int32_t width,
-                                         TextAlign align, const TextRuler& ruler)
+std::optional<TextLayout> layoutPlainText(const TextLines& lines, const Font& font, std::int32_t width,
+                                          TextAlign align, const TextMeasurer& measurer)
 {
-    std::optional<PlacedText> text;
+    std::optional<TextLayout> layout;
     Engine* const engine = Engine::instance();
     const Typeface* const typeface = engine ? engine->ensureTypeface(font) : nullptr;
     if (!typeface)
-        return text;
+        return layout;
     const std::vector<UINT32> letters(lines.text.begin(), lines.text.end());
     std::vector<UINT16> indices(letters.size());
     if (FAILED(typeface->face->face->GetGlyphIndices(letters.data(), static_cast<UINT32>(letters.size()),
                                                      indices.data())))
-        return text;
-    text.emplace();
+        return layout;
+    layout.emplace();
     std::vector<std::int32_t> ends;
     Point pen{0, font.ascent};
     for (std::size_t begin = 0; begin < letters.size(); pen.y += font.lineHeight) {
         const std::size_t end = std::min(lines.text.find(L'\n', begin), letters.size());
-        ruler.measure(std::wstring_view(lines.text).substr(begin, end - begin), ends);
+        measurer.measure(std::wstring_view(lines.text).substr(begin, end - begin), ends);
         const std::int32_t left = alignedLeft(align, width - (ends.empty() ? 0 : ends.back()));
         for (std::size_t i = begin; i < end; ++i) {
-            const GlyphPicture* const picture =
+            const GlyphMask* const mask =
                 indices[i] == 0 ? nullptr
                                 : engine->glyphs().ensureGlyph(*typeface->face, indices[i],
                                                                DWRITE_MEASURING_MODE_GDI_CLASSIC);
-            if (!picture)
+            if (!mask)
                 return std::nullopt;
-            text->addGlyph(*picture, {left + (i == begin ? 0 : ends[i - begin - 1]), pen.y});
+            layout->addGlyph(*mask, {left + (i == begin ? 0 : ends[i - begin - 1]), pen.y});
         }
         begin = end + 1;
     }
-    return text;
+    return layout;
 }
 
-std::optional<PlacedText> placeText(const TextLines& lines, const Font& font, std::int32_t width,
-                                    TextAlign align, const TextRuler& ruler)
+std::optional<TextLayout> layoutText(const TextLines& lines, const Font& font, std::int32_t width,
+                                     TextAlign align, const TextMeasurer& measurer)
 {
     if (!font.key.underline && isPlainText(lines.text)) {
-        std::optional<PlacedText> text = placePlainText(lines, font, width, align, ruler);
-        if (text)
-            return text;
+        std::optional<TextLayout> layout = layoutPlainText(lines, font, width, align, measurer);
+        if (layout)
+            return layout;
     }
-    return placeLayout(lines, font, width, align);
+    return layoutComplexText(lines, font, width, align);
 }
 
-const TextInk& textInk() noexcept { return Engine::instance()->glyphs().ink(); }
+const GlyphPainter& glyphPainter() noexcept { return Engine::instance()->glyphs().painter(); }
 
 } // namespace vela

@@ -3,8 +3,9 @@
 
 #include "vela/com_pointer_win32.h"
 #include "vela/render/text/fonts_gdi.h"
-#include "vela/render/text/glyph_picture.h"
+#include "vela/render/text/glyph_painter.h"
 #include "vela/render/text/text.h"
+#include "vela/render/text/text_layout.h"
 
 #include <optional>
 
@@ -16,20 +17,20 @@ namespace vela {
 ComPointer<IDWriteTextLayout> makeDirectWriteLayout(const TextLines& lines, const Font& font,
                                                     std::int32_t width, TextAlign align);
 
-// The same, ready to be drawn; none when DirectWrite cannot draw all of it.
-std::optional<PlacedText> placeLayout(const TextLines& lines, const Font& font, std::int32_t width,
-                                      TextAlign align);
+// The same, ready to be drawn: for text of any script. None when DirectWrite cannot draw all of it.
+std::optional<TextLayout> layoutComplexText(const TextLines& lines, const Font& font, std::int32_t width,
+                                            TextAlign align);
 
-// The same by letters alone, where each stands at the width that GDI measures before it: none for text with a
+// The same by glyphs alone, where each stands at the width that GDI measures before it: none for text with a
 // letter that the font lacks. The text is plain.
-std::optional<PlacedText> placePlainText(const TextLines& lines, const Font& font, std::int32_t width,
-                                         TextAlign align, const TextRuler& ruler);
+std::optional<TextLayout> layoutPlainText(const TextLines& lines, const Font& font, std::int32_t width,
+                                          TextAlign align, const TextMeasurer& measurer);
 
 // Whichever does it sooner.
-std::optional<PlacedText> placeText(const TextLines& lines, const Font& font, std::int32_t width,
-                                    TextAlign align, const TextRuler& ruler);
+std::optional<TextLayout> layoutText(const TextLines& lines, const Font& font, std::int32_t width,
+                                     TextAlign align, const TextMeasurer& measurer);
 
-// Draws placed texts that have letters. There is one once there is such a text.
-const TextInk& textInk() noexcept;
+// Draws layouts that have glyphs. There is one once there is such a layout.
+const GlyphPainter& glyphPainter() noexcept;
 
 } // namespace vela

@@ -45,8 +45,8 @@ struct TextKey {
 
 struct PreparedText {
     TextLines lines;
-    std::optional<PlacedText> placed; // as DirectWrite draws it
-    bool isPlacingTried = false;
+    std::optional<TextLayout> layout; // as DirectWrite draws it
+    bool isLayoutTried = false;
 };
 
 BoundedCache<TextKey, PreparedText>& preparedTexts()
@@ -58,9 +58,9 @@ BoundedCache<TextKey, PreparedText>& preparedTexts()
 PreparedText& prepare(const TextRequest& request)
 {
     return preparedTexts().ensure(request, [&request] {
-        const GdiRuler ruler(*request.font);
+        const GdiTextMeasurer measurer(*request.font);
         return PreparedText{
-            composeText(request.text, request.wrap, request.room, request.font->lineHeight, ruler),
+            composeText(request.text, request.wrap, request.room, request.font->lineHeight, measurer),
             {},
             false};
     });
@@ -73,21 +73,21 @@ constexpr UINT kCommonFlags = DT_NOPREFIX;
 
 UINT flagsFor(TextWrap wrap, TextAlign align) noexcept
 {
-    const UINT placing = wrap == TextWrap::Words ? DT_WORDBREAK : DT_SINGLELINE | DT_VCENTER;
-    return kCommonFlags | DT_END_ELLIPSIS | placing | kAlignFlags[static_cast<std::size_t>(align)];
+    const UINT breaking = wrap == TextWrap::Words ? DT_WORDBREAK : DT_SINGLELINE | DT_VCENTER;
+    return kCommonFlags | DT_END_ELLIPSIS | breaking | kAlignFlags[static_cast<std::size_t>(align)];
 }
 
 // A context that draws text in that font and colour over what is there, for as long as this lives.
-class GdiPen {
+class SelectedTextAttributes {
 public:
-    GdiPen(HDC dc, HFONT font, Color color)
+    SelectedTextAttributes(HDC dc, HFONT font, Color color)
         : dc_(dc), selected_(dc, font), oldMode_(::SetBkMode(dc, TRANSPARENT)),
           oldColor_(::SetTextColor(dc, color))
     {
     }
-    GdiPen(const GdiPen&) = delete;
-    GdiPen& operator=(const GdiPen&) = delete;
-    ~GdiPen()
+    SelectedTextAttributes(const SelectedTextAttributes&) = delete;
+    SelectedTextAttributes& operator=(const SelectedTextAttributes&) = delete;
+    ~SelectedTextAttributes()
     {
         ::SetTextColor(dc_, oldColor_);
         ::SetBkMode(dc_, oldMode_);
@@ -102,7 +102,7 @@ private:
 
 void drawGdi(HDC dc, const Rect& rect, std::wstring_view text, HFONT font, UINT flags, Color color)
 {
-    const GdiPen pen(dc, font, color);
+    const SelectedTextAttributes attributes(dc, font, color);
     RECT room = toRECT(rect);
     ::DrawTextW(dc, text.data(), static_cast<int>(text.size()), &room, flags);
 }
@@ -114,19 +114,19 @@ Color colorFor(const FontSpec& font, TextTone tone) noexcept
 
 bool tryDrawText(HDC dc, const Rect& rect, const TextRequest& request, PreparedText& text, Color color)
 {
-    if (!std::exchange(text.isPlacingTried, true))
-        text.placed =
-            placeText(text.lines, *request.font, rect.width, request.align, GdiRuler(*request.font));
-    if (!text.placed)
+    if (!std::exchange(text.isLayoutTried, true))
+        text.layout =
+            layoutText(text.lines, *request.font, rect.width, request.align, GdiTextMeasurer(*request.font));
+    if (!text.layout)
         return false;
     const Point corner{rect.x, textTop(rect, request.wrap, text.lines.count * request.font->lineHeight)};
-    const Rect area = visiblePart(dc, intersection(movedBy(text.placed->ink, corner), rect));
+    const Rect area = visiblePart(dc, intersection(movedBy(text.layout->inkBounds, corner), rect));
     if (isEmpty(area))
         return true;
     const PixelView pixels = readPixels(dc, area);
     if (!pixels.pixels)
         return false;
-    textInk().draw(pixels, {corner.x - area.x, corner.y - area.y}, *text.placed, color);
+    glyphPainter().draw(pixels, {corner.x - area.x, corner.y - area.y}, *text.layout, color);
     writeScratch(dc, area);
     return true;
 }
@@ -163,11 +163,11 @@ void render::drawUnclippedLine(HDC dc, const Rect& rect, std::wstring_view text,
         return;
     const Font& made = ensureFont(font, dpi);
     std::vector<std::int32_t> advances;
-    GdiRuler(made).measure(text, advances);
+    GdiTextMeasurer(made).measure(text, advances);
     std::adjacent_difference(advances.begin(), advances.end(), advances.begin());
     // Every letter where it was measured to be, for carets and selections stand between them: GDI alone draws
     // a letter that it does not antialias as much as a pixel wider or narrower.
-    const GdiPen pen(dc, made.handle, color);
+    const SelectedTextAttributes attributes(dc, made.handle, color);
     ::ExtTextOutW(dc, rect.x, rect.y, 0, nullptr, text.data(), static_cast<UINT>(text.size()),
                   reinterpret_cast<const INT*>(advances.data()));
 }
@@ -177,7 +177,7 @@ std::int32_t render::measureText(std::wstring_view text, const FontSpec& font, s
 {
     const Font& made = ensureFont(font, dpi);
     // Unlike DrawTextW, drawing breaks words that are longer than a line: so the lines are broken first.
-    const TextLines lines = wrapText(text, width, GdiRuler(made));
+    const TextLines lines = wrapText(text, width, GdiTextMeasurer(made));
     const OwnedMemoryDc dc(::CreateCompatibleDC(nullptr));
     const SelectedObject selected(dc.get(), made.handle);
     RECT room{0, 0, width, 0};
@@ -201,7 +201,7 @@ std::int32_t render::measureTextWidth(std::wstring_view text, const FontSpec& fo
 void render::measureTextEnds(std::wstring_view text, const FontSpec& font, std::int32_t dpi,
                              std::vector<std::int32_t>& ends)
 {
-    GdiRuler(ensureFont(font, dpi)).measure(text, ends);
+    GdiTextMeasurer(ensureFont(font, dpi)).measure(text, ends);
 }
 
 TextStatistics textStatistics() noexcept { return {fontCount(), preparedTexts().made()}; }

@@ -13,7 +13,7 @@ constexpr std::int32_t kAllLines = std::numeric_limits<std::int32_t>::max();
 
 constexpr bool isLineEnd(wchar_t c) noexcept { return c == L'\n' || c == L'\r'; }
 
-// A tab or another control character has no picture of its own; fonts show a box or nothing.
+// A tab or another control character has no glyph of its own; fonts show a box or nothing.
 std::wstring withoutControls(std::wstring_view text)
 {
     std::wstring result(text);
@@ -25,9 +25,10 @@ std::wstring withoutControls(std::wstring_view text)
 // One line's worth of text between two line ends, with the widths of its parts.
 class Paragraph {
 public:
-    Paragraph(std::wstring_view text, const TextRuler& ruler) : text_(withoutControls(text)), ruler_(ruler)
+    Paragraph(std::wstring_view text, const TextMeasurer& measurer)
+        : text_(withoutControls(text)), measurer_(measurer)
     {
-        ruler_.measure(text_, ends_);
+        measurer_.measure(text_, ends_);
     }
 
     std::size_t size() const noexcept { return text_.size(); }
@@ -57,7 +58,7 @@ public:
     std::wstring cutFrom(std::size_t begin, std::int32_t width) const
     {
         std::vector<std::int32_t> ellipsis;
-        ruler_.measure(kEllipsis, ellipsis);
+        measurer_.measure(kEllipsis, ellipsis);
         const std::size_t limit = firstBeyond(begin, width - (ellipsis.empty() ? 0 : ellipsis.back()));
         const std::size_t end = endOfWord(begin, std::max(begin, nearestCaretStop(text_, limit)));
         return std::wstring(part(begin, end)) + kEllipsis;
@@ -99,20 +100,20 @@ private:
 
     std::wstring text_;
     std::vector<std::int32_t> ends_;
-    const TextRuler& ruler_;
+    const TextMeasurer& measurer_;
 };
 
 class LineCollector {
 public:
-    LineCollector(std::int32_t width, std::int32_t maxLines, const TextRuler& ruler)
-        : width_(width), maxLines_(maxLines), ruler_(ruler)
+    LineCollector(std::int32_t width, std::int32_t maxLines, const TextMeasurer& measurer)
+        : width_(width), maxLines_(maxLines), measurer_(measurer)
     {
     }
 
     // False when no further paragraph is wanted.
     bool add(std::wstring_view text, bool moreFollow)
     {
-        const Paragraph paragraph(text, ruler_);
+        const Paragraph paragraph(text, measurer_);
         std::size_t begin = 0;
         do {
             const Paragraph::Line line = paragraph.lineFrom(begin, width_);
@@ -139,14 +140,14 @@ private:
 
     std::int32_t width_;
     std::int32_t maxLines_;
-    const TextRuler& ruler_;
+    const TextMeasurer& measurer_;
     TextLines lines_;
 };
 
 TextLines collectLines(std::wstring_view text, std::int32_t width, std::int32_t maxLines,
-                       const TextRuler& ruler)
+                       const TextMeasurer& measurer)
 {
-    LineCollector collector(width, maxLines, ruler);
+    LineCollector collector(width, maxLines, measurer);
     while (true) {
         const auto end =
             static_cast<std::size_t>(std::find_if(text.begin(), text.end(), isLineEnd) - text.begin());
@@ -160,18 +161,18 @@ TextLines collectLines(std::wstring_view text, std::int32_t width, std::int32_t 
 } // namespace
 
 TextLines composeText(std::wstring_view text, TextWrap wrap, Size room, std::int32_t lineHeight,
-                      const TextRuler& ruler)
+                      const TextMeasurer& measurer)
 {
     if (wrap == TextWrap::Words)
-        return collectLines(text, room.width, std::max(room.height / std::max(lineHeight, 1), 1), ruler);
-    const Paragraph line(text, ruler);
+        return collectLines(text, room.width, std::max(room.height / std::max(lineHeight, 1), 1), measurer);
+    const Paragraph line(text, measurer);
     const bool fits = line.lineFrom(0, room.width).next == line.size();
     return {fits ? std::wstring(line.part(0, line.size())) : line.cutFrom(0, room.width), 1};
 }
 
-TextLines wrapText(std::wstring_view text, std::int32_t width, const TextRuler& ruler)
+TextLines wrapText(std::wstring_view text, std::int32_t width, const TextMeasurer& measurer)
 {
-    return collectLines(text, width, kAllLines, ruler);
+    return collectLines(text, width, kAllLines, measurer);
 }
 
 std::int32_t textTop(const Rect& room, TextWrap wrap, std::int32_t textHeight) noexcept

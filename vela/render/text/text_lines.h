@@ -15,16 +15,16 @@ namespace vela {
 enum class TextWrap : std::uint8_t { SingleLine, Words };
 
 // Knows the widths of a font.
-class TextRuler {
+class TextMeasurer {
 public:
-    virtual ~TextRuler() = default;
+    virtual ~TextMeasurer() = default;
     // ends[i] becomes the width in pixels of the text up to and including unit i.
     virtual void measure(std::wstring_view text, std::vector<std::int32_t>& ends) const = 0;
 
 protected:
-    TextRuler() = default;
-    TextRuler(const TextRuler&) = default;
-    TextRuler& operator=(const TextRuler&) = default;
+    TextMeasurer() = default;
+    TextMeasurer(const TextMeasurer&) = default;
+    TextMeasurer& operator=(const TextMeasurer&) = default;
 };
 
 struct TextLines {
@@ -36,10 +36,10 @@ struct TextLines {
 // word that is longer than a whole line; lines that would begin below the room's last full line are not
 // shown, but one always is. The last line shown ends in an ellipsis when text is left over.
 TextLines composeText(std::wstring_view text, TextWrap wrap, Size room, std::int32_t lineHeight,
-                      const TextRuler& ruler);
+                      const TextMeasurer& measurer);
 
 // The wrapped text with all its lines, however many.
-TextLines wrapText(std::wstring_view text, std::int32_t width, const TextRuler& ruler);
+TextLines wrapText(std::wstring_view text, std::int32_t width, const TextMeasurer& measurer);
 
 // Where text of that height begins in a room: wrapped text at the top, a single line in the middle.
 std::int32_t textTop(const Rect& room, TextWrap wrap, std::int32_t textHeight) noexcept;

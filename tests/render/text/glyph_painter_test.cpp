@@ -1,4 +1,4 @@
-#include "vela/render/text/glyph_picture.h"
+#include "vela/render/text/glyph_painter.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -10,28 +10,28 @@ constexpr Color kGround = hexColor(0x206080);
 constexpr Color kText = hexColor(0xE0A010);
 constexpr Size kSize{6, 5};
 
-// A picture whose every pixel is covered so much, in red, green and blue.
-GlyphPicture block(Rect box, std::array<std::uint8_t, 3> coverage)
+// A mask whose every pixel is covered so much, in red, green and blue.
+GlyphMask block(Rect box, std::array<std::uint8_t, 3> coverage)
 {
-    GlyphPicture picture{box, {}};
+    GlyphMask mask{box, {}};
     for (std::int32_t i = 0; i < box.width * box.height; ++i)
-        picture.coverage.insert(picture.coverage.end(), coverage.begin(), coverage.end());
-    return picture;
+        mask.coverage.insert(mask.coverage.end(), coverage.begin(), coverage.end());
+    return mask;
 }
 
-std::vector<Pixel> drawn(const GlyphPicture& picture, Point pen, float gamma = 1.4F)
+std::vector<Pixel> drawn(const GlyphMask& mask, Point pen, float gamma = 1.4F)
 {
     std::vector<Pixel> pixels(static_cast<std::size_t>(kSize.width * kSize.height),
                               premultiplied(kGround, 255));
-    PlacedText text;
-    text.addGlyph(picture, pen);
-    TextInk(gamma).draw({pixels.data(), kSize, kSize.width}, {}, text, kText);
+    TextLayout layout;
+    layout.addGlyph(mask, pen);
+    GlyphPainter(gamma).draw({pixels.data(), kSize, kSize.width}, {}, layout, kText);
     return pixels;
 }
 
 unsigned channelOf(Pixel pixel, unsigned shift) { return pixel >> shift & 0xFF; }
 
-TEST(TextInkTest, CoverageMixesEachChannelOfItsOwn)
+TEST(GlyphPainterTest, CoverageMixesEachChannelOfItsOwn)
 {
     const Pixel all = drawn(block({0, 0, 1, 1}, {255, 255, 255}), {2, 2})[2 * 6 + 2];
     EXPECT_EQ(all, premultiplied(kText, 255));
@@ -43,7 +43,7 @@ TEST(TextInkTest, CoverageMixesEachChannelOfItsOwn)
 }
 
 // Half covered, numbers meet in the middle; light does above it, and more so the steeper the exponent.
-TEST(TextInkTest, MixingIsDoneInLight)
+TEST(GlyphPainterTest, MixingIsDoneInLight)
 {
     const auto half = [](float gamma) {
         return channelOf(drawn(block({0, 0, 1, 1}, {128, 128, 128}), {2, 2}, gamma)[2 * 6 + 2], 16);
@@ -59,42 +59,25 @@ TEST(TextInkTest, MixingIsDoneInLight)
         const auto level = static_cast<std::uint8_t>(number);
         std::vector<Pixel> pixels(1, premultiplied(rgb(level, level, level), 255));
         const std::vector<Pixel> before = pixels;
-        const GlyphPicture faint = block({0, 0, 1, 1}, {0, 0, 1});
-        PlacedText text;
-        text.addGlyph(faint, {});
-        TextInk(1.4F).draw({pixels.data(), {1, 1}, 1}, {}, text, rgb(level, level, level));
+        const GlyphMask faint = block({0, 0, 1, 1}, {0, 0, 1});
+        TextLayout layout;
+        layout.addGlyph(faint, {});
+        GlyphPainter(1.4F).draw({pixels.data(), {1, 1}, 1}, {}, layout, rgb(level, level, level));
         EXPECT_EQ(pixels, before) << number;
     }
 }
 
-TEST(TextInkTest, NothingIsDrawnOutsideThePixels)
+TEST(GlyphPainterTest, NothingIsDrawnOutsideThePixels)
 {
-    const GlyphPicture picture = block({-2, -3, 4, 4}, {255, 255, 255});
+    const GlyphMask mask = block({-2, -3, 4, 4}, {255, 255, 255});
     for (std::int32_t y = -6; y < 12; ++y) {
         for (std::int32_t x = -6; x < 12; ++x) {
-            const std::vector<Pixel> pixels = drawn(picture, {x, y});
+            const std::vector<Pixel> pixels = drawn(mask, {x, y});
             const Rect seen = intersection({x - 2, y - 3, 4, 4}, {0, 0, kSize.width, kSize.height});
             EXPECT_EQ(std::count(pixels.begin(), pixels.end(), premultiplied(kText, 255)),
                       seen.width * seen.height);
         }
     }
-}
-
-TEST(PlacedTextTest, InkIsAroundLettersAndLines)
-{
-    const GlyphPicture letter = block({1, -8, 5, 9}, {9, 9, 9});
-    const GlyphPicture blank = block({0, 0, 0, 0}, {});
-    PlacedText text;
-    text.addGlyph(blank, {-50, -50});
-    EXPECT_TRUE(isEmpty(text.ink));
-    EXPECT_TRUE(text.glyphs.empty());
-    text.addGlyph(letter, {10, 20});
-    EXPECT_EQ(text.ink, (Rect{11, 12, 5, 9}));
-    text.addLine({0, 22, 30, 1});
-    EXPECT_EQ(text.ink, (Rect{0, 12, 30, 11}));
-    std::vector<Pixel> pixels(30 * 30, 0);
-    TextInk(1.0F).draw({pixels.data(), {30, 30}, 30}, {-5, 0}, text, kText);
-    EXPECT_EQ(std::count(pixels.begin(), pixels.end(), premultiplied(kText, 255)), 25);
 }
 
 } // namespace

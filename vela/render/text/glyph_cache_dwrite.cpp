@@ -1,4 +1,4 @@
-#include "vela/render/text/glyph_store_dwrite.h"
+#include "vela/render/text/glyph_cache_dwrite.h"
 
 #include "vela/rect_win32.h"
 
@@ -22,12 +22,12 @@ bool isSameFace(IDWriteFontFace* one, IDWriteFontFace* other)
 
 } // namespace
 
-GlyphStore::GlyphStore(ComPointer<IDWriteFactory> factory, ComPointer<IDWriteRenderingParams> params) noexcept
+GlyphCache::GlyphCache(ComPointer<IDWriteFactory> factory, ComPointer<IDWriteRenderingParams> params) noexcept
     : factory_(std::move(factory)), params_(std::move(params))
 {
 }
 
-GlyphFace& GlyphStore::ensureFace(const ComPointer<IDWriteFontFace>& face, float em)
+GlyphFace& GlyphCache::ensureFace(const ComPointer<IDWriteFontFace>& face, float em)
 {
     for (GlyphFace& known : faces_) {
         if (known.em == em && isSameFace(known.face.get(), face.get()))
@@ -36,22 +36,22 @@ GlyphFace& GlyphStore::ensureFace(const ComPointer<IDWriteFontFace>& face, float
     return faces_.emplace_back(GlyphFace{face, em, {}});
 }
 
-// DirectWrite draws a letter anew each time it is asked; under Wine that takes longer than the rest of
+// DirectWrite rasterises a glyph anew each time it is asked; under Wine that takes longer than the rest of
 // painting.
-const GlyphPicture* GlyphStore::ensureGlyph(GlyphFace& face, UINT16 index, DWRITE_MEASURING_MODE mode)
+const GlyphMask* GlyphCache::ensureGlyph(GlyphFace& face, UINT16 index, DWRITE_MEASURING_MODE mode)
 {
     const auto place =
         std::lower_bound(face.glyphs.begin(), face.glyphs.end(), index,
-                         [](const KnownGlyph& known, UINT16 wanted) { return known.index < wanted; });
+                         [](const CachedGlyph& known, UINT16 wanted) { return known.index < wanted; });
     if (place != face.glyphs.end() && place->index == index)
-        return place->picture;
-    GlyphPicture picture;
-    const bool drawn = draw(face, index, mode, picture);
-    return face.glyphs.insert(place, {index, drawn ? &pictures_.emplace_back(std::move(picture)) : nullptr})
-        ->picture;
+        return place->mask;
+    GlyphMask mask;
+    const bool rasterised = rasterise(face, index, mode, mask);
+    return face.glyphs.insert(place, {index, rasterised ? &masks_.emplace_back(std::move(mask)) : nullptr})
+        ->mask;
 }
 
-bool GlyphStore::draw(const GlyphFace& face, UINT16 index, DWRITE_MEASURING_MODE mode, GlyphPicture& picture)
+bool GlyphCache::rasterise(const GlyphFace& face, UINT16 index, DWRITE_MEASURING_MODE mode, GlyphMask& mask)
 {
     const FLOAT advance = 0;
     const DWRITE_GLYPH_RUN run{face.face.get(), face.em, 1, &index, &advance, nullptr, FALSE, 0};
@@ -72,27 +72,26 @@ bool GlyphStore::draw(const GlyphFace& face, UINT16 index, DWRITE_MEASURING_MODE
     if (FAILED(analysis->GetAlphaTextureBounds(texture, &bounds)) ||
         FAILED(analysis->GetAlphaBlendParams(params_.get(), &gamma, &contrast, &clearType)))
         return false;
-    if (!ink_)
-        ink_.emplace(gamma);
-    picture.box = toRect(bounds);
-    if (isEmpty(picture.box))
+    if (!painter_)
+        painter_.emplace(gamma);
+    mask.box = toRect(bounds);
+    if (isEmpty(mask.box))
         return true;
-    picture.coverage.resize(static_cast<std::size_t>(picture.box.width) *
-                            static_cast<std::size_t>(picture.box.height) * 3);
-    const auto size =
-        static_cast<UINT32>(antialiased ? picture.coverage.size() : picture.coverage.size() / 3);
-    if (FAILED(analysis->CreateAlphaTexture(texture, &bounds, picture.coverage.data(), size)))
+    mask.coverage.resize(static_cast<std::size_t>(mask.box.width) *
+                         static_cast<std::size_t>(mask.box.height) * 3);
+    const auto size = static_cast<UINT32>(antialiased ? mask.coverage.size() : mask.coverage.size() / 3);
+    if (FAILED(analysis->CreateAlphaTexture(texture, &bounds, mask.coverage.data(), size)))
         return false;
     if (antialiased)
-        arrangeChannels(picture.coverage);
+        arrangeChannels(mask.coverage);
     else
-        for (std::size_t i = picture.coverage.size(); i-- > 0;)
-            picture.coverage[i] = picture.coverage[i / 3];
+        for (std::size_t i = mask.coverage.size(); i-- > 0;)
+            mask.coverage[i] = mask.coverage[i / 3];
     return true;
 }
 
 // From the order of a colour screen's stripes to red, green and blue; screens without stripes get greys.
-void GlyphStore::arrangeChannels(std::vector<std::uint8_t>& coverage) const
+void GlyphCache::arrangeChannels(std::vector<std::uint8_t>& coverage) const
 {
     const DWRITE_PIXEL_GEOMETRY stripes = params_->GetPixelGeometry();
     const bool grey = stripes == DWRITE_PIXEL_GEOMETRY_FLAT || params_->GetClearTypeLevel() <= 0;
