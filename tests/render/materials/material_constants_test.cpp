@@ -160,7 +160,7 @@ TEST(MaterialOverlayCache, TriesAgainAfterARenderingThatFailed)
     };
     EXPECT_FALSE(ask(kPlace, false));
     EXPECT_TRUE(ask(kPlace, true));
-    EXPECT_TRUE(ask(kPlace, false));           // kept
+    EXPECT_TRUE(ask(kPlace, false));           // cached
     EXPECT_FALSE(ask({0, 0, 201, 100}, true)); // there is no room for it at all
 }
 

@@ -64,7 +64,7 @@ TEST(MaterialOverlayPaintTest, IsRenderedOnceForAnUnchangedSurface)
 TEST(MaterialOverlayPaintTest, CostsNothingWhereNoMaterialIsAskedFor)
 {
     const std::size_t rendered = materialOverlays().rendered();
-    const std::size_t kept = materialOverlays().size();
+    const std::size_t cached = materialOverlays().size();
     Canvas canvas({90, 40}, kGround);
     const std::vector<Pixel> before = canvas.pixels();
     const auto expectNothing = [&](const SurfaceStyle& style) {
@@ -86,7 +86,7 @@ TEST(MaterialOverlayPaintTest, CostsNothingWhereNoMaterialIsAskedFor)
     style = bareStyle();
     drawMaterialOverlay(canvas.dc(), {200, 200, 80, 30}, style);
     EXPECT_EQ(materialOverlays().rendered(), rendered);
-    EXPECT_EQ(materialOverlays().size(), kept);
+    EXPECT_EQ(materialOverlays().size(), cached);
 }
 
 TEST(MaterialOverlayPaintTest, SeamlessTexturesJoinAcrossNeighbours)
@@ -112,8 +112,8 @@ TEST(MaterialOverlayPaintTest, SeamlessTexturesJoinAcrossNeighbours)
     EXPECT_NE(veins({{5, 4, 30, 32}}), veins({{6, 4, 30, 32}}));
 }
 
-// Larger than all that may be kept: the part that can be seen is rendered each time.
-TEST(MaterialOverlayPaintTest, ShowsASurfaceTooLargeToBeKept)
+// Larger than all that may be cached: the part that can be seen is rendered each time.
+TEST(MaterialOverlayPaintTest, ShowsASurfaceTooLargeToBeCached)
 {
     SurfaceStyle style = bareStyle();
     style.shape = ShapeKind::Diamond;

@@ -14,7 +14,7 @@ constexpr std::size_t kMostPictures = 128;
 
 } // namespace
 
-// A picture counts its pixels, and none so few that more than kMostPictures would be kept.
+// A picture counts its pixels, and none so few that more than kMostPictures would be cached.
 std::size_t BitmapCache::Weight::operator()(const Picture& picture) const noexcept
 {
     const Size size = picture ? picture->size() : Size{};

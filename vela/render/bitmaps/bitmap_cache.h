@@ -1,4 +1,5 @@
-// The bitmaps that styles name, decoded and tinted when first painted and kept while there is room for them.
+// The bitmaps that styles name, decoded and tinted when first painted and cached while there is room for
+// them.
 #pragma once
 
 #include "vela/render/bitmaps/bitmap_geometry.h"

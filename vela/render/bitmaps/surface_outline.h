@@ -1,5 +1,5 @@
-// The outline that a bitmap gives a surface, kept from paint to paint: every layer, the window region and the
-// next repaint walk the same runs.
+// The outline that a bitmap gives a surface, cached from paint to paint: every layer, the window region and
+// the next repaint walk the same runs.
 #pragma once
 
 #include "vela/render/bitmaps/bitmap_cache.h"

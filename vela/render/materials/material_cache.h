@@ -1,5 +1,5 @@
-// Finished material overlays, kept by value: a surface that did not change is rendered once, on the graphics
-// card or in software, and only composited when it is painted again.
+// Finished material overlays, cached by value: a surface that did not change is rendered once, on the
+// graphics card or in software, and only composited when it is painted again.
 #pragma once
 
 #include "vela/render/materials/material_constants.h"

@@ -1,5 +1,5 @@
 // The light behind luminous glass. It moves while all else in the glass stands still, so a picture of the
-// rest is kept and only the light is added for each step of the animation.
+// rest is cached and only the light is added for each step of the animation.
 #pragma once
 
 #include "vela/render/materials/material_scene.h"

@@ -43,7 +43,7 @@ public:
 
 private:
     // The lattice changes from row to row by less than a point, so what the columns make of a line of points
-    // is kept for all rows beside it.
+    // is cached for all rows beside it.
     struct Octave {
         void place(simd::Float4 x, std::size_t column);
         void moveTo(simd::Float4 y);

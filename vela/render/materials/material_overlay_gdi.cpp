@@ -16,7 +16,7 @@ namespace vela {
 namespace {
 
 // 40 MB: a window as large as a 4K screen, and some.
-constexpr std::size_t kMostKeptPixels = 10'000'000;
+constexpr std::size_t kMostCachedPixels = 10'000'000;
 
 // Lets write(target, coverage) write the visible part of a surface's overlay and lays it over the surface.
 template <typename Write>
@@ -29,7 +29,7 @@ void compositeCut(HDC dc, const Rect& rect, const SurfaceStyle& style, Write&& w
 
 PixelView unlitOverlay(const MaterialConstants& constants)
 {
-    static MaterialOverlayCache overlays(kMostKeptPixels);
+    static MaterialOverlayCache overlays(kMostCachedPixels);
     const MaterialConstants unlit = withoutLight(constants);
     return overlays.ensure(unlit, [&unlit](const PixelView& pixels) {
         renderMaterialOverlay(unlit, {pixels, {}});
@@ -39,16 +39,16 @@ PixelView unlitOverlay(const MaterialConstants& constants)
 
 void drawInSoftware(HDC dc, const Rect& rect, const SurfaceStyle& style, const MaterialConstants& constants)
 {
-    const PixelView kept = materialOverlays().ensure(constants, [&constants](const PixelView& pixels) {
+    const PixelView cached = materialOverlays().ensure(constants, [&constants](const PixelView& pixels) {
         if (hasMovingLight(constants))
             addLight(constants, unlitOverlay(constants), pixels);
         else
             renderMaterialOverlay(constants, {pixels, {}});
         return true;
     });
-    if (kept.pixels)
-        return compositeMaterialOverlay(dc, rect, style, kept);
-    // Too large to be kept: only what can be seen is rendered, each time.
+    if (cached.pixels)
+        return compositeMaterialOverlay(dc, rect, style, cached);
+    // Too large to be cached: only what can be seen is rendered, each time.
     compositeCut(dc, rect, style, [&constants](const LayerTarget& target, const Coverage& coverage) {
         renderMaterialOverlay(constants, target);
         paintCovered(target, coverage, [](Pixel*, Span, std::int32_t) {});
@@ -59,7 +59,7 @@ void drawInSoftware(HDC dc, const Rect& rect, const SurfaceStyle& style, const M
 
 MaterialOverlayCache& materialOverlays()
 {
-    static MaterialOverlayCache overlays(kMostKeptPixels);
+    static MaterialOverlayCache overlays(kMostCachedPixels);
     return overlays;
 }
 

@@ -13,7 +13,7 @@ namespace vela {
 // The process's overlays, whoever rendered them.
 MaterialOverlayCache& materialOverlays();
 
-// The overlay in software, rendered only when it is not kept.
+// The overlay in software, rendered only when it is not cached.
 void drawSoftwareMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style);
 
 // The material overlay in software, with its texture laid across the window whatever the style says, so that

@@ -22,7 +22,7 @@ pD3DCompile findCompiler() noexcept
     for (const wchar_t* const name : kLibraries) {
         SystemLibrary library(name);
         if (const auto compile = library.function<std::remove_pointer_t<pD3DCompile>>("D3DCompile")) {
-            static const SystemLibrary kept = std::move(library);
+            static const SystemLibrary loaded = std::move(library);
             return compile;
         }
     }

@@ -56,7 +56,8 @@ struct LayerTarget {
     }
 };
 
-// Storage that is kept from one layer to the next. The pixels of a fresh view hold whatever was there before.
+// Storage that is reused from one layer to the next. The pixels of a fresh view hold whatever was there
+// before.
 class PixelBuffer {
 public:
     // Valid until the next call.

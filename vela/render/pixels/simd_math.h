@@ -37,9 +37,9 @@ inline Float4 polynomial(Float4 x, float constant, Rest... rest) noexcept
 // pixel shows it, and numbers so small that they lose digits are slow to reckon with.
 inline Float4 powerOfTwo(Float4 exponent) noexcept
 {
-    const Float4 kept = bounded(exponent, -80, 126);
-    const Float4 whole = floorOf(kept + 0.5F);
-    const Float4 rest = kept - whole;
+    const Float4 limited = bounded(exponent, -80, 126);
+    const Float4 whole = floorOf(limited + 0.5F);
+    const Float4 rest = limited - whole;
     const Int4 scale = (truncated(whole) + splat(127)) << 23;
     return asFloat(scale) *
            polynomial(rest, 0.999999285F, 0.693121791F, 0.240247443F, 0.0559178591F, 0.00957010221F);

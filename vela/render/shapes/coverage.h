@@ -12,7 +12,7 @@
 
 namespace vela {
 
-// A mask of any outline, kept as runs: built once per bitmap and size, walked by every layer and by the
+// A mask of any outline, as runs: built once per bitmap and size, walked by every layer and by the
 // window region.
 class RunMask {
 public:
