@@ -110,10 +110,10 @@ void fillRadial(const LayerTarget& target, const Coverage& coverage, const Color
         const auto dy = static_cast<float>(fromMiddle(y, size.height));
         simd::writeInFours(first, run.begin, run.end, [&](std::int32_t x) {
             const Float4 dx = fourFromMiddle(x, size.width);
-            const Float4 steps = simd::squareRoot((dx * dx + simd::splat(dy * dy)) * simd::splat(kScale));
+            const Float4 steps = simd::sqrt((dx * dx + simd::splat(dy * dy)) * simd::splat(kScale));
             // Clamped: rounding may overshoot in a corner, and the last group of a row may reach past it.
             const Float4 last = simd::splat(static_cast<float>(kTableSteps));
-            return simd::lookUp(table.data(), simd::truncated(simd::lesser(steps, last) + simd::splat(0.5F)));
+            return simd::lookUp(table.data(), simd::truncated(simd::min(steps, last) + simd::splat(0.5F)));
         });
     });
 }
@@ -121,10 +121,10 @@ void fillRadial(const LayerTarget& target, const Coverage& coverage, const Color
 // atan2 to within 0.00001 radians.
 Float4 angleOf(Float4 dy, Float4 dx) noexcept
 {
-    const Float4 absX = simd::magnitude(dx);
-    const Float4 absY = simd::magnitude(dy);
+    const Float4 absX = simd::abs(dx);
+    const Float4 absY = simd::abs(dy);
     const Float4 tiny = simd::splat(1e-20F); // the centre has the angle 0
-    const Float4 ratio = simd::lesser(absX, absY) / simd::greater(simd::greater(absX, absY), tiny);
+    const Float4 ratio = simd::min(absX, absY) / simd::max(simd::max(absX, absY), tiny);
     const Float4 square = ratio * ratio;
     Float4 angle = simd::splat(-0.01172120F) * square + simd::splat(0.05265332F);
     angle = angle * square - simd::splat(0.11643287F);

@@ -121,8 +121,8 @@ public:
         const Float4 u =
             simd::toFloat(simd::splat(x) + Int4{0, 1, 2, 3}) * simd::splat(perPixel(size_.width));
         const Float4 v = simd::splat(v_);
-        const Float4 value = simd::splat(0.18F) * simd::greater(u, v) +
-                             simd::splat(0.08F) * (simd::splat(1.0F) - simd::lesser(u, v)) +
+        const Float4 value = simd::splat(0.18F) * simd::max(u, v) +
+                             simd::splat(0.08F) * (simd::splat(1.0F) - simd::min(u, v)) +
                              simd::splat(0.7F + row_);
         if (!alongColumns_)
             return value;
@@ -172,7 +172,7 @@ private:
     {
         const Float4 value =
             (position_(x) * falloff.wide + simd::splat(0.18F) * falloff.close) * simd::splat(strength_);
-        const Float4 alpha = simd::lesser(value + simd::splat(0.5F), simd::splat(255.0F));
+        const Float4 alpha = simd::min(value + simd::splat(0.5F), simd::splat(255.0F));
         return simd::lookUp(shades_.data(), simd::truncated(alpha));
     }
 
@@ -198,8 +198,8 @@ void ShadowPainter::byRectangle(const Coverage& coverage)
                 simd::writeInFours(first + (part.begin - run.begin), part.begin, part.end,
                                    [&](std::int32_t x) {
                                        const Falloffs column = columns.at(x);
-                                       return shade(x, {simd::greater(column.wide, simd::splat(row.wide)),
-                                                        simd::greater(column.close, simd::splat(row.close))});
+                                       return shade(x, {simd::max(column.wide, simd::splat(row.wide)),
+                                                        simd::max(column.close, simd::splat(row.close))});
                                    });
         };
         const Span deep = intersect(run, {shadowSize_, size_.width - shadowSize_});

@@ -46,10 +46,10 @@ public:
         const Float4 zero{};
         const Float4 one = simd::splat(1.0F);
         // The slope falls off smoothly from the edge inwards, as on a rounded body.
-        const Float4 inwards = simd::greater(edge.distance, zero) / simd::splat(roundedWidth_);
-        const Float4 fade = simd::greater(one - inwards, zero);
+        const Float4 inwards = simd::max(edge.distance, zero) / simd::splat(roundedWidth_);
+        const Float4 fade = simd::max(one - inwards, zero);
         // The outermost pixel catches the light like a polished arris.
-        const Float4 arris = simd::lesser(simd::greater(simd::splat(kArrisWidth) - edge.distance, zero), one);
+        const Float4 arris = simd::min(simd::max(simd::splat(kArrisWidth) - edge.distance, zero), one);
         const Float4 slope = simd::splat(edgeSlope_) * fade * fade + simd::splat(rim_) * arris;
         const Float4 towardsLight = edge.outX * simd::splat(lightX_) + edge.outY * simd::splat(lightY_);
         return towardsLight * slope + faceAt(x, y);
@@ -115,7 +115,7 @@ void shadeBody(const LayerTarget& target, const Coverage& coverage, const Surfac
     const Shades shades = shadesOf(style);
     const auto shade = [&shades](Float4 light) {
         const Float4 place = light * simd::splat(static_cast<float>(kFlat)) + simd::splat(kFlat + 0.5F);
-        const Float4 inRange = simd::lesser(simd::greater(place, Float4{}), simd::splat(2.0F * kFlat));
+        const Float4 inRange = simd::min(simd::max(place, Float4{}), simd::splat(2.0F * kFlat));
         return simd::lookUp(shades.data(), simd::truncated(inRange));
     };
     const auto centres = [](std::int32_t column) {

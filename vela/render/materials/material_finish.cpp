@@ -9,10 +9,10 @@
 namespace vela {
 namespace {
 
+using simd::abs;
 using simd::Float4;
 using simd::load;
-using simd::magnitude;
-using simd::power;
+using simd::pow;
 
 Clouds finishClouds(const MaterialScene& scene)
 {
@@ -26,7 +26,7 @@ public:
     void beginRow(const MaterialRow& row) { waves_.beginRow(row); }
     void addTo(FourSums& sums, std::size_t column) const
     {
-        sums.add(color_, fallingOff(magnitude(waves_.at(column)), steepness_, exponent_) * opacity_);
+        sums.add(color_, fallingOff(abs(waves_.at(column)), steepness_, exponent_) * opacity_);
     }
 
 protected:
@@ -68,9 +68,9 @@ public:
     }
     void addTo(FourSums& sums, std::size_t column) const
     {
-        const Float4 wave = simd::sine(load(&columns_[column]) + row_ + clouds_.at(column) * 8.0F);
-        sums.add(look_.shade, fallingOff(magnitude(wave), 1.72F, 5.8F) *
-                                  (look_.texture * (0.30F + look_.occlusion * 0.36F)));
+        const Float4 wave = simd::sin(load(&columns_[column]) + row_ + clouds_.at(column) * 8.0F);
+        sums.add(look_.shade,
+                 fallingOff(abs(wave), 1.72F, 5.8F) * (look_.texture * (0.30F + look_.occlusion * 0.36F)));
     }
 
 private:
@@ -87,7 +87,7 @@ public:
     void beginRow(const MaterialRow& row) { clouds_.beginRow(row); }
     void addTo(FourSums& sums, std::size_t column) const
     {
-        const Float4 dent = power(magnitude(clouds_.at(column) - 0.5F) * 2.0F, 1.8F);
+        const Float4 dent = pow(abs(clouds_.at(column) - 0.5F) * 2.0F, 1.8F);
         sums.addEither(dent > 0.52F, look_.light, look_.shade, dent * (look_.texture * 0.18F));
     }
 
@@ -112,7 +112,7 @@ public:
     void beginRow(const MaterialRow& row) { clouds_.beginRow(row); }
     void addTo(FourSums& sums, std::size_t column) const
     {
-        sums.add(look_.light, magnitude(clouds_.at(column) - 0.5F) * (look_.texture * 0.14F));
+        sums.add(look_.light, abs(clouds_.at(column) - 0.5F) * (look_.texture * 0.14F));
     }
 
 private:
@@ -126,7 +126,7 @@ public:
 
     void beginRow(const MaterialRow& row)
     {
-        ofRow_ = fallingOff(magnitude(row.texture - 0.26F), 5.0F, 2.4F) * (look_.highlight * 0.36F);
+        ofRow_ = fallingOff(abs(row.texture - 0.26F), 5.0F, 2.4F) * (look_.highlight * 0.36F);
     }
     void addTo(FourSums& sums, std::size_t) const { sums.add(look_.light, ofRow_); }
 
@@ -196,7 +196,7 @@ public:
             (3.2F + clouds_.at(column) * (look_.texture * 0.22F)) * (0.08F * look_.depth);
         const Float4 slopeX = (left_.at(column) - right_.at(column)) * steepness;
         const Float4 slopeY = (up_.at(column) - down_.at(column)) * steepness;
-        const Float4 length = simd::squareRoot(slopeX * slopeX + slopeY * slopeY + 1.0F);
+        const Float4 length = simd::sqrt(slopeX * slopeX + slopeY * slopeY + 1.0F);
         const Float4 shade = (slopeX * towardsX_ + slopeY * towardsY_ + towardsZ_) / length - towardsZ_;
         sums.add(look_.light, shade > kDeadZone ? shade * lit_ : Float4{});
         sums.add(look_.shade, shade < -kDeadZone ? -shade * shaded_ : Float4{});

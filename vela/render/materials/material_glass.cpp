@@ -9,17 +9,17 @@
 namespace vela {
 namespace {
 
+using simd::abs;
 using simd::Float4;
-using simd::greater;
 using simd::load;
-using simd::magnitude;
-using simd::power;
+using simd::max;
+using simd::pow;
 
 // The sides shine from so far out.
 ColumnValues sideLight(const MaterialScene& scene, float from, float steepness, float exponent)
 {
     return scene.perColumn([=](Float4, Float4 texture) {
-        return power((greater(texture, 1.0F - texture) - from) * steepness, exponent);
+        return pow((max(texture, 1.0F - texture) - from) * steepness, exponent);
     });
 }
 
@@ -33,14 +33,14 @@ public:
 
     void beginRow(const MaterialRow& row)
     {
-        const Float4 upperCut = power(1.0F - row.texture, 2.8F);
-        const Float4 lowerGlow = power((row.texture - 0.62F) * 2.65F, 2.0F);
+        const Float4 upperCut = pow(1.0F - row.texture, 2.8F);
+        const Float4 lowerGlow = pow((row.texture - 0.62F) * 2.65F, 2.0F);
         ofRow_ = upperCut * (look_.highlight * 0.10F) + lowerGlow * (look_.reflection * 0.10F);
         axis_ = scene_.axisOfRow(row);
     }
     void addTo(FourSums& sums, std::size_t column) const
     {
-        const Float4 deepVeil = fallingOff(magnitude(scene_.axis(axis_, column) - 0.52F), 2.4F, 3.6F);
+        const Float4 deepVeil = fallingOff(abs(scene_.axis(axis_, column) - 0.52F), 2.4F, 3.6F);
         sums.add(color_, ofRow_ + load(&sides_[column]) * (look_.reflection * 0.22F) +
                              deepVeil * (look_.reflection * 0.12F));
     }
@@ -65,15 +65,15 @@ public:
 
     void beginRow(const MaterialRow& row)
     {
-        const Float4 wetBand = fallingOff(magnitude(row.texture - 0.30F), 4.0F, 2.2F);
-        const Float4 pool = power((row.texture - 0.60F) * 2.5F, 1.7F);
+        const Float4 wetBand = fallingOff(abs(row.texture - 0.30F), 4.0F, 2.2F);
+        const Float4 pool = pow((row.texture - 0.60F) * 2.5F, 1.7F);
         ofRow_ = wetBand * (look_.highlight * 0.16F) + pool * (look_.reflection * 0.18F);
         wave_.beginRow(row);
         grain_.beginRow(row);
     }
     void addTo(FourSums& sums, std::size_t column) const
     {
-        const Float4 streak = fallingOff(magnitude(wave_.at(column)), 2.0F, 5.0F);
+        const Float4 streak = fallingOff(abs(wave_.at(column)), 2.0F, 5.0F);
         sums.add(color_, ofRow_ + load(&sides_[column]) * (look_.reflection * 0.24F) +
                              streak * grain_.at(column) * (look_.grain * 0.16F));
     }
@@ -102,8 +102,8 @@ public:
 
     void beginRow(const MaterialRow& row)
     {
-        honey_ = fallingOff(magnitude(row.texture - 0.58F), 1.72F, 1.85F);
-        molten_ = power(1.0F - row.texture, 2.35F);
+        honey_ = fallingOff(abs(row.texture - 0.58F), 1.72F, 1.85F);
+        molten_ = pow(1.0F - row.texture, 2.35F);
         axis_ = scene_.axisOfRow(row);
         longWave_.beginRow(row);
         crossWave_.beginRow(row);
@@ -111,14 +111,14 @@ public:
     }
     void addTo(FourSums& sums, std::size_t column) const
     {
-        const Float4 fireCore = fallingOff(magnitude(scene_.axis(axis_, column) - 0.52F), 1.55F, 2.35F);
+        const Float4 fireCore = fallingOff(abs(scene_.axis(axis_, column) - 0.52F), 1.55F, 2.35F);
         const Float4 honeyBody = honey_ * load(&honeyAcross_[column]);
         const Float4 moltenTop = molten_ * load(&moltenAcross_[column]);
         const Float4 darkRim = load(&darkRim_[column]);
         const Float4 wave = longWave_.at(column) + 0.55F * crossWave_.at(column);
-        const Float4 shard = fallingOff(magnitude(wave), 1.58F, 6.0F);
+        const Float4 shard = fallingOff(abs(wave), 1.58F, 6.0F);
         const Float4 grain = grain_.at(column);
-        const Float4 glint = greater(Float4{}, grain - 0.64F) / 0.36F;
+        const Float4 glint = max(Float4{}, grain - 0.64F) / 0.36F;
         Float4 opacity = fireCore * (look_.reflection * 0.24F) + honeyBody * (look_.reflection * 0.34F) +
                          moltenTop * (look_.highlight * 0.36F) + darkRim * (look_.reflection * 0.25F) +
                          shard * (0.38F + grain * 0.62F) * (look_.grain * 1.55F) +
@@ -138,7 +138,7 @@ private:
     ColumnValues hump(float middle, float steepness, float least) const
     {
         return scene_.perColumn([=](Float4, Float4 texture) {
-            return least + greater(Float4{}, 1.0F - magnitude(texture - middle) * steepness) * (1 - least);
+            return least + max(Float4{}, 1.0F - abs(texture - middle) * steepness) * (1 - least);
         });
     }
 
@@ -171,8 +171,8 @@ public:
 
     void beginRow(const MaterialRow& row)
     {
-        const Float4 topLens = power(1.0F - row.texture, 2.0F);
-        const Float4 lowerLens = power((row.texture - 0.56F) * 2.27F, 2.0F);
+        const Float4 topLens = pow(1.0F - row.texture, 2.0F);
+        const Float4 lowerLens = pow((row.texture - 0.56F) * 2.27F, 2.0F);
         ofRow_ = topLens * (look_.highlight * (0.30F + look_.specular * 0.72F)) +
                  lowerLens * (look_.reflection * 0.34F);
         axis_ = scene_.axisOfRow(row);
@@ -182,12 +182,12 @@ public:
     void addTo(FourSums& sums, std::size_t column) const
     {
         const Float4 strata = strata_.at(column);
-        const Float4 wave = simd::sine((scene_.axis(axis_, column) + strata * 0.16F) * 9.4F);
-        const Float4 caustic = fallingOff(magnitude(wave), 1.16F, 3.2F);
+        const Float4 wave = simd::sin((scene_.axis(axis_, column) + strata * 0.16F) * 9.4F);
+        const Float4 caustic = fallingOff(abs(wave), 1.16F, 3.2F);
         const Float4 opacity =
             ofRow_ + caustic * (look_.texture * 0.34F) +
             load(&sides_[column]) * (look_.rimLight * (0.18F + look_.edgeWear * 0.38F)) +
-            magnitude(micro_.at(column) - 0.5F) * (look_.texture * (0.12F + look_.roughness * 0.18F));
+            abs(micro_.at(column) - 0.5F) * (look_.texture * (0.12F + look_.roughness * 0.18F));
         sums.addMixed(coolGlass_, look_.backlight, 0.18F + strata * 0.24F, opacity);
     }
 
@@ -224,7 +224,7 @@ public:
     }
     void addTo(FourSums& sums, std::size_t column) const
     {
-        const Float4 innerField = fallingOff(magnitude(scene_.axis(axis_, column) - 0.50F), 1.75F, 2.2F);
+        const Float4 innerField = fallingOff(abs(scene_.axis(axis_, column) - 0.50F), 1.75F, 2.2F);
         const Float4 rim = rim_.at(column);
         if (look_.reduced)
             return sums.add(innerColor_,
@@ -233,13 +233,13 @@ public:
         sums.add(innerColor_, lower_ * load(&lowerAcross_[column]) * (look_.innerGlow * 0.54F) +
                                   innerField * (look_.innerGlow * 0.12F));
         sums.add(rimColor_, rim * (look_.rimLight * 0.34F));
-        sums.add(grainColor_, magnitude(grain_.at(column) - 0.5F) * (look_.grain * 0.08F));
+        sums.add(grainColor_, abs(grain_.at(column) - 0.5F) * (look_.grain * 0.08F));
     }
 
 private:
     static Float4 fading(Float4 distance, float spread) noexcept
     {
-        return simd::exponential(-(distance * distance) / spread);
+        return simd::exp(-(distance * distance) / spread);
     }
 
     const MaterialScene& scene_;

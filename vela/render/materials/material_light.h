@@ -22,7 +22,7 @@ public:
     simd::Float4 at(std::size_t column) const noexcept
     {
         const simd::Float4 x = scene_.textureX(column) - middleX_;
-        return simd::exponential(-(constant_ + x * (linear_ + x * squareX_))) * opacity_;
+        return simd::exp(-(constant_ + x * (linear_ + x * squareX_))) * opacity_;
     }
 
 private:

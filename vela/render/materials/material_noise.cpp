@@ -7,7 +7,7 @@ using simd::Float4;
 using simd::splat;
 
 // A column's or row's share of a hash.
-Float4 hashShare(Float4 position) noexcept { return simd::fractionOf(position * 0.1031F); }
+Float4 hashShare(Float4 position) noexcept { return simd::frac(position * 0.1031F); }
 
 // The shader's sum of three products, two of which share a factor: graphics drivers put it before the
 // bracket, and the hash magnifies the different rounding.
@@ -80,7 +80,7 @@ Float4 Clouds::position(Float4 pixel, Float4 texture, float spread) const noexce
 
 void Clouds::Octave::place(Float4 x, std::size_t column)
 {
-    const Float4 point = simd::floorOf(x);
+    const Float4 point = simd::floor(x);
     simd::store(&left[column], hashShare(point));
     simd::store(&right[column], hashShare(point + 1.0F));
     simd::store(&blend[column], smoothed(x - point));
@@ -98,7 +98,7 @@ void Clouds::Octave::fill(ColumnValues& line, float latticeY) const
 
 void Clouds::Octave::moveTo(Float4 y)
 {
-    const Float4 point = simd::floorOf(y);
+    const Float4 point = simd::floor(y);
     rowBlend = smoothed(y - point);
     const float line = point[0];
     if (line == lineAbove)

@@ -8,10 +8,10 @@
 namespace vela {
 namespace {
 
+using simd::abs;
 using simd::Float4;
-using simd::greater;
-using simd::magnitude;
-using simd::power;
+using simd::max;
+using simd::pow;
 
 class Glass {
 public:
@@ -19,15 +19,15 @@ public:
 
     void beginRow(const MaterialRow& row)
     {
-        const Float4 topGlow = power(1.0F - row.texture, 2.2F);
-        const Float4 lowerReflection = greater(Float4{}, row.texture - 0.58F) * 1.75F;
+        const Float4 topGlow = pow(1.0F - row.texture, 2.2F);
+        const Float4 lowerReflection = max(Float4{}, row.texture - 0.58F) * 1.75F;
         ofRow_ = topGlow * look_.highlight + lowerReflection * look_.reflection;
         row_ = row;
     }
     void addTo(FourSums& sums, std::size_t column) const
     {
-        const Float4 offDiagonal = magnitude(scene_.textureX(column) - row_.texture - 0.12F);
-        const Float4 sheen = greater(Float4{}, 1.0F - offDiagonal * 6.0F);
+        const Float4 offDiagonal = abs(scene_.textureX(column) - row_.texture - 0.12F);
+        const Float4 sheen = max(Float4{}, 1.0F - offDiagonal * 6.0F);
         sums.add(look_.light, ofRow_ + sheen * (look_.reflection * 0.55F));
     }
 
@@ -68,8 +68,8 @@ public:
 
     void beginRow(const MaterialRow& row)
     {
-        const Float4 band = fallingOff(magnitude(row.texture - 0.22F), 5.2F, 1.25F);
-        ofRow_ = band * look_.highlight + greater(Float4{}, 1.0F - row.texture) * (look_.reflection * 0.45F);
+        const Float4 band = fallingOff(abs(row.texture - 0.22F), 5.2F, 1.25F);
+        ofRow_ = band * look_.highlight + max(Float4{}, 1.0F - row.texture) * (look_.reflection * 0.45F);
     }
     void addTo(FourSums& sums, std::size_t) const { sums.add(look_.light, ofRow_); }
 
@@ -85,17 +85,17 @@ public:
     void beginRow(const MaterialRow& row)
     {
         axis_ = scene_.axisOfRow(row);
-        ofRow_ = power(1.0F - row.texture, 1.65F) * (look_.highlight * 0.08F);
+        ofRow_ = pow(1.0F - row.texture, 1.65F) * (look_.highlight * 0.08F);
         grain_.beginRow(row);
     }
     void addTo(FourSums& sums, std::size_t column) const
     {
         const Float4 axis = scene_.axis(axis_, column);
-        const Float4 diagonalSheen = fallingOff(magnitude(axis - sheenPlace_), 1.15F, 2.4F);
-        const Float4 edgeSheen = power((axis - 0.78F) * 2.2F, 1.6F);
+        const Float4 diagonalSheen = fallingOff(abs(axis - sheenPlace_), 1.15F, 2.4F);
+        const Float4 edgeSheen = pow((axis - 0.78F) * 2.2F, 1.6F);
         sums.add(look_.light, ofRow_ + diagonalSheen * (look_.reflection * sheen_) +
                                   edgeSheen * (look_.highlight * 0.06F) +
-                                  magnitude(grain_.at(column) - 0.5F) * (look_.grain * grainShare_));
+                                  abs(grain_.at(column) - 0.5F) * (look_.grain * grainShare_));
     }
 
 protected:
@@ -150,7 +150,7 @@ public:
     void addTo(FourSums& sums, std::size_t column) const
     {
         const Float4 grain = grain_.at(column);
-        sums.addEither(grain >= 0.5F, look_.light, look_.shade, magnitude(grain - 0.5F) * (2 * look_.grain));
+        sums.addEither(grain >= 0.5F, look_.light, look_.shade, abs(grain - 0.5F) * (2 * look_.grain));
     }
 
 private:
@@ -178,7 +178,7 @@ private:
     // Of the weave's cell: 0 or 1, and -1 for odd ones before the first, as the shader's remainder is.
     Float4 parity(Float4 position) const noexcept
     {
-        const Float4 cell = simd::floorOf((position + look_.angle * 31.0F) / look_.scale);
+        const Float4 cell = simd::floor((position + look_.angle * 31.0F) / look_.scale);
         return cell - 2.0F * simd::toFloat(simd::truncated(cell * 0.5F));
     }
 

@@ -14,14 +14,14 @@ constexpr Rgb rgbOf(const ShaderVector& color) noexcept { return {color.x, color
 Float4 folded(Float4 position, float tile) noexcept
 {
     const float period = 2 * tile;
-    const Float4 rest = position - simd::floorOf(position / period) * period;
+    const Float4 rest = position - simd::floor(position / period) * period;
     return rest > tile ? period - rest : rest;
 }
 
 Float4 textureAt(Float4 pixel, float length, float origin, float offset, const ShaderVector& mapping) noexcept
 {
     if (mapping.x < 0.5F)
-        return simd::bounded(pixel / std::max(1.0F, length - 1), 0, 1);
+        return simd::saturate(pixel / std::max(1.0F, length - 1));
     const float tile = std::max(8.0F, mapping.y);
     return folded(origin + pixel + offset, tile) / tile;
 }

@@ -8,10 +8,10 @@
 namespace vela {
 namespace {
 
+using simd::abs;
 using simd::Float4;
 using simd::load;
-using simd::magnitude;
-using simd::power;
+using simd::pow;
 
 // Below it a layer is not laid at all, and leaves the colour beneath as it is.
 constexpr float kFaintestLayer = 0.00001F;
@@ -28,7 +28,7 @@ public:
     void beginRow(const MaterialRow& row) noexcept { row_ = row.pixel * perPixelY_; }
     Float4 at(std::size_t column) const noexcept
     {
-        return magnitude(simd::fractionOf((load(&columns_[column]) + row_ + start_) * density_) - 0.5F);
+        return abs(simd::frac((load(&columns_[column]) + row_ + start_) * density_) - 0.5F);
     }
 
 private:
@@ -52,7 +52,7 @@ public:
 
     void beginRow(const MaterialRow& row)
     {
-        ofRow_ = power(1.0F - row.texture, 2.3F) * (look_.highlight * 0.22F);
+        ofRow_ = pow(1.0F - row.texture, 2.3F) * (look_.highlight * 0.22F);
         axis_ = scene_.axisOfRow(row);
         steep_.beginRow(row);
         flat_.beginRow(row);
@@ -61,13 +61,13 @@ public:
     }
     void addTo(FourSums& sums, std::size_t column) const
     {
-        const Float4 facet = fallingOff(simd::lesser(steep_.at(column), flat_.at(column)), 3.6F, 2.4F);
+        const Float4 facet = fallingOff(simd::min(steep_.at(column), flat_.at(column)), 3.6F, 2.4F);
         const Float4 prismPlace = 0.44F + sparkle_.at(column) * 0.18F;
-        const Float4 prism = fallingOff(magnitude(scene_.axis(axis_, column) - prismPlace), 3.0F, 2.2F);
+        const Float4 prism = fallingOff(abs(scene_.axis(axis_, column) - prismPlace), 3.0F, 2.2F);
         const Float4 opacity = ofRow_ + facet * (look_.texture * (0.28F + look_.specular * 0.82F)) +
                                prism * (look_.reflection * 0.40F) +
                                rim_.at(column) * (look_.rimLight * (0.22F + look_.edgeWear * 0.36F));
-        sums.addMixed(deepGem_, brightGem_, simd::bounded(facet * 0.42F + prism * 0.26F, 0, 1), opacity);
+        sums.addMixed(deepGem_, brightGem_, simd::saturate(facet * 0.42F + prism * 0.26F), opacity);
     }
 
 private:
@@ -96,7 +96,7 @@ public:
 
     void beginRow(const MaterialRow& row)
     {
-        ofRow_ = power(1.0F - row.texture, 2.6F) * (look_.highlight * 0.11F);
+        ofRow_ = pow(1.0F - row.texture, 2.6F) * (look_.highlight * 0.11F);
         row_ = row.pixel * 0.029F + look_.angle;
         fracture_.beginRow(row);
         pits_.beginRow(row);
@@ -105,9 +105,9 @@ public:
     void addTo(FourSums& sums, std::size_t column) const
     {
         const Float4 fracture = fracture_.at(column);
-        const Float4 wave = simd::sine(load(&columns_[column]) + row_ + fracture * 5.8F);
-        const Float4 vein = fallingOff(magnitude(wave), 1.86F, 4.8F);
-        const Float4 pit = power(pits_.at(column), 2.4F);
+        const Float4 wave = simd::sin(load(&columns_[column]) + row_ + fracture * 5.8F);
+        const Float4 vein = fallingOff(abs(wave), 1.86F, 4.8F);
+        const Float4 pit = pow(pits_.at(column), 2.4F);
         const Float4 opacity = ofRow_ + vein * (look_.texture * 0.28F) +
                                pit * (look_.texture * look_.roughness * 0.12F) +
                                rim_.at(column) * (look_.rimLight * (0.18F + look_.edgeWear * 0.42F));
@@ -151,12 +151,12 @@ public:
         const Float4 feldspar = coarse >= 0.64F ? 0.58F + fine * 0.42F : Float4{};
         const Float4 mica =
             fallingOff(flakes_.at(column), 3.4F, 3.2F) * (look_.texture * (0.14F + look_.specular * 0.28F));
-        const Float4 pit = power(fine, 2.4F);
+        const Float4 pit = pow(fine, 2.4F);
         const Float4 opacity =
             mica + feldspar * (look_.texture * 0.22F) + pit * (look_.texture * look_.roughness * 0.10F);
         const Float4 shining = mica > kFaintestLayer ? opacity : Float4{};
         sums.add(micaColor_, shining);
-        sums.addMixed(darkMineral_, lightMineral_, simd::bounded(feldspar * 0.72F + coarse * 0.24F, 0, 1),
+        sums.addMixed(darkMineral_, lightMineral_, simd::saturate(feldspar * 0.72F + coarse * 0.24F),
                       opacity - shining);
     }
 
@@ -183,8 +183,8 @@ public:
 
     void beginRow(const MaterialRow& row)
     {
-        ofRow_ = power(1.0F - row.texture, 2.2F) * (look_.highlight * 0.10F);
-        sway_ = simd::sine(row.texture * 9.0F + look_.seed * 0.01F) * 0.8F;
+        ofRow_ = pow(1.0F - row.texture, 2.2F) * (look_.highlight * 0.10F);
+        sway_ = simd::sin(row.texture * 9.0F + look_.seed * 0.01F) * 0.8F;
         axis_ = scene_.axisOfRow(row);
         layers_.beginRow(row);
         softCloud_.beginRow(row);
@@ -192,9 +192,9 @@ public:
     void addTo(FourSums& sums, std::size_t column) const
     {
         const Float4 wave =
-            simd::sine((scene_.axis(axis_, column) + layers_.at(column) * 0.36F) * 15.0F + sway_);
+            simd::sin((scene_.axis(axis_, column) + layers_.at(column) * 0.36F) * 15.0F + sway_);
         const Float4 vein =
-            fallingOff(magnitude(wave), 1.36F, 5.2F) * (look_.texture * (0.30F + look_.roughness * 0.14F));
+            fallingOff(abs(wave), 1.36F, 5.2F) * (look_.texture * (0.30F + look_.roughness * 0.14F));
         const Float4 softCloud = softCloud_.at(column);
         const Float4 opacity = vein + softCloud * (look_.texture * 0.08F) + ofRow_;
         const Float4 veined = vein > kFaintestLayer ? opacity : Float4{};

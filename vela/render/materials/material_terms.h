@@ -7,7 +7,7 @@ namespace vela {
 
 inline simd::Float4 fallingOff(simd::Float4 distance, float steepness, float exponent) noexcept
 {
-    return simd::power(1.0F - distance * steepness, exponent);
+    return simd::pow(1.0F - distance * steepness, exponent);
 }
 
 // How much a pixel is at the surface's edge: 1 there, less inwards. Distances shrink monotonously with the
@@ -23,13 +23,13 @@ public:
     void beginRow(const MaterialRow& row) noexcept { row_ = along(row.texture); }
     simd::Float4 at(std::size_t column) const noexcept
     {
-        return simd::greater(simd::load(&columns_[column]), row_);
+        return simd::max(simd::load(&columns_[column]), row_);
     }
 
 private:
     simd::Float4 along(simd::Float4 texture) const noexcept
     {
-        return fallingOff(simd::lesser(texture, 1.0F - texture), steepness_, exponent_);
+        return fallingOff(simd::min(texture, 1.0F - texture), steepness_, exponent_);
     }
 
     float steepness_;
@@ -44,17 +44,17 @@ public:
     // Radians a pixel.
     Wave(const MaterialScene& scene, float perPixelX, float perPixelY, float start)
         : perPixelY_(perPixelY), start_(start), sines_(scene.perColumn([&](simd::Float4 pixel, simd::Float4) {
-              return simd::sine(pixel * perPixelX);
+              return simd::sin(pixel * perPixelX);
           })),
-          cosines_(scene.perColumn(
-              [&](simd::Float4 pixel, simd::Float4) { return simd::cosine(pixel * perPixelX); }))
+          cosines_(
+              scene.perColumn([&](simd::Float4 pixel, simd::Float4) { return simd::cos(pixel * perPixelX); }))
     {
     }
 
     void beginRow(const MaterialRow& row) noexcept
     {
-        sine_ = simd::sine(row.pixel * perPixelY_ + start_);
-        cosine_ = simd::cosine(row.pixel * perPixelY_ + start_);
+        sine_ = simd::sin(row.pixel * perPixelY_ + start_);
+        cosine_ = simd::cos(row.pixel * perPixelY_ + start_);
     }
     simd::Float4 at(std::size_t column) const noexcept
     {

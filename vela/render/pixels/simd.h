@@ -36,7 +36,7 @@ inline void store(float* to, Float4 four) noexcept { std::memcpy(to, &four, size
 inline Int4 truncated(Float4 value) noexcept { return __builtin_convertvector(value, Int4); }
 inline Float4 toFloat(Int4 value) noexcept { return __builtin_convertvector(value, Float4); }
 
-inline Float4 squareRoot(Float4 value) noexcept
+inline Float4 sqrt(Float4 value) noexcept
 {
 #if defined(__SSE2__)
     return _mm_sqrt_ps(value);
@@ -45,9 +45,9 @@ inline Float4 squareRoot(Float4 value) noexcept
 #endif
 }
 
-inline Float4 lesser(Float4 a, Float4 b) noexcept { return a < b ? a : b; }
-inline Float4 greater(Float4 a, Float4 b) noexcept { return a > b ? a : b; }
-inline Float4 magnitude(Float4 value) noexcept { return greater(value, -value); }
+inline Float4 min(Float4 a, Float4 b) noexcept { return a < b ? a : b; }
+inline Float4 max(Float4 a, Float4 b) noexcept { return a > b ? a : b; }
+inline Float4 abs(Float4 value) noexcept { return max(value, -value); }
 
 // Four pixels from their channels: blue, green, red, alpha in the lanes of each, 0 to 255.
 inline void storeChannels(Pixel* out, Int4 first, Int4 second, Int4 third, Int4 fourth) noexcept

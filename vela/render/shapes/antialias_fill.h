@@ -12,7 +12,7 @@ namespace vela::antialias {
 // at all.
 inline simd::Float4 coverageAt(simd::Float4 distance) noexcept
 {
-    return simd::lesser(simd::greater(distance + simd::splat(0.5F), simd::Float4{}), simd::splat(1.0F));
+    return simd::min(simd::max(distance + simd::splat(0.5F), simd::Float4{}), simd::splat(1.0F));
 }
 
 inline simd::Float4 fourCentres(std::int32_t column) noexcept

@@ -117,10 +117,10 @@ public:
             const Float4 dy = simd::splat(y - line.y);
             const Float4 along =
                 (dx * simd::splat(line.alongX) + dy * simd::splat(line.alongY)) * simd::splat(line.perLength);
-            const Float4 clamped = simd::lesser(simd::greater(along, Float4{}), simd::splat(1.0F));
+            const Float4 clamped = simd::min(simd::max(along, Float4{}), simd::splat(1.0F));
             const Float4 offX = dx - clamped * simd::splat(line.alongX);
             const Float4 offY = dy - clamped * simd::splat(line.alongY);
-            nearest = simd::lesser(nearest, offX * offX + offY * offY);
+            nearest = simd::min(nearest, offX * offX + offY * offY);
         }
         return nearest;
     }
@@ -160,7 +160,7 @@ void drawIcon(const LayerTarget& target, Icon icon, const Rect& box, std::int32_
     const float pen = penOf(design, dpi);
     const IconLines lines(design, Placement(box, pen, design.crisp));
     antialias::fill(target, color, alpha, [&](Float4 x, float y) {
-        return antialias::coverageAt(simd::splat(pen / 2) - simd::squareRoot(lines.squaredDistance(x, y)));
+        return antialias::coverageAt(simd::splat(pen / 2) - simd::sqrt(lines.squaredDistance(x, y)));
     });
 }
 

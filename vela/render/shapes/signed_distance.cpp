@@ -18,11 +18,11 @@ DistanceSample BoxDistance::at(Float4 x, float y) const noexcept
     const Float4 fromMiddle = x - simd::splat(middleX_);
     const float downFromMiddle = y - middleY_;
     // How far beyond the centres of the corner circles.
-    const Float4 beyondX = simd::magnitude(fromMiddle) - simd::splat(halfWidth_);
+    const Float4 beyondX = simd::abs(fromMiddle) - simd::splat(halfWidth_);
     const Float4 beyondY = simd::splat(std::abs(downFromMiddle) - halfHeight_);
     const Int4 inCorner = (beyondX > zero) & (beyondY > zero);
     const Int4 sideways = beyondX > beyondY;
-    const Float4 reach = simd::squareRoot(beyondX * beyondX + beyondY * beyondY) + simd::splat(1e-6F);
+    const Float4 reach = simd::sqrt(beyondX * beyondX + beyondY * beyondY) + simd::splat(1e-6F);
     const Float4 outX = inCorner ? beyondX / reach : (sideways ? one : zero);
     const Float4 outY = inCorner ? beyondY / reach : (sideways ? zero : one);
     const Float4 beyond = inCorner ? reach : (sideways ? beyondX : beyondY);
