@@ -26,8 +26,8 @@ constexpr float scaleOf(std::int32_t pixels) noexcept
     return static_cast<float>(std::clamp(pixels, 0, kLargestScale));
 }
 
-// A texture that is folded back and forth repeats every two tiles. Taking whole periods off a skin's offset
-// leaves the picture as it is and the shader's floats exact.
+// A texture that is mirroredModulo back and forth repeats every two tiles. Taking whole periods off a skin's
+// offset leaves the picture as it is and the shader's floats exact.
 constexpr float foldedOffset(std::int32_t offset, std::int32_t tile) noexcept
 {
     return static_cast<float>(offset % (2 * tile));

@@ -1,4 +1,4 @@
-// What a material's look depends on, as the pixel shader reads it: the constants of the overlay on the
+// What a material's material depends on, as the pixel shader reads it: the constants of the overlay on the
 // graphics card and of the one in software.
 #pragma once
 
@@ -40,8 +40,8 @@ static_assert(offsetof(MaterialConstants, backlight) == 16 && offsetof(MaterialC
               offsetof(MaterialConstants, material7) == 160);
 
 // The rectangle is the surface's place in its window. The phase is that of the luminous glass: 0 when its
-// light rests, otherwise turns of the light, above 0. What the look does not depend on is 0, so that surfaces
-// that look the same have equal constants.
+// light rests, otherwise turns of the light, above 0. What the material does not depend on is 0, so that
+// surfaces that material the same have equal constants.
 MaterialConstants materialConstants(const SurfaceStyle& style, const Rect& rect, float animationPhase,
                                     PerformanceProfile profile) noexcept;
 

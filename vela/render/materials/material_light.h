@@ -2,7 +2,7 @@
 // rest is cached and only the light is added for each step of the animation.
 #pragma once
 
-#include "vela/render/materials/material_scene.h"
+#include "vela/render/materials/material_input.h"
 #include "vela/render/pixels/pixel_buffer.h"
 
 namespace vela {
@@ -10,25 +10,25 @@ namespace vela {
 // Brightest along an axis of its own.
 class Backlight {
 public:
-    explicit Backlight(const MaterialScene& scene);
+    explicit Backlight(const MaterialInput& input);
 
     void beginRow(const MaterialRow& row) noexcept
     {
-        const simd::Float4 y = row.texture - middleY_;
+        const simd::Float4 y = row.ty - centerY_;
         constant_ = squareY_ * y * y;
         linear_ = product_ * y;
     }
     // Its opacity.
     simd::Float4 at(std::size_t column) const noexcept
     {
-        const simd::Float4 x = scene_.textureX(column) - middleX_;
+        const simd::Float4 x = input_.tx(column) - centerX_;
         return simd::exp(-(constant_ + x * (linear_ + x * squareX_))) * opacity_;
     }
 
 private:
-    const MaterialScene& scene_;
-    float middleX_ = 0.30F;
-    float middleY_ = 0.62F;
+    const MaterialInput& input_;
+    float centerX_ = 0.30F;
+    float centerY_ = 0.62F;
     float squareX_; // how it fades, as a quadratic form
     float squareY_;
     float product_;

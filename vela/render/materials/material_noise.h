@@ -1,15 +1,15 @@
 // The two kinds of noise in materials: a grain of one value per pixel, and soft clouds. Both follow the
-// shader's formulas float by float, for its hash makes another value of every last bit.
+// shader's functions of these names float by float, for its hash makes another value of every last bit.
 #pragma once
 
-#include "vela/render/materials/material_scene.h"
+#include "vela/render/materials/material_input.h"
 
 #include <array>
 
 namespace vela {
 
-// A hash of the pixel's position from 0 to 1. It mixes one number of the column with one of the row.
-class Grain {
+// hash21: a hash of the pixel's position from 0 to 1. It mixes one number of the column with one of the row.
+class Hash21 {
 public:
     struct Place {
         float factor = 1; // the pixel's position times this,
@@ -17,8 +17,8 @@ public:
         float stepY = 0;
     };
 
-    Grain(const MaterialScene& scene, float seed, Place place);
-    Grain(const MaterialScene& scene, float seed) : Grain(scene, seed, Place{}) {}
+    Hash21(const MaterialInput& input, float seed, Place place);
+    Hash21(const MaterialInput& input, float seed) : Hash21(input, seed, Place{}) {}
 
     void beginRow(const MaterialRow& row) noexcept;
     simd::Float4 at(std::size_t column) const noexcept;
@@ -30,21 +30,21 @@ private:
     simd::Float4 row_{};
 };
 
-// Three octaves of smooth noise between the points of a lattice, 0 to 1.
-class Clouds {
+// fbm, fractional Brownian motion: three octaves of smooth noise between the points of a lattice, 0 to 1.
+class Fbm {
 public:
     // Lattice points so many pixels apart.
-    static Clouds onPixels(const MaterialScene& scene, float spacing, float offset);
-    // So many lattice points along the texture.
-    static Clouds onTexture(const MaterialScene& scene, float pointsX, float pointsY, float offset);
+    static Fbm onPixels(const MaterialInput& input, float spacing, float offset);
+    // So many lattice points along the texture coordinates.
+    static Fbm onUv(const MaterialInput& input, float pointsX, float pointsY, float offset);
 
     void beginRow(const MaterialRow& row);
     simd::Float4 at(std::size_t column) const noexcept;
 
 private:
-    // The lattice changes from row to row by less than a point, so what the columns make of a line of points
-    // is cached for all rows beside it.
-    struct Octave {
+    // One octave. The lattice changes from row to row by less than a point, so what the columns make of a
+    // line of points is cached for all rows beside it.
+    struct SmoothNoise {
         void place(simd::Float4 x, std::size_t column);
         void moveTo(simd::Float4 y);
         void fill(ColumnValues& line, float latticeY) const;
@@ -58,14 +58,14 @@ private:
         simd::Float4 rowBlend{};
     };
 
-    Clouds(const MaterialScene& scene, bool onPixels, float spreadX, float spreadY, float offset);
+    Fbm(const MaterialInput& input, bool onPixels, float spreadX, float spreadY, float offset);
 
-    simd::Float4 position(simd::Float4 pixel, simd::Float4 texture, float spread) const noexcept;
+    simd::Float4 position(simd::Float4 pixel, simd::Float4 uv, float spread) const noexcept;
 
     bool onPixels_;
     float spreadY_;
     float offset_;
-    std::array<Octave, 3> octaves_;
+    std::array<SmoothNoise, 3> octaves_;
 };
 
 } // namespace vela

@@ -1,6 +1,6 @@
 #include "vela/render/materials/material_overlay.h"
 
-#include "vela/render/materials/material_stage.h"
+#include "vela/render/materials/material_layer.h"
 
 #include <algorithm>
 #include <array>
@@ -10,10 +10,10 @@ namespace {
 
 using simd::Float4;
 
-using MakeStage = StagePointer (*)(const MaterialScene&);
+using MakeLayer = LayerPointer (*)(const MaterialInput&);
 
 // In the order of MaterialPreset. What is none of them is marble, as in the shader.
-constexpr MakeStage kMaterials[] = {
+constexpr MakeLayer kMaterials[] = {
     makeMarble,        makeGlass,          makeFrostedGlass, makeGloss,         makeMetal,
     makeBrushedMetal,  makeGloss,          makeRubber,       makePaper,         makeCarbonFiber,
     makeObsidianGlass, makeBloodGloss,     makeAmberGlass,   makeLuminousGlass, makeLayeredGlass,
@@ -22,41 +22,41 @@ constexpr MakeStage kMaterials[] = {
 static_assert(std::size(kMaterials) == static_cast<std::size_t>(MaterialPreset::StoneMarble) + 1);
 
 // In the order of MaterialFinish; some are told by their shading alone.
-constexpr MakeStage kFinishes[] = {
+constexpr MakeLayer kFinishes[] = {
     nullptr,     nullptr,      makeBrushed, nullptr,     nullptr,      nullptr,
     makeCracked, makeHammered, makeEtched,  makeFrosted, makeWetGloss,
 };
 static_assert(std::size(kFinishes) == static_cast<std::size_t>(MaterialFinish::WetGloss) + 1);
 
 // The layers of one surface, from the material upwards.
-class Stages {
+class Layers {
 public:
-    Stages(const MaterialConstants& constants, const MaterialScene& scene)
+    Layers(const MaterialConstants& constants, const MaterialInput& input)
     {
-        const MaterialLook& look = scene.look();
+        const MaterialParameters& material = input.parameters();
         const auto kind = static_cast<std::size_t>(constants.material0.x);
         const auto finish = static_cast<std::size_t>(constants.material7.y);
-        add(kMaterials[std::min(kind, std::size(kMaterials) - 1)], scene);
+        add(kMaterials[std::min(kind, std::size(kMaterials) - 1)], input);
         if (finish < std::size(kFinishes) && kFinishes[finish])
-            add(kFinishes[finish], scene);
-        if (look.occlusion > 0)
-            add(makeContactShade, scene);
-        if (look.edgeWear > 0)
-            add(makeEdgeWear, scene);
-        if (look.depth > 0)
-            add(makeRelief, scene);
+            add(kFinishes[finish], input);
+        if (material.ambientOcclusion > 0)
+            add(makeContactShade, input);
+        if (material.edgeWear > 0)
+            add(makeEdgeWear, input);
+        if (material.depth > 0)
+            add(makeRelief, input);
     }
 
     void addRow(const MaterialRow& row, RowSums& sums)
     {
-        std::for_each_n(stages_.begin(), count_,
-                        [&](const StagePointer& stage) { stage->addRow(row, sums); });
+        std::for_each_n(layers_.begin(), count_,
+                        [&](const LayerPointer& layer) { layer->addRow(row, sums); });
     }
 
 private:
-    void add(MakeStage make, const MaterialScene& scene) { stages_[count_++] = make(scene); }
+    void add(MakeLayer make, const MaterialInput& input) { layers_[count_++] = make(input); }
 
-    std::array<StagePointer, 5> stages_;
+    std::array<LayerPointer, 5> layers_;
     std::size_t count_ = 0;
 };
 
@@ -76,13 +76,13 @@ void renderMaterialOverlay(const MaterialConstants& constants, const LayerTarget
     const Rect visible = target.visible();
     if (isEmpty(visible))
         return;
-    const MaterialScene scene(constants, {visible.x, visible.x + visible.width});
-    Stages stages(constants, scene);
-    RowSums sums(scene.columnCount());
-    const float strength = scene.look().strength * scene.look().opacity;
+    const MaterialInput input(constants, {visible.x, visible.x + visible.width});
+    Layers layers(constants, input);
+    RowSums sums(input.columnCount());
+    const float strength = input.parameters().strength * input.parameters().opacity;
     for (std::int32_t row = 0; row < visible.height; ++row) {
         sums.clear();
-        stages.addRow(scene.rowAt(visible.y + row), sums);
+        layers.addRow(input.rowAt(visible.y + row), sums);
         simd::writeInFours(target.view.row(row), 0, visible.width, [&](std::int32_t column) {
             return pixelsOf(sums.at(static_cast<std::size_t>(column)), strength);
         });

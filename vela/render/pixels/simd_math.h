@@ -23,6 +23,7 @@ inline Float4 clamp(Float4 value, float low, float high) noexcept
     return min(max(value, splat(low)), splat(high));
 }
 
+inline Float4 lerp(Float4 a, Float4 b, Float4 t) noexcept { return a + t * (b - a); }
 inline Float4 saturate(Float4 value) noexcept { return clamp(value, 0, 1); }
 
 // Value of the polynomial whose coefficients are given from the constant upwards.

@@ -1,4 +1,4 @@
-#include "vela/render/materials/material_scene.h"
+#include "vela/render/materials/material_input.h"
 
 #include "vela/render/layers/gradient.h"
 
@@ -11,19 +11,20 @@ using simd::splat;
 constexpr Rgb rgbOf(const ShaderVector& color) noexcept { return {color.x, color.y, color.z}; }
 
 // Back and forth between 0 and the tile's end.
-Float4 folded(Float4 position, float tile) noexcept
+Float4 mirroredModulo(Float4 position, float tile) noexcept
 {
     const float period = 2 * tile;
-    const Float4 rest = position - simd::floor(position / period) * period;
-    return rest > tile ? period - rest : rest;
+    const Float4 wrapped = position - simd::floor(position / period) * period;
+    return wrapped > tile ? period - wrapped : wrapped;
 }
 
-Float4 textureAt(Float4 pixel, float length, float origin, float offset, const ShaderVector& mapping) noexcept
+Float4 materialUv(Float4 pixel, float length, float origin, float offset,
+                  const ShaderVector& mapping) noexcept
 {
     if (mapping.x < 0.5F)
         return simd::saturate(pixel / std::max(1.0F, length - 1));
     const float tile = std::max(8.0F, mapping.y);
-    return folded(origin + pixel + offset, tile) / tile;
+    return mirroredModulo(origin + pixel + offset, tile) / tile;
 }
 
 // A rasteriser interpolates texture coordinates over the triangle, whose area is four times the surface's,
@@ -43,25 +44,25 @@ float coordinateAt(float start, float step, std::int32_t index) noexcept
 
 } // namespace
 
-MaterialLook::MaterialLook(const MaterialConstants& constants) noexcept
+MaterialParameters::MaterialParameters(const MaterialConstants& constants) noexcept
     : tint(rgbOf(constants.tint)), backlight(rgbOf(constants.backlight)),
-      light(mixed({1, 1, 1}, tint, 0.28F)), shade(mixed({0, 0, 0}, tint, 0.10F)),
+      highlightColor(lerp({1, 1, 1}, tint, 0.28F)), shadowColor(lerp({0, 0, 0}, tint, 0.10F)),
       strength(constants.material0.y / 180), highlight(constants.material0.z / 255),
-      reflection(constants.material0.w / 255), grain(constants.material1.x / 255),
+      reflection(constants.material0.w / 255), grainOpacity(constants.material1.x / 255),
       depth(constants.material1.y / 255), scale(std::max(2.0F, constants.material1.z)),
       angle(constants.material1.w), lightAngle(constants.material2.x), lightElevation(constants.material2.y),
       blobScale(std::max(24.0F, constants.material2.z)), blobAngle(constants.material2.w),
-      phase(constants.material4.x), reduced(constants.material4.y > 0.5F),
+      animationPhase(constants.material4.x), maximumPerformance(constants.material4.y > 0.5F),
       backlightOpacity(constants.material4.z / 255), innerGlow(constants.material4.w / 255),
       rimLight(constants.material5.x / 255), seed(constants.material5.z),
       opacity(constants.material5.w / 255), roughness(constants.material6.x / 255),
-      specular(constants.material6.y / 255), occlusion(constants.material6.z / 255),
-      edgeWear(constants.material6.w / 255), texture(constants.material7.x / 255)
+      specular(constants.material6.y / 255), ambientOcclusion(constants.material6.z / 255),
+      edgeWear(constants.material6.w / 255), textureOpacity(constants.material7.x / 255)
 {
 }
 
-MaterialScene::MaterialScene(const MaterialConstants& constants, Span columns)
-    : look_(constants), width_(constants.geometry.x), height_(constants.geometry.y),
+MaterialInput::MaterialInput(const MaterialConstants& constants, Span columns)
+    : material_(constants), width_(constants.geometry.x), height_(constants.geometry.y),
       mapping_(constants.material3), originX_(constants.geometry.z), originY_(constants.geometry.w)
 {
     const GradientAxis& axis = gradientAxis(static_cast<GradientDirection>(constants.material5.y));
@@ -72,17 +73,17 @@ MaterialScene::MaterialScene(const MaterialConstants& constants, Span columns)
     const float step = coordinateStep(width_, height_);
     for (std::int32_t x = columns.begin; x < columns.end; x += simd::kLanes)
         for (std::int32_t lane = 0; lane < simd::kLanes; ++lane)
-            pixels_.push_back(coordinateAt(0.5F * step, step, x + lane) * width_);
-    textures_.resize(pixels_.size());
-    for (std::size_t column = 0; column < pixels_.size(); column += simd::kLanes)
-        simd::store(&textures_[column], textureAt(pixelX(column), width_, originX_, mapping_.z, mapping_));
+            pixelX_.push_back(coordinateAt(0.5F * step, step, x + lane) * width_);
+    tx_.resize(pixelX_.size());
+    for (std::size_t column = 0; column < pixelX_.size(); column += simd::kLanes)
+        simd::store(&tx_[column], materialUv(pixelX(column), width_, originX_, mapping_.z, mapping_));
 }
 
-MaterialRow MaterialScene::rowAt(std::int32_t y) const noexcept
+MaterialRow MaterialInput::rowAt(std::int32_t y) const noexcept
 {
     const float step = coordinateStep(height_, width_);
     const float pixel = coordinateAt(1 - (height_ - 0.5F) * step, step, y) * height_;
-    return {splat(pixel), textureAt(splat(pixel), height_, originY_, mapping_.w, mapping_)};
+    return {splat(pixel), materialUv(splat(pixel), height_, originY_, mapping_.w, mapping_)};
 }
 
 } // namespace vela
