@@ -1,13 +1,13 @@
 #include "vela/render/shapes/shape.h"
 
+#include "vela/render/shapes/doubled_lengths.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <span>
 
 namespace vela {
 namespace {
-
-using Wide = std::int64_t; // products of two lengths
 
 // Where a polygon's corner lies along one axis: the near edge, the inset from it, the middle, and so on.
 enum class At : std::uint8_t { Near, NearInset, Middle, FarInset, Far };
@@ -54,22 +54,13 @@ std::int32_t place(At at, std::int32_t origin, std::int32_t length, std::int32_t
     return origin + length;
 }
 
-// The tests below compare real numbers exactly: both sides are scaled to whole numbers (doubled where halves
-// occur), so no rounding can move a pixel that lies on the outline.
-
-// Twice the distance from a doubled position to the range between two doubled limits; 0 inside it.
-constexpr Wide distanceToBand(Wide position, Wide low, Wide high) noexcept
-{
-    return position < low ? low - position : position > high ? position - high : 0;
-}
-
 // The radius is half the diameter as a real number, so odd diameters stay symmetrical.
 bool inRoundedRect(Wide width, Wide height, Wide x, Wide y) noexcept
 {
     const Wide diameter =
         roundedDiameter(static_cast<std::int32_t>(width), static_cast<std::int32_t>(height));
-    const Wide dx = distanceToBand(2 * x + 1, diameter, 2 * width - diameter);
-    const Wide dy = distanceToBand(2 * y + 1, diameter, 2 * height - diameter);
+    const Wide dx = distanceToRange(2 * x + 1, diameter, 2 * width - diameter);
+    const Wide dy = distanceToRange(2 * y + 1, diameter, 2 * height - diameter);
     return dx == 0 || dy == 0 || dx * dx + dy * dy <= diameter * diameter;
 }
 
@@ -77,7 +68,7 @@ bool inRoundedRect(Wide width, Wide height, Wide x, Wide y) noexcept
 bool inHorizontalPill(Wide width, Wide height, Wide x, Wide y) noexcept
 {
     const Wide diameter = std::max<Wide>(height, 2);
-    const Wide dx = distanceToBand(2 * x, diameter, 2 * width - diameter);
+    const Wide dx = distanceToRange(2 * x, diameter, 2 * width - diameter);
     const Wide dy = 2 * y - height;
     return dx == 0 || dx * dx + dy * dy <= diameter * diameter;
 }

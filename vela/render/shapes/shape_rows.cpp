@@ -1,5 +1,6 @@
 #include "vela/render/shapes/shape_rows.h"
 
+#include "vela/render/shapes/doubled_lengths.h"
 #include "vela/render/shapes/shape.h"
 
 #include <cmath>
@@ -8,10 +9,8 @@
 namespace vela {
 namespace {
 
-using Wide = std::int64_t;
-
 // Each inside test holds for the x whose double lies between two limits. They are whole numbers because the
-// tests are exact (see shape.cpp) and x is whole.
+// tests are exact and x is whole.
 struct DoubledLimits {
     Wide low;
     Wide high;
@@ -33,11 +32,6 @@ Wide floorRoot(Wide square) noexcept
     return root;
 }
 
-constexpr Wide distanceToBand(Wide position, Wide low, Wide high) noexcept
-{
-    return position < low ? low - position : position > high ? position - high : 0;
-}
-
 // How far a circle reaches to the side at a distance above or below its centre. Both lengths are doubled.
 Wide reachOfCircle(Wide diameter, Wide distance) noexcept
 {
@@ -50,7 +44,7 @@ DoubledLimits roundedRow(Wide width, Wide height, Wide y) noexcept
 {
     const Wide diameter =
         roundedDiameter(static_cast<std::int32_t>(width), static_cast<std::int32_t>(height));
-    const Wide dy = distanceToBand(2 * y + 1, diameter, 2 * height - diameter);
+    const Wide dy = distanceToRange(2 * y + 1, diameter, 2 * height - diameter);
     const Wide reach = reachOfCircle(diameter, dy);
     return {diameter - reach - 1, 2 * width - diameter + reach - 1};
 }
@@ -65,7 +59,7 @@ DoubledLimits horizontalPillRow(Wide width, Wide height, Wide y) noexcept
 DoubledLimits verticalPillRow(Wide width, Wide height, Wide y) noexcept
 {
     const Wide diameter = std::max<Wide>(width, 2);
-    const Wide dy = distanceToBand(2 * y, diameter, 2 * height - diameter);
+    const Wide dy = distanceToRange(2 * y, diameter, 2 * height - diameter);
     const Wide reach = dy == 0 ? width : reachOfCircle(diameter, dy);
     return {width - reach, width + reach};
 }
