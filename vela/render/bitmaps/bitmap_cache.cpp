@@ -8,8 +8,6 @@
 namespace vela {
 namespace {
 
-// As many pixels as the largest picture has that is accepted at all.
-constexpr std::size_t kMostPixels = 64'000'000;
 constexpr std::size_t kMostPictures = 128;
 
 } // namespace
@@ -19,18 +17,18 @@ std::size_t BitmapCache::Weight::operator()(const Picture& picture) const noexce
 {
     const Size size = picture ? picture->size() : Size{};
     return std::max(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height),
-                    kMostPixels / kMostPictures);
+                    kMostImagePixels / kMostPictures);
 }
 
 BitmapCache::BitmapCache(Decode decode, std::wstring folder)
-    : decode_(decode), folder_(std::move(folder)), pictures_(kMostPixels)
+    : decode_(decode), folder_(std::move(folder)), pictures_(kMostImagePixels)
 {
 }
 
 void BitmapCache::setFolder(std::wstring folder)
 {
     folder_ = std::move(folder);
-    pictures_ = decltype(pictures_)(kMostPixels);
+    pictures_ = decltype(pictures_)(kMostImagePixels);
 }
 
 LoadedBitmaps BitmapCache::find(const SurfaceStyle& style)

@@ -3,9 +3,13 @@
 
 #include "vela/render/pixels/pixel_buffer.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace vela {
+
+// Larger pictures are not decoded, and all that are cached together have no more.
+inline constexpr std::size_t kMostImagePixels = 64'000'000;
 
 struct BitmapImage {
     Size size;

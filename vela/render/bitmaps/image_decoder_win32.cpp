@@ -14,8 +14,6 @@
 namespace vela {
 namespace {
 
-constexpr std::uint64_t kMostPixels = 64'000'000;
-
 // Only what Windows itself brings along is ever asked: a decoder that somebody installed for another kind of
 // file has no business in this process.
 struct Kind {
@@ -88,7 +86,7 @@ BitmapImage decodeImage(const std::wstring& file)
     UINT width = 0;
     UINT height = 0;
     if (!frame || FAILED(frame->GetSize(&width, &height)) || width == 0 || height == 0 ||
-        std::uint64_t{width} * height > kMostPixels)
+        std::uint64_t{width} * height > kMostImagePixels)
         return {};
     BitmapImage image{{static_cast<std::int32_t>(width), static_cast<std::int32_t>(height)},
                       std::vector<Pixel>(std::size_t{width} * height)};

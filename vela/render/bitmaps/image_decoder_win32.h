@@ -9,7 +9,7 @@
 namespace vela {
 
 // PNG, JPEG, BMP or GIF (its first frame), told apart by content. Empty when the file is missing, damaged, a
-// link to elsewhere, of another kind or has over 64 million pixels.
+// link to elsewhere, of another kind or has over kMostImagePixels.
 BitmapImage decodeImage(const std::wstring& file);
 
 } // namespace vela
