@@ -94,12 +94,6 @@ Insets insetsOf(const SurfaceStyle& style, PartInsets part, std::int32_t dpi) no
     return insets;
 }
 
-Rect insetBy(const Rect& rect, const Insets& insets) noexcept
-{
-    return {rect.x + insets.left, rect.y + insets.top, std::max(rect.width - insets.left - insets.right, 0),
-            std::max(rect.height - insets.top - insets.bottom, 0)};
-}
-
 Rect roomOn(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi,
             const RunMask* outline)
 {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "vela/render/bitmaps/bitmap_skin.h"
+#include "vela/render/pixels/insets.h"
 
 #include <optional>
 
@@ -32,7 +33,6 @@ Span layoutColumns(const SurfaceGeometry& geometry, const RunMask& outline, std:
 // The insets of one part of what stands on a surface: its own or, where those are all 0, the safe ones.
 using PartInsets = Insets SurfaceGeometry::*;
 Insets insetsOf(const SurfaceStyle& style, PartInsets part, std::int32_t dpi) noexcept;
-Rect insetBy(const Rect& rect, const Insets& insets) noexcept;
 
 // What they leave of the surface, in the columns free in the middle of the outline. Without an outline the
 // surface's shape is it, and all columns are free.

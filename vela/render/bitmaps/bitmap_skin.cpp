@@ -1,6 +1,7 @@
 #include "vela/render/bitmaps/bitmap_skin.h"
 
 #include "vela/render/bitmaps/bitmap_tint.h"
+#include "vela/render/pixels/insets.h"
 #include "vela/render/pixels/length_limits.h"
 
 #include <algorithm>
@@ -25,7 +26,7 @@ const Pixel* rowOf(const BitmapImage& image, std::int32_t y) noexcept
 }
 
 // Both pixels' channels weighed against each other, two at a time. The weight is the second one's, 0 to 256.
-Pixel between(Pixel first, Pixel second, unsigned weight) noexcept
+Pixel lerp(Pixel first, Pixel second, unsigned weight) noexcept
 {
     const auto mix = [weight](Pixel a, Pixel b) { return a * (256 - weight) + b * weight; };
     const Pixel redBlue = mix(first & 0xFF00FF, second & 0xFF00FF) >> 8 & 0xFF00FF;
@@ -44,7 +45,7 @@ BitmapImage halved(const BitmapImage& image)
         for (std::int32_t x = 0; x < image.size.width; x += 2) {
             const std::int32_t next = std::min(x + 1, image.size.width - 1);
             half.pixels.push_back(
-                between(between(upper[x], upper[next], 128), between(lower[x], lower[next], 128), 128));
+                lerp(lerp(upper[x], upper[next], 128), lerp(lower[x], lower[next], 128), 128));
         }
     }
     return half;
@@ -145,9 +146,8 @@ public:
         const Pixel* const lower = rowOf(image_, row.second);
         const AxisSample* sample = samples_.data() + (run.begin - columns_.begin);
         for (std::int32_t i = 0; i < run.length(); ++i, ++sample)
-            out[i] =
-                between(between(upper[sample->first], upper[sample->second], sample->weight),
-                        between(lower[sample->first], lower[sample->second], sample->weight), row.weight);
+            out[i] = lerp(lerp(upper[sample->first], upper[sample->second], sample->weight),
+                          lerp(lower[sample->first], lower[sample->second], sample->weight), row.weight);
     }
 
 private:
@@ -157,12 +157,6 @@ private:
     AxisMap rows_;
     std::vector<AxisSample> samples_;
 };
-
-Rect insetBy(Size size, const Insets& insets) noexcept
-{
-    return {insets.left, insets.top, size.width - insets.left - insets.right,
-            size.height - insets.top - insets.bottom};
-}
 
 } // namespace
 
@@ -198,7 +192,8 @@ const BitmapImage& SkinBitmap::levelFor(Size painted) const noexcept
 BitmapPlacement bitmapPlacement(const SurfaceStyle& style, Size surface) noexcept
 {
     const Insets paintInsets = style.geometry ? limitedInsets(style.geometry->paintInsets) : Insets{};
-    return {insetBy(surface, paintInsets), style.useNineSlice ? style.nineSlice : Insets{}};
+    return {insetBy({0, 0, surface.width, surface.height}, paintInsets),
+            style.useNineSlice ? style.nineSlice : Insets{}};
 }
 
 void fillBitmap(const LayerTarget& target, const Coverage& coverage, const SkinBitmap& bitmap,

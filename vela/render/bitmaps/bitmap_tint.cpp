@@ -5,15 +5,15 @@
 namespace vela {
 namespace {
 
-constexpr int mixed(int from, int to, int amount) noexcept
+constexpr int lerp(int from, int to, int amount) noexcept
 {
     return (from * (255 - amount) + to * amount + 127) / 255;
 }
 
-constexpr Channels mixed(const Channels& from, const Channels& to, int amount) noexcept
+constexpr Channels lerp(const Channels& from, const Channels& to, int amount) noexcept
 {
-    return {mixed(from.red, to.red, amount), mixed(from.green, to.green, amount),
-            mixed(from.blue, to.blue, amount), mixed(from.alpha, to.alpha, amount)};
+    return {lerp(from.red, to.red, amount), lerp(from.green, to.green, amount),
+            lerp(from.blue, to.blue, amount), lerp(from.alpha, to.alpha, amount)};
 }
 
 constexpr int luminanceOf(const Channels& c) noexcept
@@ -73,13 +73,13 @@ int strengthOf(const Channels& source, const BitmapTint& tint) noexcept
 Channels paletteAt(const BitmapTint& tint, int position, int alpha) noexcept
 {
     if (tint.palette.empty())
-        return mixed(colored(tint.secondary.color, alpha), colored(tint.primary.color, alpha), position);
+        return lerp(colored(tint.secondary.color, alpha), colored(tint.primary.color, alpha), position);
     const auto steps = static_cast<int>(tint.palette.size()) - 1;
     const int place = position * steps;
     const auto first = static_cast<std::size_t>(place / 255);
     const std::size_t second = std::min(first + 1, tint.palette.size() - 1);
-    return mixed(colored(tint.palette[first].color, alpha), colored(tint.palette[second].color, alpha),
-                 place % 255);
+    return lerp(colored(tint.palette[first].color, alpha), colored(tint.palette[second].color, alpha),
+                place % 255);
 }
 
 Channels wholeTint(const Channels& source, const BitmapTint& tint) noexcept
@@ -92,20 +92,20 @@ Channels wholeTint(const Channels& source, const BitmapTint& tint) noexcept
                        tint.maskChannel == MaskChannel::Alpha ? mask : mask * source.alpha / 255);
     }
     case TintMode::LumaMask:
-        return mixed(colored(tint.secondary.color, source.alpha), colored(tint.primary.color, source.alpha),
-                     adjustedMask(luminanceOf(source), tint));
+        return lerp(colored(tint.secondary.color, source.alpha), colored(tint.primary.color, source.alpha),
+                    adjustedMask(luminanceOf(source), tint));
     case TintMode::AlphaMask: {
         const Channels opaque{source.red, source.green, source.blue, 255};
-        return mixed(opaque, colored(tint.primary.color, 255), adjustedMask(source.alpha, tint));
+        return lerp(opaque, colored(tint.primary.color, 255), adjustedMask(source.alpha, tint));
     }
     case TintMode::Colorize: {
         const Channels multiplied{source.red * redOf(tint.primary.color) / 255,
                                   source.green * greenOf(tint.primary.color) / 255,
                                   source.blue * blueOf(tint.primary.color) / 255, source.alpha};
-        return mixed(source, multiplied, strengthOf(source, tint));
+        return lerp(source, multiplied, strengthOf(source, tint));
     }
     case TintMode::PaletteMap:
-        return mixed(source, paletteAt(tint, luminanceOf(source), source.alpha), strengthOf(source, tint));
+        return lerp(source, paletteAt(tint, luminanceOf(source), source.alpha), strengthOf(source, tint));
     }
     return source;
 }
@@ -119,7 +119,7 @@ Channels tinted(const Channels& source, const BitmapTint& tint) noexcept
     Channels result = wholeTint(source, tint);
     if (tint.preserveLuminance)
         result = withLuminance(result, luminanceOf(source));
-    return mixed(source, result, tint.amount);
+    return lerp(source, result, tint.amount);
 }
 
 } // namespace vela
