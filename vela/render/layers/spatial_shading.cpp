@@ -11,8 +11,6 @@ namespace vela {
 namespace {
 
 using simd::Float4;
-using simd::Int4;
-using simd::UInt4;
 
 // The light and the body's relief, all from the style.
 class Relief {
@@ -118,19 +116,18 @@ void shadeBody(const LayerTarget& target, const Coverage& coverage, const Surfac
         const Float4 inRange = simd::min(simd::max(place, Float4{}), simd::splat(2.0F * kFlat));
         return simd::lookUp(shades.data(), simd::truncated(inRange));
     };
-    const auto centres = [](std::int32_t column) {
-        return simd::toFloat(simd::splat(column) + Int4{0, 1, 2, 3}) + simd::splat(0.5F);
-    };
     paintCovered(target, coverage, [&](Pixel* first, Span run, std::int32_t row) {
         const float y = static_cast<float>(row) + 0.5F;
         const InnerRange range = edge.innerRange(relief.edgeReach(), y);
         const Span face = intersect(run, {static_cast<std::int32_t>(std::max(range.low, 0.0F)) + 1,
                                           static_cast<std::int32_t>(std::max(range.high, 0.0F))});
         const auto nearEdge = [&](std::int32_t column) {
-            const Float4 x = centres(column);
+            const Float4 x = simd::pixelCentres(column);
             return shade(relief.at(x, y, edge.at(x, y)));
         };
-        const auto onFace = [&](std::int32_t column) { return shade(relief.faceAt(centres(column), y)); };
+        const auto onFace = [&](std::int32_t column) {
+            return shade(relief.faceAt(simd::pixelCentres(column), y));
+        };
         if (face.empty())
             return simd::writeInFours(first, run.begin, run.end, nearEdge);
         simd::writeInFours(first, run.begin, face.begin, nearEdge);

@@ -36,6 +36,12 @@ inline void store(float* to, Float4 four) noexcept { std::memcpy(to, &four, size
 inline Int4 truncated(Float4 value) noexcept { return __builtin_convertvector(value, Int4); }
 inline Float4 toFloat(Int4 value) noexcept { return __builtin_convertvector(value, Float4); }
 
+// The x of four neighbouring pixels' centres.
+inline Float4 pixelCentres(std::int32_t column) noexcept
+{
+    return toFloat(splat(column) + Int4{0, 1, 2, 3}) + splat(0.5F);
+}
+
 inline Float4 sqrt(Float4 value) noexcept
 {
 #if defined(__SSE2__)

@@ -50,7 +50,7 @@ void cutToProgress(const LayerTarget& target, ShapeKind kind, const Rect& rect, 
             Pixel* const pixels = target.view.row(row);
             const float y = static_cast<float>(visible.y + row) + 0.5F;
             for (std::int32_t x = 0; x < visible.width; x += simd::kLanes) {
-                const Float4 centres = antialias::fourCentres(visible.x + x);
+                const Float4 centres = simd::pixelCentres(visible.x + x);
                 const Float4 covered =
                     antialias::coverageAt(edge.at(centres + simd::splat(shift), y).distance);
                 for (std::int32_t lane = 0; lane < std::min(simd::kLanes, visible.width - x); ++lane)

@@ -15,11 +15,6 @@ inline simd::Float4 coverageAt(simd::Float4 distance) noexcept
     return simd::min(simd::max(distance + simd::splat(0.5F), simd::Float4{}), simd::splat(1.0F));
 }
 
-inline simd::Float4 fourCentres(std::int32_t column) noexcept
-{
-    return simd::toFloat(simd::splat(column) + simd::Int4{0, 1, 2, 3}) + simd::splat(0.5F);
-}
-
 // Calls coverage(x, y) -> 0 to 1 for four pixel centres at a time and writes the colour that strongly.
 template <typename CoverageAt>
 void fill(const LayerTarget& target, Color color, std::uint8_t alpha, CoverageAt&& coverage)
@@ -30,12 +25,12 @@ void fill(const LayerTarget& target, Color color, std::uint8_t alpha, CoverageAt
     const Rect visible = target.visible();
     for (std::int32_t row = 0; row < visible.height; ++row) {
         const float y = static_cast<float>(visible.y + row) + 0.5F;
-        simd::writeInFours(target.view.row(row), visible.x, visible.x + visible.width,
-                           [&](std::int32_t column) {
-                               const simd::Float4 strength =
-                                   coverage(fourCentres(column), y) * simd::splat(255.0F) + simd::splat(0.5F);
-                               return simd::lookUp(shades.data(), simd::truncated(strength));
-                           });
+        simd::writeInFours(
+            target.view.row(row), visible.x, visible.x + visible.width, [&](std::int32_t column) {
+                const simd::Float4 strength =
+                    coverage(simd::pixelCentres(column), y) * simd::splat(255.0F) + simd::splat(0.5F);
+                return simd::lookUp(shades.data(), simd::truncated(strength));
+            });
     }
 }
 
