@@ -11,16 +11,16 @@ namespace vela::testing {
 
 class Canvas {
 public:
-    explicit Canvas(Size size, Color ground = 0) : size_(size), surface_(size) { clear(ground); }
+    explicit Canvas(Size size, Color background = 0) : size_(size), surface_(size) { clear(background); }
 
     HDC dc() const noexcept { return surface_.dc(); }
     Size size() const noexcept { return size_; }
     PixelView view() const noexcept { return surface_.pixels(); }
 
-    void clear(Color ground)
+    void clear(Color background)
     {
         const PixelView all = view();
-        std::fill_n(all.pixels, count(), premultiplied(ground, 255) & 0xFFFFFF);
+        std::fill_n(all.pixels, count(), premultiplied(background, 255) & 0xFFFFFF);
     }
     // Blue, green and red only: GDI leaves anything in the fourth byte.
     Pixel at(std::int32_t x, std::int32_t y) const { return view().row(y)[x] & 0xFFFFFF; }

@@ -18,7 +18,7 @@ bool drawLayerSheet(const std::wstring& path);
 bool drawIconSheet(const std::wstring& path);
 bool drawTypeSheet(const std::wstring& path);
 bool drawPresetSheet(const std::wstring& path);
-bool drawSubstanceSheet(const std::wstring& path);
+bool drawNamedMaterialSheet(const std::wstring& path);
 
 // The setup's first window in every skin, small and side by side.
 bool drawFrontSheet(const std::wstring& path, const std::vector<vela::SkinDefinition>& skins);

@@ -24,10 +24,13 @@ namespace {
 using SheetDrawer = bool (*)(const std::wstring& path);
 
 constexpr std::pair<const wchar_t*, SheetDrawer> kSheets[] = {
-    {L"shapes", gallery::drawShapeSheet},        {L"gradients", gallery::drawGradientSheet},
-    {L"layers", gallery::drawLayerSheet},        {L"icons", gallery::drawIconSheet},
-    {L"type", gallery::drawTypeSheet},           {L"material-presets", gallery::drawPresetSheet},
-    {L"materials", gallery::drawSubstanceSheet},
+    {L"shapes", gallery::drawShapeSheet},
+    {L"gradients", gallery::drawGradientSheet},
+    {L"layers", gallery::drawLayerSheet},
+    {L"icons", gallery::drawIconSheet},
+    {L"type", gallery::drawTypeSheet},
+    {L"material-presets", gallery::drawPresetSheet},
+    {L"materials", gallery::drawNamedMaterialSheet},
 };
 
 std::vector<vela::SkinDefinition> readSkins(const std::filesystem::path& path)

@@ -1,4 +1,4 @@
-// Sheets of materials: every preset with every finish, and the substances that a skin may name.
+// Sheets of materials: every preset with every finish, and the materials that a skin may name.
 #include "tools/gallery/gallery_gdi.h"
 #include "tools/showcase_content/material_swatch.h"
 #include "vela/render/paint/paint.h"
@@ -83,8 +83,8 @@ SurfaceStyle presetStyle(const Preset& preset, MaterialPreset kind, MaterialFini
     return style;
 }
 
-// A title bar, a panel and a button of one substance.
-void drawSubstance(Sheet& sheet, const Rect& tile, const vela::NamedMaterial& material)
+// A title bar, a panel and a button of one material.
+void drawNamedMaterial(Sheet& sheet, const Rect& tile, const vela::NamedMaterial& material)
 {
     const auto piece = [&](const Rect& rect, ShapeKind shape) {
         SurfaceStyle style = bodyOf(showcase::bodyColor(material), shape);
@@ -123,19 +123,19 @@ bool drawPresetSheet(const std::wstring& path)
     return sheet.save(path);
 }
 
-bool drawSubstanceSheet(const std::wstring& path)
+bool drawNamedMaterialSheet(const std::wstring& path)
 {
     constexpr vela::Size kTile{184, 124};
     constexpr std::int32_t kGap = 16;
     constexpr std::int32_t kColumns = 8;
-    const auto substances = vela::namedMaterials();
-    const auto rows = (static_cast<std::int32_t>(substances.size()) + kColumns - 1) / kColumns;
+    const auto materials = vela::namedMaterials();
+    const auto rows = (static_cast<std::int32_t>(materials.size()) + kColumns - 1) / kColumns;
     const std::int32_t width = kColumns * (kTile.width + kGap) - kGap;
     Sheet sheet({2 * kMargin + width, kTop + rows * (kTile.height + kGap) + kMargin}, {});
     sheet.title({kMargin, 16}, L"Named materials: title bar, panel and buttons");
     Flow flow({kMargin, kTop, width, 0}, kGap);
-    for (const vela::NamedMaterial& substance : substances)
-        drawSubstance(sheet, flow.place(kTile), substance);
+    for (const vela::NamedMaterial& material : materials)
+        drawNamedMaterial(sheet, flow.place(kTile), material);
     return sheet.save(path);
 }
 

@@ -12,9 +12,9 @@ namespace gallery {
 using vela::Rect;
 using vela::TextAlign;
 
-Sheet::Sheet(vela::Size size, const SheetLook& look) : look_(look), surface_(size)
+Sheet::Sheet(vela::Size size, const SheetColors& colors) : colors_(colors), surface_(size)
 {
-    vela::fillShape(dc(), {0, 0, size.width, size.height}, vela::ShapeKind::Rect, look.ground);
+    vela::fillShape(dc(), {0, 0, size.width, size.height}, vela::ShapeKind::Rect, colors.background);
 }
 
 void Sheet::text(const Rect& rect, std::wstring_view text, std::int32_t points, std::int32_t weight,
@@ -25,17 +25,17 @@ void Sheet::text(const Rect& rect, std::wstring_view text, std::int32_t points, 
 
 void Sheet::title(vela::Point at, std::wstring_view line)
 {
-    text({at.x, at.y, surface_.size().width - at.x, 36}, line, 19, 300, look_.ink, TextAlign::Left);
+    text({at.x, at.y, surface_.size().width - at.x, 36}, line, 19, 300, colors_.text, TextAlign::Left);
 }
 
 void Sheet::heading(vela::Point at, std::wstring_view line)
 {
-    text({at.x, at.y, surface_.size().width - at.x, 20}, line, 10, 600, look_.ink, TextAlign::Left);
+    text({at.x, at.y, surface_.size().width - at.x, 20}, line, 10, 600, colors_.text, TextAlign::Left);
 }
 
 void Sheet::caption(const Rect& rect, std::wstring_view line, TextAlign align)
 {
-    text(rect, line, 8, 400, look_.faint, align);
+    text(rect, line, 8, 400, colors_.faintText, align);
 }
 
 bool Sheet::save(const std::wstring& path, std::int32_t height) const

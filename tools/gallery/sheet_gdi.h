@@ -13,19 +13,19 @@ namespace gallery {
 
 inline constexpr std::int32_t kDpi = 96;
 
-// What captions and the sheet's ground look like.
-struct SheetLook {
-    vela::Color ground = vela::hexColor(0x1B2026);
-    vela::Color ink = vela::hexColor(0xE8ECEF);
-    vela::Color faint = vela::hexColor(0x8E99A3);
+// Of captions and of the sheet itself.
+struct SheetColors {
+    vela::Color background = vela::hexColor(0x1B2026);
+    vela::Color text = vela::hexColor(0xE8ECEF);
+    vela::Color faintText = vela::hexColor(0x8E99A3);
 };
 
 class Sheet {
 public:
-    Sheet(vela::Size size, const SheetLook& look);
+    Sheet(vela::Size size, const SheetColors& colors);
 
     HDC dc() const noexcept { return surface_.dc(); }
-    const SheetLook& look() const noexcept { return look_; }
+    const SheetColors& colors() const noexcept { return colors_; }
 
     void title(vela::Point at, std::wstring_view text);
     void heading(vela::Point at, std::wstring_view text);
@@ -39,11 +39,11 @@ private:
     void text(const vela::Rect& rect, std::wstring_view text, std::int32_t points, std::int32_t weight,
               vela::Color color, vela::TextAlign align);
 
-    SheetLook look_;
+    SheetColors colors_;
     vela::DibSurface surface_;
 };
 
-// A dot, or a small plate behind a symbol.
+// What an icon stands on, or a dot.
 void paintBadge(HDC dc, const vela::Rect& rect, vela::ShapeKind shape, vela::Color color);
 
 // Hands out places from left to right, and in rows below each other.

@@ -152,8 +152,8 @@ std::int32_t drawCheckBoxes(const SkinPage& page, vela::Point place)
         const bool disabled = i % 4 == 3;
         page.surface(box, style.*state.box);
         if (state.checked)
-            vela::paintIcon(page.sheet.dc(), vela::Icon::Check, vela::markBox((style.*state.box).shape, box),
-                            kDpi, style.checkColor);
+            vela::paintIcon(page.sheet.dc(), vela::Icon::Check,
+                            vela::iconBoxOn((style.*state.box).shape, box), kDpi, style.checkColor);
         page.text({cell.x + style.textLeft, cell.y, cell.width - style.textLeft, cell.height}, state.name,
                   style.text, {.tone = disabled ? TextTone::Disabled : TextTone::Enabled});
     }

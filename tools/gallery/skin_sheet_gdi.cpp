@@ -117,9 +117,9 @@ bool drawSkinSheet(const std::wstring& path, const vela::SkinDefinition& skin)
     const vela::StyleSheet styles = vela::buildStyleSheet(skin);
     Sheet sheet(kSheet, {skin.theme.shell, skin.theme.text, skin.theme.mutedText});
     const SkinPage page{sheet, styles};
-    vela::SurfaceStyle ground = styles.find<vela::PanelStyle>(vela::kDefaultVariant).surface;
-    ground.shape = vela::ShapeKind::Rect; // a sheet has no corners to cut
-    page.surface({0, 0, kSheet.width, kSheet.height}, ground);
+    vela::SurfaceStyle background = styles.find<vela::PanelStyle>(vela::kDefaultVariant).surface;
+    background.shape = vela::ShapeKind::Rect; // a sheet has no corners to cut
+    page.surface({0, 0, kSheet.width, kSheet.height}, background);
     const std::int32_t top = drawTitleBar(page, {0, 0, kSheet.width, 40}, skin.name) + 16;
 
     constexpr std::int32_t kLeft = 24;

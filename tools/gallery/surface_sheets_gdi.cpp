@@ -148,9 +148,9 @@ bool drawLayerSheet(const std::wstring& path)
     constexpr ShapeKind kShapes[] = {ShapeKind::Rect, ShapeKind::RoundedRect, ShapeKind::Pill,
                                      ShapeKind::Hexagon, ShapeKind::SlantRight};
     constexpr auto kCount = static_cast<std::int32_t>(std::size(kLayers));
-    SheetLook look;
-    look.ground = hexColor(0x39434D);
-    Sheet sheet({2 * kMargin + kCount * kCell.width, kTop + 20 + 10 * kCell.height + kMargin}, look);
+    SheetColors colors;
+    colors.background = hexColor(0x39434D);
+    Sheet sheet({2 * kMargin + kCount * kCell.width, kTop + 20 + 10 * kCell.height + kMargin}, colors);
     sheet.title({kMargin, 20}, L"Layers: each alone, and all up to it");
     for (std::int32_t column = 0; column < kCount; ++column)
         sheet.caption({kMargin + column * kCell.width, kTop, kCell.width, 16}, kLayers[column].name,
@@ -184,7 +184,7 @@ bool drawIconSheet(const std::wstring& path)
             const Rect cell{kMargin + icon * kCell, top, kCell, kCell};
             const std::int32_t side = 2 * vela::captionIconSize(dpi);
             vela::paintIcon(sheet.dc(), static_cast<vela::Icon>(icon), centered(cell, {side, side}), dpi,
-                            sheet.look().ink);
+                            sheet.colors().text);
         }
         top += kCell;
     }

@@ -108,7 +108,7 @@ bool drawTypeSheet(const std::wstring& path)
 {
     Sheet sheet({1240, 760}, {});
     sheet.title({24, 20}, L"Type");
-    Writer writer{sheet, {L"Segoe UI", 10, 400, sheet.look().ink, sheet.look().faint}};
+    Writer writer{sheet, {L"Segoe UI", 10, 400, sheet.colors().text, sheet.colors().faintText}};
     sheet.heading({24, 72}, L"Weights");
     drawWeights(writer, 24, 96);
     sheet.heading({620, 72}, L"Sizes");

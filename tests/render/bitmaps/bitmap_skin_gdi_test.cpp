@@ -16,7 +16,7 @@ namespace {
 
 using testing::Canvas;
 
-constexpr Color kGround = hexColor(0x304050);
+constexpr Color kBackground = hexColor(0x304050);
 
 class BitmapSkinTest : public ::testing::Test {
 protected:
@@ -95,7 +95,7 @@ TEST_F(BitmapSkinTest, TheBitmapIsThePlateAndWithoutItTheSurfaceIsPaintedPlain)
     style.drawBorder = false;
     style.materialDepth = 0;
     style.image.ensure().path = L"plate.png";
-    Canvas canvas({60, 40}, kGround);
+    Canvas canvas({60, 40}, kBackground);
     paintSurface(canvas.dc(), {10, 5, 40, 30}, style);
     EXPECT_EQ(canvas.at(10, 5), 0x40C080u);
     EXPECT_EQ(canvas.at(49, 34), 0x40C080u);
@@ -103,7 +103,7 @@ TEST_F(BitmapSkinTest, TheBitmapIsThePlateAndWithoutItTheSurfaceIsPaintedPlain)
 
     for (const wchar_t* path : {L"missing.png", L"..\\bitmaps\\plate.png", L"Z:\\plate.png"}) {
         style.image.ensure().path = path;
-        canvas.clear(kGround);
+        canvas.clear(kBackground);
         paintSurface(canvas.dc(), {10, 5, 40, 30}, style);
         EXPECT_EQ(canvas.at(30, 20), 0x112233u);
     }
@@ -121,7 +121,7 @@ TEST_F(BitmapSkinTest, AMaskShapesLayersAndWindow)
     style.alphaThreshold = 128;
     style.geometry.ensure().mode = AlphaHitMode::MaskLayout;
     style.geometry.ensure().maskPath = L"mask.png";
-    Canvas canvas({60, 40}, kGround);
+    Canvas canvas({60, 40}, kBackground);
     drawGradientShape(canvas.dc(), {10, 5, 40, 30}, style);
     EXPECT_EQ(canvas.at(10, 5), 0xFF0000u); // a corner that the round shape would leave out
     EXPECT_EQ(canvas.at(28, 20), 0xFF0000u);

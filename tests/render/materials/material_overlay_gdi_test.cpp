@@ -12,7 +12,7 @@ namespace {
 
 using testing::Canvas;
 
-constexpr Color kGround = hexColor(0x304050);
+constexpr Color kBackground = hexColor(0x304050);
 constexpr Rect kPlace{5, 6, 80, 30};
 
 // Nothing but its material, which is opaque enough to show everywhere.
@@ -32,13 +32,13 @@ SurfaceStyle bareStyle()
 TEST(MaterialOverlayPaintTest, CoversTheShapeAndNothingElse)
 {
     const SurfaceStyle style = bareStyle();
-    Canvas canvas({90, 40}, kGround);
-    const Pixel ground = canvas.at(0, 0);
+    Canvas canvas({90, 40}, kBackground);
+    const Pixel background = canvas.at(0, 0);
     paintSurface(canvas.dc(), kPlace, style);
     for (std::int32_t y = 0; y < 40; ++y)
         for (std::int32_t x = 0; x < 90; ++x) {
             const Point inside{x - kPlace.x, y - kPlace.y};
-            ASSERT_EQ(canvas.at(x, y) != ground,
+            ASSERT_EQ(canvas.at(x, y) != background,
                       pointInShape(style.shape, kPlace.width, kPlace.height, inside))
                 << x << ',' << y;
         }
@@ -48,11 +48,11 @@ TEST(MaterialOverlayPaintTest, IsRenderedOnceForAnUnchangedSurface)
 {
     SurfaceStyle style = bareStyle();
     style.noiseSeed = 77; // no other test paints it
-    Canvas canvas({90, 40}, kGround);
+    Canvas canvas({90, 40}, kBackground);
     const std::size_t before = materialOverlays().rendered();
     paintSurface(canvas.dc(), kPlace, style);
     const std::vector<Pixel> first = canvas.pixels();
-    canvas.clear(kGround);
+    canvas.clear(kBackground);
     paintSurface(canvas.dc(), kPlace, style);
     EXPECT_EQ(canvas.pixels(), first);
     EXPECT_EQ(materialOverlays().rendered(), before + 1);
@@ -65,7 +65,7 @@ TEST(MaterialOverlayPaintTest, CostsNothingWhereNoMaterialIsAskedFor)
 {
     const std::size_t rendered = materialOverlays().rendered();
     const std::size_t cached = materialOverlays().size();
-    Canvas canvas({90, 40}, kGround);
+    Canvas canvas({90, 40}, kBackground);
     const std::vector<Pixel> before = canvas.pixels();
     const auto expectNothing = [&](const SurfaceStyle& style) {
         paintSurface(canvas.dc(), kPlace, style);
@@ -98,7 +98,7 @@ TEST(MaterialOverlayPaintTest, SeamlessTexturesJoinAcrossNeighbours)
     style.ambientOcclusion = 0;
     style.uvScale = 120;
     const auto veins = [&style](std::initializer_list<Rect> places) {
-        Canvas canvas({90, 40}, kGround);
+        Canvas canvas({90, 40}, kBackground);
         for (const Rect& place : places)
             drawSeamlessMaterialTextureOverlay(canvas.dc(), place, style, PerformanceProfile::Full);
         return canvas.pixels();
@@ -117,13 +117,13 @@ TEST(MaterialOverlayPaintTest, ShowsASurfaceTooLargeToBeCached)
 {
     SurfaceStyle style = bareStyle();
     style.shape = ShapeKind::Diamond;
-    Canvas canvas({90, 40}, kGround);
-    const Pixel ground = canvas.at(0, 0);
+    Canvas canvas({90, 40}, kBackground);
+    const Pixel background = canvas.at(0, 0);
     const std::size_t rendered = materialOverlays().rendered();
     drawMaterialOverlay(canvas.dc(), {-20'000, -10, 40'000, 30'000}, style); // its tip is in the picture
     EXPECT_EQ(materialOverlays().rendered(), rendered);
-    EXPECT_NE(canvas.at(5, 5), ground);
-    EXPECT_EQ(canvas.at(60, 5), ground);
+    EXPECT_NE(canvas.at(5, 5), background);
+    EXPECT_EQ(canvas.at(60, 5), background);
 }
 
 } // namespace

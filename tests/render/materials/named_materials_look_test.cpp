@@ -1,4 +1,4 @@
-// The named materials as they are seen: a plate of each, its body's colour under the overlay.
+// The named materials as they are seen: a swatch of each, its body's colour under the overlay.
 #include "tools/showcase_content/material_swatch.h"
 #include "vela/render/materials/material_overlay.h"
 #include "vela/theme/color/oklab.h"
@@ -14,9 +14,9 @@ namespace {
 
 constexpr Size kPlate{72, 48};
 
-using Plate = std::vector<Oklab>;
+using Swatch = std::vector<Oklab>;
 
-Plate plateOf(const NamedMaterial& material)
+Swatch swatchOf(const NamedMaterial& material)
 {
     SurfaceStyle style;
     applyNamedMaterial(material, style);
@@ -25,19 +25,19 @@ Plate plateOf(const NamedMaterial& material)
         materialConstants(style, {0, 0, kPlate.width, kPlate.height}, 0, PerformanceProfile::Full),
         {{overlay.data(), kPlate, kPlate.width}, {}});
     const Pixel body = premultiplied(showcase::bodyColor(material), 255);
-    Plate plate;
+    Swatch swatch;
     for (const Pixel pixel : overlay) {
         const auto channel = [=](int shift) {
             const unsigned below = (body >> shift & 0xFF) * (255 - alphaOf(pixel)) / 255;
             return static_cast<std::uint8_t>((pixel >> shift & 0xFF) + below);
         };
-        plate.push_back(oklabOf(rgb(channel(16), channel(8), channel(0))));
+        swatch.push_back(oklabOf(rgb(channel(16), channel(8), channel(0))));
     }
-    return plate;
+    return swatch;
 }
 
 // Mean distance of what lies at the same place; 0.02 is just visible.
-float distance(const Plate& one, const Plate& other)
+float distance(const Swatch& one, const Swatch& other)
 {
     float sum = 0;
     for (std::size_t i = 0; i < one.size(); ++i)
@@ -49,16 +49,16 @@ float distance(const Plate& one, const Plate& other)
 TEST(NamedMaterialLooks, AreToldApartWhenTheyAreSeen)
 {
     const auto materials = namedMaterials();
-    std::vector<Plate> plates;
+    std::vector<Swatch> swatches;
     for (const NamedMaterial& material : materials)
-        plates.push_back(plateOf(material));
+        swatches.push_back(swatchOf(material));
     for (std::size_t i = 0; i < materials.size(); ++i) {
         for (std::size_t j = 0; j < i; ++j) {
             const bool oneSubstance = materials[i].shading == materials[j].shading;
-            EXPECT_EQ(distance(plates[i], plates[j]) < 0.02F, oneSubstance)
+            EXPECT_EQ(distance(swatches[i], swatches[j]) < 0.02F, oneSubstance)
                 << std::string(materials[i].name.begin(), materials[i].name.end()) << " and "
                 << std::string(materials[j].name.begin(), materials[j].name.end()) << ": "
-                << distance(plates[i], plates[j]);
+                << distance(swatches[i], swatches[j]);
         }
     }
 }

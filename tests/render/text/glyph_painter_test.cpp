@@ -6,7 +6,7 @@
 namespace vela {
 namespace {
 
-constexpr Color kGround = hexColor(0x206080);
+constexpr Color kBackground = hexColor(0x206080);
 constexpr Color kText = hexColor(0xE0A010);
 constexpr Size kSize{6, 5};
 
@@ -22,7 +22,7 @@ GlyphMask block(Rect box, std::array<std::uint8_t, 3> coverage)
 std::vector<Pixel> drawn(const GlyphMask& mask, Point pen, float gamma = 1.4F)
 {
     std::vector<Pixel> pixels(static_cast<std::size_t>(kSize.width * kSize.height),
-                              premultiplied(kGround, 255));
+                              premultiplied(kBackground, 255));
     TextLayout layout;
     layout.addGlyph(mask, pen);
     GlyphPainter(gamma).draw({pixels.data(), kSize, kSize.width}, {}, layout, kText);
@@ -37,8 +37,8 @@ TEST(GlyphPainterTest, CoverageMixesEachChannelOfItsOwn)
     EXPECT_EQ(all, premultiplied(kText, 255));
     const Pixel some = drawn(block({0, 0, 1, 1}, {255, 0, 128}), {2, 2})[2 * 6 + 2];
     EXPECT_EQ(channelOf(some, 16), redOf(kText));
-    EXPECT_EQ(channelOf(some, 8), greenOf(kGround));
-    EXPECT_LT(channelOf(some, 0), blueOf(kGround));
+    EXPECT_EQ(channelOf(some, 8), greenOf(kBackground));
+    EXPECT_LT(channelOf(some, 0), blueOf(kBackground));
     EXPECT_GT(channelOf(some, 0), blueOf(kText));
 }
 
@@ -48,7 +48,7 @@ TEST(GlyphPainterTest, MixingIsDoneInLight)
     const auto half = [](float gamma) {
         return channelOf(drawn(block({0, 0, 1, 1}, {128, 128, 128}), {2, 2}, gamma)[2 * 6 + 2], 16);
     };
-    const unsigned middle = (redOf(kText) + redOf(kGround)) / 2;
+    const unsigned middle = (redOf(kText) + redOf(kBackground)) / 2;
     EXPECT_NEAR(half(1.0F), middle, 1);
     EXPECT_GT(half(1.4F), middle + 8);
     EXPECT_GT(half(2.2F), half(1.4F) + 8);

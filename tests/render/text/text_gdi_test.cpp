@@ -19,7 +19,7 @@ namespace {
 
 using testing::Canvas;
 
-constexpr Color kGround = hexColor(0x102030);
+constexpr Color kBackground = hexColor(0x102030);
 const std::wstring kSentence = L"Příliš žluťoučký kůň úpěl ďábelské ódy, Spouštět s Windows & 42 %";
 
 FontSpec uiFont(std::int32_t points = 10, std::int32_t weight = 400)
@@ -112,14 +112,14 @@ TEST(TextTest, BothEnginesPutTheSameInkAtTheSamePlace)
 {
     for (const std::int32_t dpi : {96, 144}) {
         const Rect rect{7, 5, 601, 43};
-        Canvas direct({640, 60}, kGround);
-        Canvas gdi({640, 60}, kGround);
-        const auto ground = gdi.pixels();
+        Canvas direct({640, 60}, kBackground);
+        Canvas gdi({640, 60}, kBackground);
+        const auto background = gdi.pixels();
         const std::wstring text = L"Zástupce na ploše: Hgjy";
         drawText(direct.dc(), rect, text, uiFont(), dpi, {.align = TextAlign::Center});
         drawCenteredText(gdi.dc(), rect, text, uiFont(), dpi);
-        const Rect one = direct.changed(ground);
-        const Rect other = gdi.changed(ground);
+        const Rect one = direct.changed(background);
+        const Rect other = gdi.changed(background);
         ASSERT_GT(one.width, 100);
         EXPECT_NEAR(one.x, other.x, 1);
         EXPECT_NEAR(one.y, other.y, 1);
@@ -143,10 +143,10 @@ TEST(TextTest, AlignmentAndWrappingPlaceTheInk)
         {{.wrap = TextWrap::Words}, 20, 10 + lineHeight(uiFont(), 96) / 2},
     };
     for (const auto& row : rows) {
-        Canvas canvas({340, 120}, kGround);
-        const auto ground = canvas.pixels();
+        Canvas canvas({340, 120}, kBackground);
+        const auto background = canvas.pixels();
         drawText(canvas.dc(), rect, L"HHH", uiFont(), 96, row.look);
-        const Rect ink = canvas.changed(ground);
+        const Rect ink = canvas.changed(background);
         EXPECT_NEAR(ink.x, row.left, 3);
         EXPECT_NEAR(ink.y + ink.height / 2, row.middle, 3);
     }
@@ -158,28 +158,28 @@ TEST(TextTest, WhatLiesUnderAndAroundTheTextStays)
     const PixelView view = canvas.view();
     for (std::int32_t i = 0; i < 200 * 60; ++i)
         view.pixels[i] = static_cast<Pixel>(i % 256) | static_cast<Pixel>(i / 97 % 256) << 8;
-    const auto ground = canvas.pixels();
+    const auto background = canvas.pixels();
     const Rect rect{10, 20, 90, 20};
     drawText(canvas.dc(), rect, kSentence, uiFont(), 96);
-    const Rect ink = canvas.changed(ground);
+    const Rect ink = canvas.changed(background);
     EXPECT_EQ(intersection(ink, rect), ink);
     EXPECT_GT(ink.width, 70); // the ellipsis stands near the right edge
     const auto now = canvas.pixels();
     std::int32_t untouched = 0;
     for (std::int32_t y = ink.y; y < ink.y + ink.height; ++y)
         for (std::int32_t x = ink.x; x < ink.x + ink.width; ++x)
-            untouched +=
-                now[static_cast<std::size_t>(y * 200 + x)] == ground[static_cast<std::size_t>(y * 200 + x)];
+            untouched += now[static_cast<std::size_t>(y * 200 + x)] ==
+                         background[static_cast<std::size_t>(y * 200 + x)];
     EXPECT_GT(untouched, ink.width * ink.height / 3);
 }
 
 TEST(TextTest, TheClipIsKeptAndTextOutsideItCostsNothing)
 {
-    Canvas canvas({200, 60}, kGround);
-    const auto ground = canvas.pixels();
+    Canvas canvas({200, 60}, kBackground);
+    const auto background = canvas.pixels();
     ::IntersectClipRect(canvas.dc(), 50, 0, 80, 60);
     drawText(canvas.dc(), {0, 10, 200, 30}, kSentence, uiFont(), 96);
-    const Rect ink = canvas.changed(ground);
+    const Rect ink = canvas.changed(background);
     EXPECT_GT(ink.width, 15);
     EXPECT_GE(ink.x, 50);
     EXPECT_LE(ink.x + ink.width, 80);
@@ -238,18 +238,18 @@ TEST(TextTest, MeasuringGivesTheHeightThatDrawTextGives)
 TEST(TextTest, WrappedTextEndsWithItsLastFullLine)
 {
     const std::int32_t line = lineHeight(uiFont(), 96);
-    Canvas canvas({200, 200}, kGround);
-    const auto ground = canvas.pixels();
+    Canvas canvas({200, 200}, kBackground);
+    const auto background = canvas.pixels();
     drawText(canvas.dc(), {0, 0, 150, 2 * line + line / 2}, kSentence, uiFont(), 96,
              {.wrap = TextWrap::Words});
-    const Rect ink = canvas.changed(ground);
+    const Rect ink = canvas.changed(background);
     EXPECT_GT(ink.height, line);
     EXPECT_LE(ink.y + ink.height, 2 * line);
 }
 
 TEST(TextTest, OddTextIsDrawnWhole)
 {
-    Canvas canvas({400, 60}, kGround);
+    Canvas canvas({400, 60}, kBackground);
     for (const wchar_t* text : {L"e\u0301 z\u030C \xD83D\xDE80 \xD83D\xDC68\u200D\xD83D\xDC69", L"\xD83D",
                                 L"\x1F\t", L"&&&", L"%s%n"}) {
         for (std::int32_t width = 1; width < 100; width += 9) {
@@ -297,7 +297,7 @@ TEST(TextTest, TheDpiIsPartOfTheFont)
 
 TEST(TextTest, RepaintingMakesNoFontNoLayoutAndNoGdiObject)
 {
-    Canvas canvas({400, 200}, kGround);
+    Canvas canvas({400, 200}, kBackground);
     const auto paint = [&] {
         drawText(canvas.dc(), {0, 0, 200, 30}, kSentence, uiFont(), 96);
         drawText(canvas.dc(), {0, 30, 200, 90}, kSentence, uiFont(11, 600), 144, {.wrap = TextWrap::Words});
@@ -319,7 +319,7 @@ TEST(TextTest, RepaintingMakesNoFontNoLayoutAndNoGdiObject)
 // Texts that come and go must not pile up.
 TEST(TextTest, ManyDifferentTextsLeaveNoObjectsBehind)
 {
-    Canvas canvas({200, 40}, kGround);
+    Canvas canvas({200, 40}, kBackground);
     const auto paint = [&](int i) {
         drawText(canvas.dc(), {0, 0, 200, 30}, std::to_wstring(i), uiFont(), 96);
     };

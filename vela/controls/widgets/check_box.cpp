@@ -68,7 +68,7 @@ void CheckBox::paint(HDC dc, Point origin)
     const Rect box = movedBy(boxRect(), {all.x, all.y});
     paintControlSurface(dc, box, boxSurface());
     if (checked_)
-        paintIcon(dc, Icon::Check, markBox(boxSurface().shape, box), dpi(), style_.checkColor);
+        paintIcon(dc, Icon::Check, iconBoxOn(boxSurface().shape, box), dpi(), style_.checkColor);
     const TextTone tone = isEnabled() ? TextTone::Enabled : TextTone::Disabled;
     const Rect caption{all.x + style_.textLeft, all.y, std::max(all.width - style_.textLeft, 0), all.height};
     drawText(dc, caption, text_, style_.text, dpi(), {tone, TextAlign::Left, TextWrap::SingleLine});

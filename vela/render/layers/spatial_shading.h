@@ -8,7 +8,7 @@
 
 namespace vela {
 
-// A style without depth is flat. A surface shaped by a bitmap is left alone: its plate is drawn with its own
+// A style without depth is flat. A surface shaped by a bitmap is left alone: the bitmap is drawn with its own
 // light.
 bool castsSpatialShading(const SurfaceStyle& style) noexcept;
 

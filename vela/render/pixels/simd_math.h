@@ -37,7 +37,7 @@ inline Float4 polynomial(Float4 x, float constant, Rest... rest) noexcept
 }
 
 // 2 to the power of the value, to 3e-6 of the result. Below 2 to the -80th nothing is left but a trace: no
-// pixel shows it, and numbers so small that they lose digits are slow to reckon with.
+// pixel shows it, and numbers so small that they lose digits are slow to compute with.
 inline Float4 exp2(Float4 exponent) noexcept
 {
     const Float4 limited = clamp(exponent, -80, 126);

@@ -1,5 +1,5 @@
-// Symbols drawn as lines of a pen, at any size: marks, chevrons, the signs of caption buttons and of notices.
-// A drawing writes the whole target, transparent where nothing is drawn.
+// Symbols drawn as lines of a pen, at any size: check marks, chevrons, the signs of caption buttons and of
+// notices. A drawing writes the whole target, transparent where nothing is drawn.
 #pragma once
 
 #include "vela/geometry.h"
@@ -35,11 +35,11 @@ void drawIcon(const LayerTarget& target, Icon icon, const Rect& box, std::int32_
 // The side of a caption icon's box, in pixels.
 std::int32_t captionIconSize(std::int32_t dpi) noexcept;
 
-// Where a mark on a small plate of that shape has air around it and keeps clear of its slopes.
-constexpr Rect markBox(ShapeKind shape, const Rect& plate) noexcept
+// Where an icon on a badge of that shape has air around it and keeps clear of its slopes.
+constexpr Rect iconBoxOn(ShapeKind shape, const Rect& badge) noexcept
 {
-    const std::int32_t inset = plate.width / (shape == ShapeKind::Diamond ? 5 : 8);
-    return {plate.x + inset, plate.y + inset, plate.width - 2 * inset, plate.height - 2 * inset};
+    const std::int32_t inset = badge.width / (shape == ShapeKind::Diamond ? 5 : 8);
+    return {badge.x + inset, badge.y + inset, badge.width - 2 * inset, badge.height - 2 * inset};
 }
 
 } // namespace vela
