@@ -34,7 +34,8 @@ public:
 
     LoadedBitmaps find(const SurfaceStyle& style);
 
-    // How many files were looked for since the start; one that is not there is not looked for again.
+    // How many files were looked for since the start, for tests: one that is not there is not looked for
+    // again.
     std::size_t decoded() const noexcept { return decoded_; }
 
 private:

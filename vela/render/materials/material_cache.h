@@ -37,8 +37,9 @@ public:
         return overlay.view();
     }
 
+    // For tests and benchmarks: how many overlays there are, and how many were rendered since the start. A
+    // repaint of what was painted before adds none.
     std::size_t size() const noexcept { return overlays_.size(); }
-    // How many overlays were rendered since the start: a repaint of what was painted before adds none.
     std::size_t rendered() const noexcept { return rendered_; }
 
 private:

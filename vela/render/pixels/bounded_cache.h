@@ -52,7 +52,7 @@ public:
     }
 
     std::size_t size() const noexcept { return entries_.size(); }
-    // How many values were made since the start: a repaint of what was painted before adds none.
+    // How many values were made since the start, for tests: a repaint of what was painted before adds none.
     std::size_t made() const noexcept { return made_; }
 
 private:

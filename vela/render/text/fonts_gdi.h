@@ -35,7 +35,7 @@ private:
 // Never fails: a font that cannot be made is the stock GUI font. Valid until the process ends.
 const Font& ensureFont(const FontSpec& font, std::int32_t dpi);
 
-// Every font made so far stays; this many there are.
+// Every font made so far stays; this many there are. For textStatistics.
 std::size_t fontCount() noexcept;
 
 // The paths of the private font files that could be registered.
