@@ -1,4 +1,5 @@
-// Runs pixel layers into buffers that tests can look at.
+// Runs pixel layers into buffers that tests can look at: each is held against the same layer computed pixel
+// by pixel from its formulas.
 #pragma once
 
 #include "vela/render/pixels/pixel_buffer.h"
@@ -97,5 +98,27 @@ inline std::string nameOf(ShapeKind kind, const LayerCase& layer)
 inline constexpr ShapeKind kAllShapes[] = {ShapeKind::Rect,    ShapeKind::RoundedRect, ShapeKind::Pill,
                                            ShapeKind::Diamond, ShapeKind::Bevel,       ShapeKind::Octagon,
                                            ShapeKind::Hexagon, ShapeKind::SlantRight,  ShapeKind::SlantLeft};
+
+// Calls test(shape, case) for every combination.
+template <typename Test>
+void forEveryShape(Test&& test)
+{
+    for (const ShapeKind shape : kAllShapes)
+        for (const LayerCase& layer : layerCases()) {
+            SCOPED_TRACE(nameOf(shape, layer));
+            test(shape, layer);
+        }
+}
+
+inline bool covers(ShapeKind shape, Size size, std::int32_t x, std::int32_t y)
+{
+    return pointInShape(shape, size.width, size.height, {x, y});
+}
+
+// From 0 at the first pixel to 1 at the last.
+inline double positionIn(std::int32_t at, std::int32_t length)
+{
+    return length > 1 ? double(at) / (length - 1) : 0.0;
+}
 
 } // namespace vela

@@ -1,21 +1,11 @@
-#include "vela/render/materials/material_cache.h"
-#include "vela/render/materials/material_clock.h"
 #include "vela/render/materials/material_constants.h"
+
+#include "tests/render/materials/material_testing.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
 namespace vela {
 namespace {
-
-SurfaceStyle carved(MaterialPreset material)
-{
-    SurfaceStyle style;
-    style.material = material;
-    style.materialEnabled = true;
-    return style;
-}
 
 constexpr Rect kPlace{30, 40, 200, 100};
 
@@ -101,67 +91,6 @@ TEST(MaterialConstants, KeepTheLuminousLightOnlyWhereTheMachineHasTheTime)
         materialConstants(style, kPlace, 0.5F, PerformanceProfile::Reduced).material4;
     EXPECT_EQ(reduced.x, 0);
     EXPECT_EQ(reduced.y, 1);
-}
-
-TEST(MaterialClock, TurnsTheLightSoManyTimesInTenMinutes)
-{
-    SurfaceStyle style = carved(MaterialPreset::LuminousGlass);
-    EXPECT_FALSE(hasMovingLight(style));
-    EXPECT_EQ(lightPhase(style, 5000), 0);
-    style.animationSpeed = 12;
-    EXPECT_TRUE(hasMovingLight(style));
-    EXPECT_FLOAT_EQ(lightPhase(style, 50'000), 1);
-    EXPECT_FLOAT_EQ(lightPhase(style, 75'000), 1.5F);
-    EXPECT_FLOAT_EQ(lightPhase(style, 0), 100); // where the orbit ends and starts
-    EXPECT_FLOAT_EQ(lightPhase(style, 5'050'000), 1);
-    style.animationSpeed = -12;
-    EXPECT_FLOAT_EQ(lightPhase(style, 50'000), 99);
-    style.material = MaterialPreset::Glass;
-    EXPECT_EQ(lightPhase(style, 50'000), 0);
-    for (const std::int32_t speed :
-         {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
-        style = carved(MaterialPreset::LuminousGlass);
-        style.animationSpeed = speed;
-        const float phase = lightPhase(style, std::numeric_limits<std::uint64_t>::max());
-        EXPECT_GT(phase, 0);
-        EXPECT_LE(phase, 100);
-    }
-}
-
-TEST(MaterialOverlayCache, RendersOnceAndAMovingLightIntoOnePlace)
-{
-    MaterialOverlayCache cache(2 * 200 * 100);
-    const auto ask = [&cache](const SurfaceStyle& style, float phase) {
-        const auto constants = materialConstants(style, kPlace, phase, PerformanceProfile::Full);
-        return cache.ensure(constants, [](const PixelView& pixels) { return pixels.row(99)[199] = 7, true; });
-    };
-    SurfaceStyle style = carved(MaterialPreset::LuminousGlass);
-    const PixelView view = ask(style, 0.25F);
-    EXPECT_EQ(view.size, (Size{200, 100}));
-    EXPECT_EQ(ask(style, 0.25F).pixels, view.pixels);
-    EXPECT_EQ(cache.rendered(), 1u);
-    EXPECT_EQ(ask(style, 0.5F).pixels, view.pixels);
-    EXPECT_EQ(cache.rendered(), 2u);
-    for (int tint = 0; tint < 5; ++tint) {
-        style.materialTint = static_cast<Color>(tint);
-        ask(style, 0.5F);
-    }
-    EXPECT_EQ(cache.rendered(), 7u);
-    EXPECT_EQ(cache.size(), 2u); // as many as there is room for
-}
-
-TEST(MaterialOverlayCache, TriesAgainAfterARenderingThatFailed)
-{
-    MaterialOverlayCache cache(200 * 100);
-    const auto ask = [&cache](const Rect& rect, bool works) {
-        const SurfaceStyle style = carved(MaterialPreset::Metal);
-        const auto constants = materialConstants(style, rect, 0, PerformanceProfile::Full);
-        return cache.ensure(constants, [works](const PixelView&) { return works; }).pixels != nullptr;
-    };
-    EXPECT_FALSE(ask(kPlace, false));
-    EXPECT_TRUE(ask(kPlace, true));
-    EXPECT_TRUE(ask(kPlace, false));           // cached
-    EXPECT_FALSE(ask({0, 0, 201, 100}, true)); // there is no room for it at all
 }
 
 } // namespace

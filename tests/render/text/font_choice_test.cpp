@@ -1,4 +1,3 @@
-#include "vela/render/pixels/bounded_cache.h"
 #include "vela/render/text/font_choice.h"
 
 #include <gtest/gtest.h>
@@ -70,22 +69,6 @@ TEST(FontChoiceTest, RecognisesFontFilesByTheirEnding)
         EXPECT_TRUE(isFontFileName(name));
     for (const wchar_t* name : {L"a.fon", L".ttf", L"ttf", L"a.ttf.txt", L""})
         EXPECT_FALSE(isFontFileName(name));
-}
-
-TEST(BoundedCacheTest, MakesAValueOnceAndForgetsTheOneUnusedLongest)
-{
-    BoundedCache<int, int> cache(2);
-    const auto ask = [&](int key) { return cache.ensure(key, [key] { return key * 10; }); };
-    EXPECT_EQ(ask(1), 10);
-    EXPECT_EQ(ask(2), 20);
-    EXPECT_EQ(ask(1), 10);
-    EXPECT_EQ(cache.made(), 2u);
-    EXPECT_EQ(ask(3), 30); // 2 goes
-    EXPECT_EQ(ask(1), 10);
-    EXPECT_EQ(cache.made(), 3u);
-    EXPECT_EQ(ask(2), 20);
-    EXPECT_EQ(cache.made(), 4u);
-    EXPECT_EQ(cache.size(), 2u);
 }
 
 } // namespace

@@ -1,0 +1,116 @@
+#include "vela/render/bitmaps/bitmap_skin.h"
+
+#include "tests/render/bitmaps/bitmap_testing.h"
+#include "tests/render/layers/layer_testing.h"
+
+namespace vela {
+namespace {
+
+using Rows = std::vector<std::string>;
+
+std::vector<std::string> lettersOf(const Picture& picture)
+{
+    std::vector<std::string> rows(static_cast<std::size_t>(picture.size.height));
+    for (std::int32_t y = 0; y < picture.size.height; ++y)
+        for (std::int32_t x = 0; x < picture.size.width; ++x)
+            switch (picture.at(x, y)) {
+            case 0: rows[static_cast<std::size_t>(y)] += '.'; break;
+            case 0xFFFF0000: rows[static_cast<std::size_t>(y)] += 'r'; break;
+            case 0xFF00FF00: rows[static_cast<std::size_t>(y)] += 'g'; break;
+            case 0xFF0000FF: rows[static_cast<std::size_t>(y)] += 'b'; break;
+            case 0xFFFFFFFF: rows[static_cast<std::size_t>(y)] += 'w'; break;
+            case 0x80808080: rows[static_cast<std::size_t>(y)] += 'h'; break;
+            default: rows[static_cast<std::size_t>(y)] += '?'; break;
+            }
+    return rows;
+}
+
+std::vector<std::string> painted(const SkinBitmap& bitmap, Size surface, const BitmapPlacement& placement,
+                                 ShapeKind shape = ShapeKind::Rect)
+{
+    return lettersOf(drawLayer({0, 0, surface.width, surface.height}, [&](const LayerTarget& target) {
+        fillBitmap(target, {shape, surface}, bitmap, placement);
+    }));
+}
+
+TEST(SkinBitmap, IsPaintedAsItIsAtItsOwnSize)
+{
+    const SkinBitmap bitmap(pictureOf({"rgb", "h.w"}), {});
+    EXPECT_EQ(bitmap.cover(), BitmapCover::Partial);
+    EXPECT_EQ(painted(bitmap, {3, 2}, {{0, 0, 3, 2}, {}}), (Rows{"rgb", "h.w"}));
+    EXPECT_EQ(painted(bitmap, {5, 4}, {{1, 1, 3, 2}, {}}), (Rows{".....", ".rgb.", ".h.w.", "....."}));
+    EXPECT_EQ(painted(bitmap, {3, 2}, {{0, 0, 0, 2}, {}}), (Rows{"...", "..."}));
+    // Only the shape's pixels are painted: a diamond of three by three is a cross.
+    EXPECT_EQ(painted(SkinBitmap(pictureOf({"r"}), {}), {3, 3}, {{0, 0, 3, 3}, {}}, ShapeKind::Diamond),
+              (Rows{".r.", "rrr", ".r."}));
+    EXPECT_EQ(SkinBitmap(pictureOf({"rgb"}), {}).cover(), BitmapCover::Full);
+}
+
+TEST(SkinBitmap, NineSlicesKeepCornersAndStretchTheRest)
+{
+    const SkinBitmap bitmap(pictureOf({"rgr", "bwb", "rgr"}), {});
+    const Insets ones{1, 1, 1, 1};
+    EXPECT_EQ(painted(bitmap, {6, 4}, {{0, 0, 6, 4}, ones}), (Rows{"rggggr", "bwwwwb", "bwwwwb", "rggggr"}));
+    EXPECT_EQ(painted(bitmap, {2, 2}, {{0, 0, 2, 2}, ones}), (Rows{"rr", "rr"}));
+    // Margins that leave no middle, and nonsense from a skin, still paint within the bitmap.
+    EXPECT_EQ(painted(bitmap, {4, 1}, {{0, 0, 4, 1}, {2, 0, 1, 0}}), (Rows{"bwwb"}));
+    EXPECT_EQ(painted(bitmap, {3, 3}, {{0, 0, 3, 3}, {99, -5, 99, 99}}).size(), 3U);
+}
+
+TEST(SkinBitmap, BlendsBetweenPixelsWhenStretchedAndAveragesWhenReduced)
+{
+    const SkinBitmap bitmap(pictureOf({"rb"}), {});
+    const Picture wide = drawLayer({0, 0, 4, 1}, [&](const LayerTarget& target) {
+        fillBitmap(target, {ShapeKind::Rect, {4, 1}}, bitmap, {{0, 0, 4, 1}, {}});
+    });
+    EXPECT_EQ(wide.at(0, 0), 0xFFFF0000); // the pixel's centre lies beyond that of the bitmap's first
+    EXPECT_LE(largestDifference(wide.at(1, 0), 0xFFBF0040), 1);
+    EXPECT_LE(largestDifference(wide.at(2, 0), 0xFF4000BF), 1);
+
+    std::vector<std::string> stripes(16, "wwwwwwww........");
+    stripes[3] = stripes[7] = stripes[12] = "........wwwwwwww";
+    const SkinBitmap large(pictureOf(stripes), {});
+    const Picture small = drawLayer({0, 0, 1, 1}, [&](const LayerTarget& target) {
+        fillBitmap(target, {ShapeKind::Rect, {1, 1}}, large, {{0, 0, 1, 1}, {}});
+    });
+    EXPECT_LE(largestDifference(small.at(0, 0), 0x80808080),
+              3); // half of the pixels are white, wherever they lie
+}
+
+TEST(SkinBitmap, PartsFitTogether)
+{
+    const SkinBitmap bitmap(pictureOf({"rgbw", "h.wr", "bbgr"}), {});
+    const BitmapPlacement placement{{2, 3, 29, 17}, {1, 1, 1, 0}};
+    const auto part = [&](const Rect& visible) {
+        return drawLayer(visible, [&](const LayerTarget& target) {
+            fillBitmap(target, {ShapeKind::RoundedRect, {33, 22}}, bitmap, placement);
+        });
+    };
+    const Picture whole = part({0, 0, 33, 22});
+    const Rect visible{11, 2, 20, 13};
+    EXPECT_TRUE(
+        matches(part(visible), visible, 0, [&](std::int32_t x, std::int32_t y) { return whole.at(x, y); }));
+}
+
+TEST(AlphaRuns, LieWhereTheAlphaReachesTheThreshold)
+{
+    const SkinBitmap bitmap(pictureOf(kNotched), {});
+    const auto rowsOf = [](const RunMask& mask) {
+        Rows rows;
+        for (std::int32_t y = 0; y < mask.size().height; ++y) {
+            rows.emplace_back(static_cast<std::size_t>(mask.size().width), '.');
+            for (const Span* run = mask.rowBegin(y); run != mask.rowEnd(y); ++run)
+                std::fill(rows.back().begin() + run->begin, rows.back().begin() + run->end, 'r');
+        }
+        return rows;
+    };
+    EXPECT_EQ(rowsOf(alphaRuns(bitmap, {{0, 0, 6, 4}, {}}, {6, 4}, 16)), kNotched);
+    EXPECT_EQ(rowsOf(alphaRuns(bitmap, {{1, 1, 6, 4}, {}}, {6, 4}, 0)),
+              (Rows{"......", ".rrrrr", ".rrrrr", ".rrrrr"}));
+    const SkinBitmap faint(pictureOf({"hhh"}), {});
+    EXPECT_EQ(rowsOf(alphaRuns(faint, {{0, 0, 3, 1}, {}}, {3, 1}, 128)), (Rows{"rrr"}));
+    EXPECT_EQ(rowsOf(alphaRuns(faint, {{0, 0, 3, 1}, {}}, {3, 1}, 129)), (Rows{"..."})); // empty is allowed
+}
+
+} // namespace
+} // namespace vela
