@@ -1,4 +1,4 @@
-// The grain layer: a fixed function of seed and position, so a surface always shows the same grain.
+// The noise layer: grain, a fixed function of seed and position, so a surface always shows the same grain.
 #pragma once
 
 #include "vela/render/pixels/pixel_buffer.h"

@@ -6,7 +6,7 @@
 #include "vela/render/gdi/clip_gdi.h"
 #include "vela/render/gdi/picture_cache_gdi.h"
 #include "vela/render/gdi/pixel_layer_gdi.h"
-#include "vela/render/layers/layer_parts.h"
+#include "vela/render/layers/layer_bounds.h"
 #include "vela/render/layers/paint_plan.h"
 #include "vela/render/materials/material_gpu_d3d11.h"
 #include "vela/render/materials/material_overlay_gdi.h"
@@ -41,7 +41,7 @@ void paintPixels(const Surface& surface, const PaintStep& step)
         else
             fillLayer(target, coverage, step, style, {surface.rect.x, surface.rect.y});
     };
-    for (const Rect& part : layerParts(step, coverage, style))
+    for (const Rect& part : layerBounds(step, coverage, style))
         renderPixelLayer(surface.dc, step.rect, part, fill);
 }
 

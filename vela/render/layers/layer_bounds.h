@@ -1,4 +1,5 @@
-// Which parts of a pixel layer are worth making and compositing: outside of them it is transparent.
+// The bounds of a pixel layer, as a few rectangles: outside of them it is transparent, and nothing is made or
+// composited.
 #pragma once
 
 #include "vela/render/layers/paint_plan.h"
@@ -8,7 +9,7 @@
 
 namespace vela {
 
-class LayerParts {
+class LayerBounds {
 public:
     const Rect* begin() const noexcept { return rects_.data(); }
     const Rect* end() const noexcept { return rects_.data() + count_; }
@@ -24,6 +25,6 @@ private:
 };
 
 // Disjoint, in the layer's own coordinates. An inner shadow on a large surface is a frame along its edges.
-LayerParts layerParts(const PaintStep& step, const Coverage& coverage, const SurfaceStyle& style);
+LayerBounds layerBounds(const PaintStep& step, const Coverage& coverage, const SurfaceStyle& style);
 
 } // namespace vela

@@ -1,4 +1,4 @@
-#include "vela/render/layers/layer_parts.h"
+#include "vela/render/layers/layer_bounds.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@ namespace vela {
 namespace {
 
 // Whatever a layer draws lies in exactly one part, and the frame of a shadow leaves the middle out.
-TEST(LayerParts, TogetherHoldAllThatTheLayerDraws)
+TEST(LayerBounds, TogetherHoldAllThatTheLayerDraws)
 {
     for (const Size size : {Size{1, 1}, Size{30, 20}, Size{240, 90}, Size{90, 241}, Size{301, 180}}) {
         for (const ShapeKind shape : {ShapeKind::Rect, ShapeKind::RoundedRect, ShapeKind::Hexagon}) {
@@ -22,7 +22,7 @@ TEST(LayerParts, TogetherHoldAllThatTheLayerDraws)
                 std::vector<Pixel> pixels(static_cast<std::size_t>(size.width * size.height));
                 fillLayer({{pixels.data(), size, size.width}, {0, 0}}, coverage, step, style, {});
                 std::vector<int> parts(pixels.size());
-                for (const Rect& part : layerParts(step, coverage, style))
+                for (const Rect& part : layerBounds(step, coverage, style))
                     for (std::int32_t y = part.y; y < part.y + part.height; ++y)
                         for (std::int32_t x = part.x; x < part.x + part.width; ++x)
                             ++parts.at(static_cast<std::size_t>(y * size.width + x));
@@ -35,7 +35,7 @@ TEST(LayerParts, TogetherHoldAllThatTheLayerDraws)
     const PaintStep step{SurfaceLayer::InnerShadow, {0, 0, 690, 420}};
     SurfaceStyle style;
     std::int64_t area = 0;
-    for (const Rect& part : layerParts(step, Coverage(ShapeKind::Rect, {690, 420}), style))
+    for (const Rect& part : layerBounds(step, Coverage(ShapeKind::Rect, {690, 420}), style))
         area += std::int64_t{part.width} * part.height;
     EXPECT_LT(area, 690 * 420 / 10);
 }
