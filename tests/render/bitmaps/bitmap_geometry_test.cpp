@@ -9,8 +9,8 @@ namespace {
 
 TEST(BitmapGeometry, EachModeAnswersHitsAndOutlinesInItsOwnWay)
 {
-    const SkinBitmap skin(pictureOf(kNotched), {});
-    const SkinBitmap mask = SkinBitmap::fromMask(pictureOf({"bbbwww"})); // opaque: its brightness counts
+    const TintedBitmap skin(pictureOf(kNotched), {});
+    const TintedBitmap mask = TintedBitmap::fromMask(pictureOf({"bbbwww"})); // opaque: its brightness counts
     const Point notch{2, 2}, corner{0, 0}, left{0, 3};
     const struct {
         AlphaHitMode mode;
@@ -45,7 +45,7 @@ TEST(BitmapGeometry, EachModeAnswersHitsAndOutlinesInItsOwnWay)
 
 TEST(BitmapGeometry, ContentTakesTheColumnsFreeInItsWholeBand)
 {
-    const SkinBitmap skin(pictureOf({"..rrrr..", ".rrrrrr.", "rrrrrrrr", "rrrrrr.."}), {});
+    const TintedBitmap skin(pictureOf({"..rrrr..", ".rrrrrr.", "rrrrrrrr", "rrrrrr.."}), {});
     const RunMask outline = alphaRuns(skin, {{0, 0, 8, 4}, {}}, {8, 4}, 16);
     SurfaceGeometry geometry;
     EXPECT_EQ(layoutColumns(geometry, outline, 3), (Span{2, 6})); // one band: what all rows have in common
@@ -73,7 +73,7 @@ TEST(BitmapGeometry, LeavesRoomInsideItsInsetsAndItsOutline)
     EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::headerInsets, 96, nullptr), (Rect{100, 51, 8, 2}));
 
     const auto outlineOf = [](const std::vector<std::string>& rows) {
-        return alphaRuns(SkinBitmap(pictureOf(rows), {}), {{0, 0, 8, 4}, {}}, {8, 4}, 16);
+        return alphaRuns(TintedBitmap(pictureOf(rows), {}), {{0, 0, 8, 4}, {}}, {8, 4}, 16);
     };
     const RunMask leaning = outlineOf({"..rrrr..", ".rrrrrr.", "rrrrrrrr", "rrrrrr.."});
     geometry.textInsets = {0, 0, 3, 0};

@@ -56,8 +56,8 @@ BitmapCache::Picture BitmapCache::load(const Key& key)
     const BitmapImage image = decode_(file);
     if (isEmpty(image.size))
         return nullptr;
-    return std::make_shared<const SkinBitmap>(key.use == Use::Mask ? SkinBitmap::fromMask(image)
-                                                                   : SkinBitmap(image, key.skin.tint));
+    return std::make_shared<const TintedBitmap>(key.use == Use::Mask ? TintedBitmap::fromMask(image)
+                                                                     : TintedBitmap(image, key.skin.tint));
 }
 
 } // namespace vela

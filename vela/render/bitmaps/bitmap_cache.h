@@ -3,7 +3,7 @@
 #pragma once
 
 #include "vela/render/bitmaps/bitmap_geometry.h"
-#include "vela/render/bitmaps/bitmap_skin.h"
+#include "vela/render/bitmaps/tinted_bitmap.h"
 #include "vela/render/pixels/bounded_cache.h"
 
 #include <cstddef>
@@ -15,8 +15,8 @@ namespace vela {
 
 // A surface's bitmaps, kept alive as long as this is.
 struct LoadedBitmaps {
-    std::shared_ptr<const SkinBitmap> skin;
-    std::shared_ptr<const SkinBitmap> mask;
+    std::shared_ptr<const TintedBitmap> skin;
+    std::shared_ptr<const TintedBitmap> mask;
 
     SurfaceBitmaps view() const noexcept { return {skin.get(), mask.get()}; }
     friend bool operator==(const LoadedBitmaps&, const LoadedBitmaps&) = default; // the very same bitmaps
@@ -45,7 +45,7 @@ private:
         BitmapSkin skin;
         friend bool operator==(const Key&, const Key&) = default;
     };
-    using Picture = std::shared_ptr<const SkinBitmap>; // null: there is none, or it cannot be read
+    using Picture = std::shared_ptr<const TintedBitmap>; // null: there is none, or it cannot be read
     struct Weight {
         std::size_t operator()(const Picture& picture) const noexcept;
     };

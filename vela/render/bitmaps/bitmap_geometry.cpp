@@ -9,7 +9,7 @@
 namespace vela {
 namespace {
 
-const SkinBitmap* outlineBitmap(AlphaHitMode mode, const SurfaceBitmaps& bitmaps) noexcept
+const TintedBitmap* outlineBitmap(AlphaHitMode mode, const SurfaceBitmaps& bitmaps) noexcept
 {
     return mode == AlphaHitMode::MaskLayout ? bitmaps.mask : bitmaps.skin;
 }

@@ -2,7 +2,7 @@
 // test and the room it leaves for what lies on it.
 #pragma once
 
-#include "vela/render/bitmaps/bitmap_skin.h"
+#include "vela/render/bitmaps/tinted_bitmap.h"
 #include "vela/render/pixels/insets.h"
 
 #include <optional>
@@ -11,8 +11,8 @@ namespace vela {
 
 // The bitmaps of one surface; null where there is none or it could not be loaded. Borrowed.
 struct SurfaceBitmaps {
-    const SkinBitmap* skin = nullptr;
-    const SkinBitmap* mask = nullptr;
+    const TintedBitmap* skin = nullptr;
+    const TintedBitmap* mask = nullptr;
 };
 
 // The mode in effect: without the bitmap that it needs, the shape decides.

@@ -9,7 +9,7 @@ constexpr std::size_t kMostOutlines = 32;
 
 // All that an outline is made of. It keeps the bitmap alive, so no other one can take its address.
 struct OutlineKey {
-    std::shared_ptr<const SkinBitmap> bitmap;
+    std::shared_ptr<const TintedBitmap> bitmap;
     AlphaHitMode mode;
     std::uint8_t threshold;
     Size size;

@@ -13,11 +13,11 @@
 namespace vela {
 
 // Immutable, so it can be shared and cached. The picture must not be empty.
-class SkinBitmap {
+class TintedBitmap {
 public:
-    SkinBitmap(const BitmapImage& image, const BitmapTint& tint);
+    TintedBitmap(const BitmapImage& image, const BitmapTint& tint);
     // A picture that only says where: by its alpha or, when it is opaque, by its brightness.
-    static SkinBitmap fromMask(const BitmapImage& image);
+    static TintedBitmap fromMask(const BitmapImage& image);
 
     BitmapCover cover() const noexcept { return cover_; }
     Size size() const noexcept { return levels_.front().size; }
@@ -27,7 +27,7 @@ public:
     const BitmapImage& original() const noexcept { return levels_.front(); }
 
 private:
-    explicit SkinBitmap(BitmapImage premultiplied);
+    explicit TintedBitmap(BitmapImage premultiplied);
 
     std::vector<BitmapImage> levels_; // premultiplied
     BitmapCover cover_ = BitmapCover::Full;
@@ -40,15 +40,15 @@ struct BitmapPlacement {
 };
 BitmapPlacement bitmapPlacement(const SurfaceStyle& style, Size surface) noexcept;
 
-void fillBitmap(const LayerTarget& target, const Coverage& coverage, const SkinBitmap& bitmap,
+void fillBitmap(const LayerTarget& target, const Coverage& coverage, const TintedBitmap& bitmap,
                 const BitmapPlacement& placement);
 
 // The pixels of the surface where the bitmap's alpha reaches the threshold; none outside its placement.
 // Painted layers, window region and hit test of a surface shaped by a bitmap all take this.
-RunMask alphaRuns(const SkinBitmap& bitmap, const BitmapPlacement& placement, Size surface,
+RunMask alphaRuns(const TintedBitmap& bitmap, const BitmapPlacement& placement, Size surface,
                   std::uint8_t threshold);
 
 // The bitmap's alpha as it is painted there; 0 outside its placement.
-std::uint8_t alphaAt(const SkinBitmap& bitmap, const BitmapPlacement& placement, Point point);
+std::uint8_t alphaAt(const TintedBitmap& bitmap, const BitmapPlacement& placement, Point point);
 
 } // namespace vela

@@ -1,4 +1,4 @@
-#include "vela/render/bitmaps/bitmap_skin.h"
+#include "vela/render/bitmaps/tinted_bitmap.h"
 
 #include "vela/render/bitmaps/bitmap_tint.h"
 #include "vela/render/pixels/insets.h"
@@ -122,7 +122,7 @@ bool isPlain(const Insets& margins) noexcept { return margins == Insets{}; }
 // Produces the bitmap's pixels as they lie on the surface, row by row.
 class BitmapSampler {
 public:
-    BitmapSampler(const SkinBitmap& bitmap, const BitmapPlacement& placement, Span columns)
+    BitmapSampler(const TintedBitmap& bitmap, const BitmapPlacement& placement, Span columns)
         : image_(isPlain(placement.fixedMargins) ? bitmap.levelFor(sizeOf(placement.rect))
                                                  : bitmap.original()),
           rect_(placement.rect), columns_(intersect(columns, {rect_.x, rect_.x + rect_.width})),
@@ -160,7 +160,7 @@ private:
 
 } // namespace
 
-SkinBitmap::SkinBitmap(BitmapImage premultipliedImage)
+TintedBitmap::TintedBitmap(BitmapImage premultipliedImage)
 {
     cover_ = isOpaque(premultipliedImage) ? BitmapCover::Full : BitmapCover::Partial;
     levels_.push_back(std::move(premultipliedImage));
@@ -168,11 +168,12 @@ SkinBitmap::SkinBitmap(BitmapImage premultipliedImage)
         levels_.push_back(halved(levels_.back()));
 }
 
-SkinBitmap::SkinBitmap(const BitmapImage& image, const BitmapTint& tint) : SkinBitmap(prepared(image, tint))
+TintedBitmap::TintedBitmap(const BitmapImage& image, const BitmapTint& tint)
+    : TintedBitmap(prepared(image, tint))
 {
 }
 
-SkinBitmap SkinBitmap::fromMask(const BitmapImage& image)
+TintedBitmap TintedBitmap::fromMask(const BitmapImage& image)
 {
     BitmapTint stencil;
     stencil.mode = TintMode::Monochrome;
@@ -180,7 +181,7 @@ SkinBitmap SkinBitmap::fromMask(const BitmapImage& image)
     return {image, stencil};
 }
 
-const BitmapImage& SkinBitmap::levelFor(Size painted) const noexcept
+const BitmapImage& TintedBitmap::levelFor(Size painted) const noexcept
 {
     const auto stillLarge = [painted](const BitmapImage& level) {
         return level.size.width >= painted.width && level.size.height >= painted.height;
@@ -196,7 +197,7 @@ BitmapPlacement bitmapPlacement(const SurfaceStyle& style, Size surface) noexcep
             style.useNineSlice ? style.nineSlice : Insets{}};
 }
 
-void fillBitmap(const LayerTarget& target, const Coverage& coverage, const SkinBitmap& bitmap,
+void fillBitmap(const LayerTarget& target, const Coverage& coverage, const TintedBitmap& bitmap,
                 const BitmapPlacement& placement)
 {
     const Rect visible = target.visible();
@@ -213,7 +214,7 @@ void fillBitmap(const LayerTarget& target, const Coverage& coverage, const SkinB
     });
 }
 
-RunMask alphaRuns(const SkinBitmap& bitmap, const BitmapPlacement& placement, Size surface,
+RunMask alphaRuns(const TintedBitmap& bitmap, const BitmapPlacement& placement, Size surface,
                   std::uint8_t threshold)
 {
     RunMask mask(surface);
@@ -238,7 +239,7 @@ RunMask alphaRuns(const SkinBitmap& bitmap, const BitmapPlacement& placement, Si
     return mask;
 }
 
-std::uint8_t alphaAt(const SkinBitmap& bitmap, const BitmapPlacement& placement, Point point)
+std::uint8_t alphaAt(const TintedBitmap& bitmap, const BitmapPlacement& placement, Point point)
 {
     const BitmapSampler sampler(bitmap, placement, {point.x, point.x + 1});
     if (sampler.columns().empty() || !sampler.hasRow(point.y))

@@ -1,4 +1,4 @@
-#include "vela/render/bitmaps/bitmap_skin.h"
+#include "vela/render/bitmaps/tinted_bitmap.h"
 
 #include "tests/render/bitmaps/bitmap_testing.h"
 #include "tests/render/layers/layer_testing.h"
@@ -25,7 +25,7 @@ std::vector<std::string> lettersOf(const Picture& picture)
     return rows;
 }
 
-std::vector<std::string> painted(const SkinBitmap& bitmap, Size surface, const BitmapPlacement& placement,
+std::vector<std::string> painted(const TintedBitmap& bitmap, Size surface, const BitmapPlacement& placement,
                                  ShapeKind shape = ShapeKind::Rect)
 {
     return lettersOf(drawLayer({0, 0, surface.width, surface.height}, [&](const LayerTarget& target) {
@@ -33,22 +33,22 @@ std::vector<std::string> painted(const SkinBitmap& bitmap, Size surface, const B
     }));
 }
 
-TEST(SkinBitmap, IsPaintedAsItIsAtItsOwnSize)
+TEST(TintedBitmap, IsPaintedAsItIsAtItsOwnSize)
 {
-    const SkinBitmap bitmap(pictureOf({"rgb", "h.w"}), {});
+    const TintedBitmap bitmap(pictureOf({"rgb", "h.w"}), {});
     EXPECT_EQ(bitmap.cover(), BitmapCover::Partial);
     EXPECT_EQ(painted(bitmap, {3, 2}, {{0, 0, 3, 2}, {}}), (Rows{"rgb", "h.w"}));
     EXPECT_EQ(painted(bitmap, {5, 4}, {{1, 1, 3, 2}, {}}), (Rows{".....", ".rgb.", ".h.w.", "....."}));
     EXPECT_EQ(painted(bitmap, {3, 2}, {{0, 0, 0, 2}, {}}), (Rows{"...", "..."}));
     // Only the shape's pixels are painted: a diamond of three by three is a cross.
-    EXPECT_EQ(painted(SkinBitmap(pictureOf({"r"}), {}), {3, 3}, {{0, 0, 3, 3}, {}}, ShapeKind::Diamond),
+    EXPECT_EQ(painted(TintedBitmap(pictureOf({"r"}), {}), {3, 3}, {{0, 0, 3, 3}, {}}, ShapeKind::Diamond),
               (Rows{".r.", "rrr", ".r."}));
-    EXPECT_EQ(SkinBitmap(pictureOf({"rgb"}), {}).cover(), BitmapCover::Full);
+    EXPECT_EQ(TintedBitmap(pictureOf({"rgb"}), {}).cover(), BitmapCover::Full);
 }
 
-TEST(SkinBitmap, NineSlicesKeepCornersAndStretchTheRest)
+TEST(TintedBitmap, NineSlicesKeepCornersAndStretchTheRest)
 {
-    const SkinBitmap bitmap(pictureOf({"rgr", "bwb", "rgr"}), {});
+    const TintedBitmap bitmap(pictureOf({"rgr", "bwb", "rgr"}), {});
     const Insets ones{1, 1, 1, 1};
     EXPECT_EQ(painted(bitmap, {6, 4}, {{0, 0, 6, 4}, ones}), (Rows{"rggggr", "bwwwwb", "bwwwwb", "rggggr"}));
     EXPECT_EQ(painted(bitmap, {2, 2}, {{0, 0, 2, 2}, ones}), (Rows{"rr", "rr"}));
@@ -57,9 +57,9 @@ TEST(SkinBitmap, NineSlicesKeepCornersAndStretchTheRest)
     EXPECT_EQ(painted(bitmap, {3, 3}, {{0, 0, 3, 3}, {99, -5, 99, 99}}).size(), 3U);
 }
 
-TEST(SkinBitmap, BlendsBetweenPixelsWhenStretchedAndAveragesWhenReduced)
+TEST(TintedBitmap, BlendsBetweenPixelsWhenStretchedAndAveragesWhenReduced)
 {
-    const SkinBitmap bitmap(pictureOf({"rb"}), {});
+    const TintedBitmap bitmap(pictureOf({"rb"}), {});
     const Picture wide = drawLayer({0, 0, 4, 1}, [&](const LayerTarget& target) {
         fillBitmap(target, {ShapeKind::Rect, {4, 1}}, bitmap, {{0, 0, 4, 1}, {}});
     });
@@ -69,7 +69,7 @@ TEST(SkinBitmap, BlendsBetweenPixelsWhenStretchedAndAveragesWhenReduced)
 
     std::vector<std::string> stripes(16, "wwwwwwww........");
     stripes[3] = stripes[7] = stripes[12] = "........wwwwwwww";
-    const SkinBitmap large(pictureOf(stripes), {});
+    const TintedBitmap large(pictureOf(stripes), {});
     const Picture small = drawLayer({0, 0, 1, 1}, [&](const LayerTarget& target) {
         fillBitmap(target, {ShapeKind::Rect, {1, 1}}, large, {{0, 0, 1, 1}, {}});
     });
@@ -77,9 +77,9 @@ TEST(SkinBitmap, BlendsBetweenPixelsWhenStretchedAndAveragesWhenReduced)
               3); // half of the pixels are white, wherever they lie
 }
 
-TEST(SkinBitmap, PartsFitTogether)
+TEST(TintedBitmap, PartsFitTogether)
 {
-    const SkinBitmap bitmap(pictureOf({"rgbw", "h.wr", "bbgr"}), {});
+    const TintedBitmap bitmap(pictureOf({"rgbw", "h.wr", "bbgr"}), {});
     const BitmapPlacement placement{{2, 3, 29, 17}, {1, 1, 1, 0}};
     const auto part = [&](const Rect& visible) {
         return drawLayer(visible, [&](const LayerTarget& target) {
@@ -94,7 +94,7 @@ TEST(SkinBitmap, PartsFitTogether)
 
 TEST(AlphaRuns, LieWhereTheAlphaReachesTheThreshold)
 {
-    const SkinBitmap bitmap(pictureOf(kNotched), {});
+    const TintedBitmap bitmap(pictureOf(kNotched), {});
     const auto rowsOf = [](const RunMask& mask) {
         Rows rows;
         for (std::int32_t y = 0; y < mask.size().height; ++y) {
@@ -107,7 +107,7 @@ TEST(AlphaRuns, LieWhereTheAlphaReachesTheThreshold)
     EXPECT_EQ(rowsOf(alphaRuns(bitmap, {{0, 0, 6, 4}, {}}, {6, 4}, 16)), kNotched);
     EXPECT_EQ(rowsOf(alphaRuns(bitmap, {{1, 1, 6, 4}, {}}, {6, 4}, 0)),
               (Rows{"......", ".rrrrr", ".rrrrr", ".rrrrr"}));
-    const SkinBitmap faint(pictureOf({"hhh"}), {});
+    const TintedBitmap faint(pictureOf({"hhh"}), {});
     EXPECT_EQ(rowsOf(alphaRuns(faint, {{0, 0, 3, 1}, {}}, {3, 1}, 128)), (Rows{"rrr"}));
     EXPECT_EQ(rowsOf(alphaRuns(faint, {{0, 0, 3, 1}, {}}, {3, 1}, 129)), (Rows{"..."})); // empty is allowed
 }
