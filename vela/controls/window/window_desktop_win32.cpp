@@ -2,7 +2,7 @@
 // it wants to be looked at.
 #include "vela/controls/window/window_win32.h"
 
-#include "vela/controls/window/taskbar_list_win32.h"
+#include "vela/controls/system/taskbar_list_win32.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,7 +2,7 @@
 // desktop's compositor draws around it.
 #include "vela/controls/window/window_win32.h"
 
-#include "vela/controls/window/cursor_win32.h"
+#include "vela/controls/system/cursor_win32.h"
 #include "vela/library_win32.h"
 #include "vela/render/surface/surface_shape.h"
 #include "vela/theme/fields/record_scale.h"

@@ -1,7 +1,7 @@
 // A window's input: Windows' messages become events of the control tree.
 #include "vela/controls/window/window_win32.h"
 
-#include "vela/controls/window/cursor_win32.h"
+#include "vela/controls/system/cursor_win32.h"
 #include "vela/library_win32.h"
 #include "vela/text.h"
 

@@ -1,8 +1,8 @@
 // A window's life: from its creation to its end, and what the system tells it meanwhile.
 #include "vela/controls/window/window_win32.h"
 
-#include "vela/controls/window/cursor_win32.h"
-#include "vela/controls/window/taskbar_list_win32.h"
+#include "vela/controls/system/cursor_win32.h"
+#include "vela/controls/system/taskbar_list_win32.h"
 #include "vela/controls/window/tooltip_window_win32.h"
 #include "vela/render/gdi/performance_win32.h"
 

@@ -2,7 +2,7 @@
 // size, and from there to the screen.
 #include "vela/controls/window/window_win32.h"
 
-#include "vela/controls/window/cursor_win32.h"
+#include "vela/controls/system/cursor_win32.h"
 #include "vela/render/gdi/owned_gdi.h"
 #include "vela/render/gdi/paint_context.h"
 

@@ -2,10 +2,10 @@
 // to Windows.
 #pragma once
 
+#include "vela/controls/system/taskbar_progress.h"
 #include "vela/controls/tree/debug_overlay.h"
 #include "vela/controls/tree/input_router.h"
 #include "vela/controls/tree/panel.h"
-#include "vela/controls/window/taskbar_progress.h"
 #include "vela/controls/window/tooltip_timing.h"
 
 #include <cstdint>

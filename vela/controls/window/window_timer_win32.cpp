@@ -1,7 +1,7 @@
 // What a window does by itself, from one tick of its timer to the next.
 #include "vela/controls/window/window_win32.h"
 
-#include "vela/controls/window/cursor_win32.h"
+#include "vela/controls/system/cursor_win32.h"
 #include "vela/controls/window/tooltip_window_win32.h"
 #include "vela/render/gdi/performance_win32.h"
 

@@ -3,9 +3,9 @@
 
 #include "vela/controls/window/window.h"
 
+#include "vela/controls/system/text_services_win32.h"
 #include "vela/controls/tree/moving_lights.h"
 #include "vela/controls/window/click_counter.h"
-#include "vela/controls/window/text_services_win32.h"
 #include "vela/controls/window/window_diagnostics.h"
 #include "vela/controls/window/window_geometry.h"
 #include "vela/rect_win32.h"

@@ -1,4 +1,4 @@
-#include "vela/controls/window/cursor_win32.h"
+#include "vela/controls/system/cursor_win32.h"
 
 #include <windowsx.h>
 

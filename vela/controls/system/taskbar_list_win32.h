@@ -3,7 +3,7 @@
 
 #include "vela/com_apartment_win32.h"
 #include "vela/com_pointer_win32.h"
-#include "vela/controls/window/taskbar_progress.h"
+#include "vela/controls/system/taskbar_progress.h"
 
 #include <shobjidl.h>
 

@@ -1,4 +1,4 @@
-#include "vela/controls/window/text_services_win32.h"
+#include "vela/controls/system/text_services_win32.h"
 
 #include "vela/owned_win32.h"
 #include "vela/toolkit_texts.h"

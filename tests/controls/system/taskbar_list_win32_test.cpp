@@ -1,4 +1,4 @@
-#include "vela/controls/window/taskbar_list_win32.h"
+#include "vela/controls/system/taskbar_list_win32.h"
 
 #include <gtest/gtest.h>
 
