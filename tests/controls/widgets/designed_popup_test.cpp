@@ -93,7 +93,7 @@ TEST_F(DesignedPopupTest, APopupPaintsItsPartsInsideItself)
 {
     auto& popup = window.root.addControl(std::make_unique<DesignedPopup>(L"p", Rect{0, 40, 690, 380}));
     popup.setTitle(L"Titul");
-    popup.setIcon(L"!");
+    popup.setIconText(L"!");
     popup.setMessage(L"Zprava");
     popup.applyStyle(styles);
     const PopupStyle style;
