@@ -30,6 +30,7 @@ if(NOT WIN32)
     --project=${PROJECT_BINARY_DIR}/compile_commands.json --cppcheck-build-dir=${PROJECT_BINARY_DIR}/cppcheck
     --enable=warning,performance,portability --suppress=internalAstError --suppress=cppcheckError)
   set_tests_properties(lint.cppcheck PROPERTIES COST 1000 TIMEOUT 1800)
+  add_test(NAME lint.rooms COMMAND ${PROJECT_SOURCE_DIR}/scripts/lint-rooms)
   add_test(NAME lint.clang-format COMMAND
     sh -c "git ls-files -co --exclude-standard '*.cpp' '*.h' | xargs ${TAMBER_CLANG_FORMAT} --dry-run -Werror"
     WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
