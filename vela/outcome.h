@@ -22,7 +22,7 @@ template <typename Value, typename Error>
 class [[nodiscard]] Outcome {
 public:
     template <std::convertible_to<Value> Given = Value>
-    Outcome(Given&& value) : state_(std::in_place_index<0>, std::forward<Given>(value))
+    Outcome(Given value) : state_(std::in_place_index<0>, std::move(value))
     {
     }
     template <std::convertible_to<Error> Given>
