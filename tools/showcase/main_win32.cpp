@@ -4,7 +4,6 @@
 
 #include "app/dialogs/toolkit_texts.h"
 
-#include "vela/render/text/fonts.h"
 #include "vela/resource_folders.h"
 #include "vela/theme/skins/system_skins.h"
 
