@@ -14,7 +14,7 @@ enum class Emphasis : std::uint8_t {
     Solid,    // filled with the intent's colour: the action that the dialog is about
     Standard, // a control's own face
     Outline,  // a control's face, half faded into the backdrop
-    Soft,     // tinted with it
+    Soft,     // tinted with the intent's colour
     Quiet,    // only text until the pointer comes
 };
 
