@@ -3,8 +3,8 @@
 #include "vela/com_pointer_win32.h"
 #include "vela/library_win32.h"
 #include "vela/render/materials/material_overlay_gdi.h"
-#include "vela/render/materials/shader_compiler_d3d11.h"
 #include "vela/render/materials/material_shaders.h"
+#include "vela/render/materials/shader_compiler_d3d11.h"
 
 #include <cstring>
 #include <iterator>
