@@ -91,8 +91,8 @@ void SetupDialog::followLastDialog(vela::Point middle)
     const vela::Size size{own.right - own.left, own.bottom - own.top};
     const RECT& work = monitor.rcWork;
     const vela::Rect place =
-        vela::keptInside({middle.x - size.width / 2, middle.y - size.height / 2, size.width, size.height},
-                         {work.left, work.top, work.right - work.left, work.bottom - work.top});
+        vela::movedInside({middle.x - size.width / 2, middle.y - size.height / 2, size.width, size.height},
+                          {work.left, work.top, work.right - work.left, work.bottom - work.top});
     ::SetWindowPos(handle(), nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

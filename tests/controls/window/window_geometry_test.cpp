@@ -34,11 +34,11 @@ TEST(WindowGeometry, TheDraggedEdgeStopsAtTheMinimum)
         {FrameZone::BottomLeft, {-50, 100, 150, 180}},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(keptAboveMinimum(small, row.dragged, {200, 80}), row.kept);
-    EXPECT_EQ(keptAboveMinimum(small, FrameZone::Right, {50, 30}), small);
-    EXPECT_EQ(keptAboveMinimum({5, 5, 5, 5}, FrameZone::Bottom, {0, 0}), (Edges{5, 5, 6, 6}));
+        EXPECT_EQ(clampedToMinimum(small, row.dragged, {200, 80}), row.kept);
+    EXPECT_EQ(clampedToMinimum(small, FrameZone::Right, {50, 30}), small);
+    EXPECT_EQ(clampedToMinimum({5, 5, 5, 5}, FrameZone::Bottom, {0, 0}), (Edges{5, 5, 6, 6}));
     const Edges wild{INT32_MAX, INT32_MIN, INT32_MIN, INT32_MAX};
-    EXPECT_EQ(keptAboveMinimum(wild, FrameZone::Left, {INT32_MAX, 1}).right, INT32_MIN);
+    EXPECT_EQ(clampedToMinimum(wild, FrameZone::Left, {INT32_MAX, 1}).right, INT32_MIN);
 }
 
 TEST(WindowGeometry, NewWindowsAreCentredInsideTheWorkArea)
@@ -83,9 +83,9 @@ TEST(WindowGeometry, AScaleIsFoundAtWhichTheWindowFits)
 TEST(WindowGeometry, AWindowIsMovedBackInside)
 {
     constexpr Rect kArea{100, 50, 1000, 600};
-    EXPECT_EQ(keptInside({200, 60, 300, 200}, kArea), (Rect{200, 60, 300, 200}));
-    EXPECT_EQ(keptInside({0, 700, 300, 200}, kArea), (Rect{100, 450, 300, 200}));
-    EXPECT_EQ(keptInside({500, 500, 3000, 0}, kArea), (Rect{100, 500, 1000, 1}));
+    EXPECT_EQ(movedInside({200, 60, 300, 200}, kArea), (Rect{200, 60, 300, 200}));
+    EXPECT_EQ(movedInside({0, 700, 300, 200}, kArea), (Rect{100, 450, 300, 200}));
+    EXPECT_EQ(movedInside({500, 500, 3000, 0}, kArea), (Rect{100, 500, 1000, 1}));
 }
 
 TEST(WindowGeometry, ATooltipStaysInsideTheMonitor)

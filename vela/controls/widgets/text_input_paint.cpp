@@ -21,11 +21,12 @@ Rect centredIn(const Rect& row, std::int32_t x, std::int32_t width, std::int32_t
     return {x, row.y + (row.height - height) / 2, width, height};
 }
 
-// The field's text where it can be read on the selection, else the field's own ground.
+// The field's text where it can be read on the selection, else the field's own background.
 Color selectedTextColor(const TextInputStyle& style)
 {
-    const Color ground = style.focusedSurface.fill;
-    return pickReaching({style.text.color, ground}, surfaceTones(style.selection, ground), kTextContrast);
+    const Color background = style.focusedSurface.fill;
+    return pickReaching({style.text.color, background}, surfaceTones(style.selection, background),
+                        kTextContrast);
 }
 
 } // namespace
@@ -115,14 +116,14 @@ void TextInput::paintText(HDC dc, Point at)
     // What cannot be changed is still there to be read.
     const FontSpec& font = model_.locked() ? style_.placeholderText : style_.text;
     const auto drawLine = [&](Color color) {
-        FontSpec inked = font;
-        inked.color = color;
+        FontSpec colored = font;
+        colored.color = color;
         const Rect line{area.x - scroll_, caret.y, textWidth() + 1, caret.height};
         // A layout of something very long is not worth its time.
         if (line.width < kLongLine)
-            drawText(dc, line, model_.text(), inked, dpi());
+            drawText(dc, line, model_.text(), colored, dpi());
         else
-            drawUnclippedLine(dc, line, model_.text(), inked, dpi(), color);
+            drawUnclippedLine(dc, line, model_.text(), colored, dpi(), color);
     };
     const Color color = isEnabled() ? font.color : font.disabledColor;
     if (model_.hasSelection()) {

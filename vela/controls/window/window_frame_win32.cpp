@@ -275,7 +275,7 @@ LRESULT Window::Native::onFrameMessage(UINT message, WPARAM wParam, LPARAM lPara
 LRESULT Window::Native::onSizing(WPARAM edge, RECT& proposed) const
 {
     const Edges before{proposed.left, proposed.top, proposed.right, proposed.bottom};
-    const Edges after = keptAboveMinimum(before, draggedZone(edge), window_.minimumTrackSize());
+    const Edges after = clampedToMinimum(before, draggedZone(edge), window_.minimumTrackSize());
     proposed = {after.left, after.top, after.right, after.bottom};
     if (state_.diagnostics)
         window_.writeDiagnostic(sizingDiagnostic(edge, before, after, frameFacts(cursorOnScreen())));

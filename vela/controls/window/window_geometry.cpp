@@ -65,7 +65,7 @@ FrameZone frameZoneAt(Size client, Point cursor, std::int32_t border) noexcept
     return kZones[bandOf(cursor.y, client.height, border)][bandOf(cursor.x, client.width, border)];
 }
 
-Edges keptAboveMinimum(Edges proposed, FrameZone dragged, Size minimum) noexcept
+Edges clampedToMinimum(Edges proposed, FrameZone dragged, Size minimum) noexcept
 {
     const Size smallest = atLeastOne(minimum);
     keepApart(proposed.left, proposed.right, dragsLeft(dragged), smallest.width);
@@ -80,7 +80,7 @@ Rect initialPlacement(Size window, const Rect& workArea) noexcept
             centred(size.height, workArea.y, workArea.height), size.width, size.height};
 }
 
-Rect keptInside(const Rect& window, const Rect& area) noexcept
+Rect movedInside(const Rect& window, const Rect& area) noexcept
 {
     const Size size = atLeastOne(smallerOf(sizeOf(window), sizeOf(area)));
     const auto start = [](std::int32_t wanted, std::int32_t extent, std::int32_t from, std::int32_t room) {

@@ -34,13 +34,13 @@ struct Edges {
 };
 
 // The proposed edges, with the dragged edge moved back where the window would be below its minimum.
-Edges keptAboveMinimum(Edges proposed, FrameZone dragged, Size minimum) noexcept;
+Edges clampedToMinimum(Edges proposed, FrameZone dragged, Size minimum) noexcept;
 
 // A new window's place: no larger than the work area, centred in it, entirely inside it.
 Rect initialPlacement(Size window, const Rect& workArea) noexcept;
 
 // The same rectangle, moved and cut so that it lies inside the area.
-Rect keptInside(const Rect& window, const Rect& area) noexcept;
+Rect movedInside(const Rect& window, const Rect& area) noexcept;
 
 // Where a tooltip of that size stands: below the pointer, above it where there is no room, always inside the
 // area.

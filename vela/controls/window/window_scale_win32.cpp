@@ -45,7 +45,7 @@ LRESULT Window::Native::onDpiChanged(WPARAM wParam, const RECT& suggested)
     Rect place = rescaled(toRect(suggested), scale);
     // What Windows suggests grows with the monitors' DPI, and is right while the window does too.
     if (wasShrunk || scale != monitorDpi_)
-        place = keptInside(place, work);
+        place = movedInside(place, work);
     else
         place = toRect(suggested);
     ::SetWindowPos(state_.handle, nullptr, place.x, place.y, place.width, place.height,
@@ -71,7 +71,7 @@ void Window::Native::refreshMetrics()
     ::GetWindowRect(state_.handle, &outer);
     Rect place = toRect(outer);
     if (scale != state_.dpi)
-        place = keptInside(rescaled(place, scale), work);
+        place = movedInside(rescaled(place, scale), work);
     if (maximised) {
         if (!state_.customFrame)
             return window_.layoutTree();

@@ -37,7 +37,7 @@ Size ScratchBitmap::grownTo(Size wanted) const noexcept
         return stepped;
     const Size both{std::max(stepped.width, bitmap_->size().width),
                     std::max(stepped.height, bitmap_->size().height)};
-    return areaOf(both) <= mostKeptPixels_ ? both : stepped;
+    return areaOf(both) <= mostReusedPixels_ ? both : stepped;
 }
 
 DibSurface* ScratchBitmap::ensure(Size size)
@@ -51,7 +51,7 @@ DibSurface* ScratchBitmap::ensure(Size size)
 
 void ScratchBitmap::release() noexcept
 {
-    if (bitmap_ && areaOf(bitmap_->size()) > mostKeptPixels_)
+    if (bitmap_ && areaOf(bitmap_->size()) > mostReusedPixels_)
         bitmap_.reset();
 }
 

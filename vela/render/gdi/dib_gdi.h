@@ -33,22 +33,22 @@ private:
     Pixel* pixels_ = nullptr;
 };
 
-// A bitmap for passing use, kept from one use to the next unless it is larger than a bound.
+// A bitmap for passing use, used again from one time to the next unless it is larger than a bound.
 class ScratchBitmap {
 public:
-    explicit ScratchBitmap(std::int64_t mostKeptPixels) noexcept : mostKeptPixels_(mostKeptPixels) {}
+    explicit ScratchBitmap(std::int64_t mostReusedPixels) noexcept : mostReusedPixels_(mostReusedPixels) {}
 
     // At least of that size, with whatever its last user left in it; null without memory.
     DibSurface* ensure(Size size);
     // What `ensure` has given last.
     const DibSurface& surface() const noexcept { return *bitmap_; }
-    // Lets go of one that is too large to be kept.
+    // Lets go of one that is too large to be used again.
     void release() noexcept;
 
 private:
     Size grownTo(Size wanted) const noexcept;
 
-    std::int64_t mostKeptPixels_;
+    std::int64_t mostReusedPixels_;
     std::optional<DibSurface> bitmap_;
 };
 

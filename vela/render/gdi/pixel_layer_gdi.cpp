@@ -10,8 +10,8 @@ namespace {
 
 ScratchBitmap& scratch()
 {
-    constexpr std::int64_t kMostKeptPixels = 2560 * 1600; // a full screen
-    static ScratchBitmap bitmap(kMostKeptPixels);
+    constexpr std::int64_t kMostReusedPixels = 2560 * 1600; // a full screen
+    static ScratchBitmap bitmap(kMostReusedPixels);
     return bitmap;
 }
 

@@ -1,4 +1,4 @@
-// Pixel layers on their way to a device context: a scratch bitmap that is kept from layer to layer.
+// Pixel layers on their way to a device context: a scratch bitmap that every layer uses again.
 #pragma once
 
 #include "vela/render/gdi/clip_gdi.h"

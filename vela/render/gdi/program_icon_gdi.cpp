@@ -6,7 +6,7 @@ namespace vela::render {
 
 namespace {
 
-// The last size asked for is kept: windows of one DPI paint one size again and again.
+// The last size asked for is cached: windows of one DPI paint one size again and again.
 HICON iconOf(std::int32_t side)
 {
     static OwnedIcon icon;

@@ -53,7 +53,7 @@ private:
     ComPointer<ID3D11VertexShader> vertexShader_;
     ComPointer<ID3D11PixelShader> pixelShader_;
     ComPointer<ID3D11Buffer> constantBuffer_;
-    bool failed_; // last: the others are what it judges
+    bool failed_; // last: it tells of the others
 };
 
 bool MaterialGpu::createDevice()

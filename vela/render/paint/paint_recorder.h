@@ -1,6 +1,5 @@
-// What controls paint with, where nothing can be painted: every call is noted with all its arguments. Text is
-// measured by a ruler on which every unit is 8 pixels wide and every line 16 high at 96 DPI, and what was
-// recorded is there as long as the recorder lives.
+// What controls paint with, where nothing can be painted: every call is noted with all its arguments, as long
+// as a recorder lives. Text is measured as if every unit were 8 pixels wide and every line 16 high at 96 DPI.
 #pragma once
 
 #include "vela/render/paint/paint.h"

@@ -1,5 +1,5 @@
-// Where the ring around a focused control lies: so much outside of it, with a hair of its ground between the
-// two. It is seen whatever the control's own colours are.
+// Where the ring around a focused control lies: so much outside of it, with a hair of its background between
+// the two. It is seen whatever the control's own colours are.
 #pragma once
 
 #include "vela/geometry.h"
