@@ -45,7 +45,8 @@ vela::Outcome<std::unique_ptr<PackagePin>, std::wstring> preparePackage(SetupEff
     auto pinned = effects.pinPackage(package);
     if (!noteStep(effects, L"pin package", errorOf(pinned)))
         return vela::Failure{packageSentence(PackageFault::NotWritten, package)};
-    return std::move(pinned.value());
+    std::unique_ptr<PackagePin> pin = std::move(pinned.value());
+    return pin;
 }
 
 } // namespace setup

@@ -1,6 +1,6 @@
 #include "vela/controls/widgets/progress_bar.h"
 
-#include "vela/render/bitmaps/bitmap_geometry.h"
+#include "vela/render/bitmaps/surface_insets.h"
 #include "vela/render/paint/paint.h"
 #include "vela/text.h"
 #include "vela/theme/fields/record_scale.h"

@@ -2,7 +2,6 @@
 
 #include "vela/render/pixels/length_limits.h"
 #include "vela/render/shapes/shape.h"
-#include "vela/theme/fields/record_scale.h"
 
 #include <algorithm>
 
@@ -81,17 +80,6 @@ Span layoutColumns(const SurfaceGeometry& geometry, const RunMask& outline, std:
     for (std::int32_t row = band.begin; row < band.end; ++row)
         free = intersect(free, longestRun(outline, row));
     return free.empty() ? Span{} : free;
-}
-
-Insets insetsOf(const SurfaceStyle& style, PartInsets part, std::int32_t dpi) noexcept
-{
-    if (!style.geometry)
-        return {};
-    const SurfaceGeometry& geometry = *style.geometry;
-    Insets insets = limitedInsets(geometry.*part == Insets{} ? geometry.safeInsets : geometry.*part);
-    for (std::int32_t Insets::*const side : {&Insets::left, &Insets::top, &Insets::right, &Insets::bottom})
-        insets.*side = scaledLength(insets.*side, dpi);
-    return insets;
 }
 
 Rect roomOn(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi,

@@ -2,6 +2,7 @@
 // test and the room it leaves for what lies on it.
 #pragma once
 
+#include "vela/render/bitmaps/surface_insets.h"
 #include "vela/render/bitmaps/tinted_bitmap.h"
 #include "vela/render/pixels/insets.h"
 
@@ -30,12 +31,8 @@ bool hitSurface(const SurfaceStyle& style, ShapeKind shape, Size surface, Point 
 // says, or the whole outline when it says nothing), within the layout insets.
 Span layoutColumns(const SurfaceGeometry& geometry, const RunMask& outline, std::int32_t y);
 
-// The insets of one part of what stands on a surface: its own or, where those are all 0, the safe ones.
-using PartInsets = Insets SurfaceGeometry::*;
-Insets insetsOf(const SurfaceStyle& style, PartInsets part, std::int32_t dpi) noexcept;
-
-// What they leave of the surface, in the columns free in the middle of the outline. Without an outline the
-// surface's shape is it, and all columns are free.
+// What a part's insets leave of the surface, in the columns free in the middle of the outline. Without an
+// outline the surface's shape is it, and all columns are free.
 Rect roomOn(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi,
             const RunMask* outline);
 

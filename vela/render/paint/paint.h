@@ -9,7 +9,7 @@
 
 #include "vela/geometry.h"
 #include "vela/platform_handles.h"
-#include "vela/render/bitmaps/bitmap_geometry.h"
+#include "vela/render/bitmaps/surface_insets.h"
 #include "vela/render/shapes/icons.h"
 #include "vela/render/text/text_look.h"
 #include "vela/theme/records/surface_style.h"
@@ -82,7 +82,7 @@ public:
 
 private:
     HDC dc_;
-    int saved_;
+    int saved_ = 0; // what SaveDC told
 };
 
 } // namespace vela

@@ -1,6 +1,7 @@
 #include "vela/render/paint/paint_recorder.h"
 
 #include "vela/mul_div.h"
+#include "vela/render/bitmaps/bitmap_geometry.h"
 #include "vela/render/shapes/shape.h"
 
 #include <cmath>
@@ -128,7 +129,7 @@ Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part
     return roomOn(style, surface, part, dpi, nullptr);
 }
 
-PaintClip::PaintClip(HDC dc, const std::vector<Rect>& rects) : dc_(dc), saved_(0)
+PaintClip::PaintClip(HDC dc, const std::vector<Rect>& rects) : dc_(dc)
 {
     PaintRecorder::note(ClipCall{rects});
 }

@@ -3,12 +3,14 @@
 #pragma once
 
 #include "vela/geometry.h"
-#include "vela/render/pixels/pixel_buffer.h"
+#include "vela/theme/color/color.h"
 #include "vela/theme/records/vocabulary.h"
 
 #include <cstdint>
 
 namespace vela {
+
+struct LayerTarget;
 
 enum class Icon : std::uint8_t {
     Check,

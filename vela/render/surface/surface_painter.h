@@ -4,7 +4,7 @@
 
 #include "vela/geometry.h"
 #include "vela/platform_handles.h"
-#include "vela/render/bitmaps/bitmap_geometry.h"
+#include "vela/render/bitmaps/surface_insets.h"
 #include "vela/theme/records/surface_style.h"
 
 namespace vela {
