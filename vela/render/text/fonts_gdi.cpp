@@ -19,12 +19,14 @@ public:
     {
         if (std::exchange(loaded_, true))
             return;
-        const std::wstring& folder = resourceFolders().fonts;
+        std::wstring folder = resourceFolders().fonts;
         if (folder.empty())
             return;
-        for (const std::wstring& name : fileNamesIn(folder)) {
+        const std::vector<std::wstring> names = fileNamesIn(folder);
+        folder += L'\\';
+        for (const std::wstring& name : names) {
             if (isFontFileName(name))
-                add(folder + L"\\" + name);
+                add(folder + name);
         }
     }
 
