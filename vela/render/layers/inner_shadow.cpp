@@ -242,9 +242,8 @@ InnerShadowReach innerShadowReach(const Coverage& coverage) noexcept
 {
     const Size size = coverage.size();
     const std::int64_t area = std::int64_t{size.width} * size.height;
-    const bool rectangular = coverage.shape() == ShapeKind::Rect || coverage.shape() > ShapeKind::SlantLeft;
     // A bitmap's outline is followed at any size: its layers never leave it.
-    if (coverage.isShape() && (rectangular || area >= kSmallestRectangularArea))
+    if (coverage.isShape() && (isUpright(coverage.shape()) || area >= kSmallestRectangularArea))
         return InnerShadowReach::Rectangle;
     return area > kLargestSearchedArea ? InnerShadowReach::RectangleInside : InnerShadowReach::Outline;
 }

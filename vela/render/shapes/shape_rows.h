@@ -23,6 +23,12 @@ constexpr Span intersect(Span left, Span right) noexcept
     return {std::max(left.begin, right.begin), std::min(left.end, right.end)};
 }
 
+// Kinds whose every row is whole: the rectangle, and kinds that nobody knows.
+constexpr bool isUpright(ShapeKind kind) noexcept
+{
+    return kind == ShapeKind::Rect || kind > ShapeKind::SlantLeft;
+}
+
 // Exactly the x for which pointInShape(kind, size.width, size.height, {x, y}) holds.
 Span shapeRow(ShapeKind kind, Size size, std::int32_t y) noexcept;
 

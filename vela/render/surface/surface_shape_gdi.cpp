@@ -2,6 +2,7 @@
 
 #include "vela/render/bitmaps/surface_bitmaps.h"
 #include "vela/render/bitmaps/surface_outline.h"
+#include "vela/render/gdi/clip_gdi.h"
 #include "vela/render/gdi/owned_gdi.h"
 #include "vela/render/shapes/shape.h"
 #include "vela/render/shapes/shape_rects.h"
@@ -35,6 +36,14 @@ private:
     SelectedObject brush_;
     COLORREF oldColor_;
 };
+
+// The part of the rectangle that can be seen, seen from its corner.
+Rect visibleFrom(HDC dc, const Rect& rect) noexcept
+{
+    const Rect visible = visiblePart(dc, rect);
+    return isEmpty(visible) ? Rect{}
+                            : Rect{visible.x - rect.x, visible.y - rect.y, visible.width, visible.height};
+}
 
 HRGN polygonRegion(ShapeKind kind, Size size)
 {
@@ -71,12 +80,13 @@ HRGN runRegion(const RunMask& outline)
 
 void render::fillShape(HDC dc, const Rect& rect, ShapeKind kind, Color color)
 {
-    visitFill(kind, sizeOf(rect), SolidFiller(dc, {rect.x, rect.y}, color));
+    visitFill(kind, sizeOf(rect), visibleFrom(dc, rect), SolidFiller(dc, {rect.x, rect.y}, color));
 }
 
 void render::strokeShapeOutline(HDC dc, const Rect& rect, ShapeKind kind, Color color, std::int32_t penWidth)
 {
-    visitStroke(kind, sizeOf(rect), penWidth, SolidFiller(dc, {rect.x, rect.y}, color));
+    visitStroke(kind, sizeOf(rect), penWidth, visibleFrom(dc, rect),
+                SolidFiller(dc, {rect.x, rect.y}, color));
 }
 
 HRGN createShapeRegion(const SurfaceStyle& style, Size size)
