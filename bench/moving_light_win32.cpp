@@ -4,7 +4,7 @@
 #include "app/dialogs/choice_dialog.h"
 #include "app/dialogs/toolkit_texts.h"
 
-#include "vela/render/materials/material_overlay_gdi.h"
+#include "vela/render/materials/material_source_gdi.h"
 #include "vela/resource_folders.h"
 #include "vela/theme/skins/style_sections.h"
 #include "vela/theme/skins/system_skins.h"
@@ -49,11 +49,11 @@ void report(const char* name, DWORD seconds)
     constexpr DWORD kSettling = 3000;
     pumpFor(kSettling);
     const double before = processSeconds();
-    const std::size_t rendered = vela::materialOverlays().rendered();
+    const std::size_t rendered = vela::movingOverlaysRendered();
     pumpFor(seconds * 1000);
     std::printf("%-8s %6.2f %% of a core, %4.1f overlays a second\n", name,
                 (processSeconds() - before) / seconds * 100,
-                static_cast<double>(vela::materialOverlays().rendered() - rendered) / seconds);
+                static_cast<double>(vela::movingOverlaysRendered() - rendered) / seconds);
 }
 
 void setAnimations(BOOL on)

@@ -4,6 +4,7 @@
 #include "vela/render/materials/material_constants.h"
 #include "vela/render/materials/material_overlay.h"
 #include "vela/render/pixels/bounded_cache.h"
+#include "vela/render/surface/face_picture.h"
 
 #include <array>
 #include <vector>
@@ -25,44 +26,21 @@ using Pixels = std::vector<Pixel>;
 
 PixelView viewOf(Pixels& pixels, Size size) { return {pixels.data(), size, size.width}; }
 
-Pixel over(Pixel top, Pixel bottom) noexcept
-{
-    Pixel result = 0;
-    for (int shift = 0; shift < 32; shift += 8) {
-        const unsigned below = (bottom >> shift & 0xFF) * (255 - alphaOf(top));
-        result |= std::min((top >> shift & 0xFF) + (below + 127) / 255, 255U) << shift;
-    }
-    return result;
-}
-
-void layOver(Pixels& picture, Pixels& layer)
-{
-    for (std::size_t i = 0; i < picture.size(); ++i)
-        picture[i] = over(layer[i], picture[i]);
-}
-
-// As the painter stacks the layers. Borders and outlines lie outside the text's area, and so do the corners
-// of whatever shape the surface has.
+// As the painter composes a face. Borders and outlines lie outside the text's area, and so do the corners of
+// whatever shape the surface has.
 Pixels rendered(SurfaceStyle style, Size size, Color backdrop)
 {
     style.shape = ShapeKind::Rect;
-    style.showGlow = style.showShadow = false;
+    style.drawBorder = style.showOutline = false;
     const Rect rect{0, 0, size.width, size.height};
-    const Coverage coverage(style.shape, size);
     Pixels picture(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height),
                    premultiplied(backdrop, 255));
-    Pixels layer(picture.size());
-    const LayerTarget target{viewOf(layer, size), {0, 0}};
-    for (const PaintStep& step : paintPlan(style, rect, std::nullopt)) {
-        std::fill(layer.begin(), layer.end(), 0);
-        if (step.layer == SurfaceLayer::Fill)
-            std::fill(layer.begin(), layer.end(), premultiplied(step.color, 255));
-        else if (step.layer == SurfaceLayer::Material)
-            renderMaterialOverlay(materialConstants(style, rect, 0, PerformanceProfile::Full), target);
-        else if (isPixelLayer(step.layer))
-            fillLayer(target, coverage, step, style, {0, 0});
-        layOver(picture, layer);
-    }
+    const FaceSource source{style, {}, Coverage(style.shape, size), nullptr, [&](const LayerTarget& target) {
+                                renderMaterialOverlay(
+                                    materialConstants(style, rect, 0, PerformanceProfile::Full), target);
+                            }};
+    const PaintPlan plan = paintPlan(style, rect, std::nullopt);
+    composeFace({viewOf(picture, size), {}}, plan.face(), source, Beneath::Picture);
     return picture;
 }
 

@@ -2,7 +2,7 @@
 
 #include "vela/render/gdi/clip_gdi.h"
 #include "vela/render/paint/paint.h"
-#include "vela/render/surface/control_painter.h"
+#include "vela/render/surface/mark_painter.h"
 #include "vela/render/text/text.h"
 
 #include <utility>

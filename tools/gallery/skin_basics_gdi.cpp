@@ -49,7 +49,7 @@ void SkinPage::surface(const Rect& rect, const SurfaceStyle& style) const
 
 void SkinPage::badge(const Rect& rect, const SurfaceStyle& style) const
 {
-    vela::paintControlFace(sheet.dc(), rect, style);
+    vela::paintControlSurface(sheet.dc(), rect, style);
 }
 
 void SkinPage::text(const Rect& rect, std::wstring_view line, const vela::FontSpec& font,

@@ -36,7 +36,8 @@ SurfaceStyle styleWith(const wchar_t* path)
 TEST(BitmapCacheTest, DecodesEachPictureOnceForEachTint)
 {
     files() = {{L"skin\\a.png", {4, 2}}};
-    BitmapCache cache(decodeFake);
+    PictureStore store({1 << 20, 100});
+    BitmapCache cache(store, decodeFake);
     EXPECT_EQ(cache.find(styleWith(L"a.png")).skin, nullptr); // no folder yet
     EXPECT_EQ(cache.decoded(), 0u);
     cache.setFolder(L"skin");
@@ -66,7 +67,8 @@ TEST(BitmapCacheTest, DecodesEachPictureOnceForEachTint)
 TEST(BitmapCacheTest, LoadsTheMaskOnlyForTheModeThatNeedsIt)
 {
     files() = {{L"skin\\a.png", {4, 2}}, {L"skin\\m.png", {4, 2}}};
-    BitmapCache cache(decodeFake);
+    PictureStore store({1 << 20, 100});
+    BitmapCache cache(store, decodeFake);
     cache.setFolder(L"skin");
     SurfaceStyle style = styleWith(L"a.png");
     style.geometry.ensure().maskPath = L"m.png";
@@ -75,26 +77,11 @@ TEST(BitmapCacheTest, LoadsTheMaskOnlyForTheModeThatNeedsIt)
     EXPECT_NE(cache.find(style).mask, nullptr);
 }
 
-TEST(BitmapCacheTest, ForgetsThePictureUnusedLongestWhenRoomRunsOut)
-{
-    files() = {{L"s\\a.png", {6000, 4000}}, {L"s\\b.png", {6000, 4000}}, {L"s\\c.png", {6000, 4000}}};
-    BitmapCache cache(decodeFake); // 24 million pixels each: two fit
-    cache.setFolder(L"s");
-    cache.find(styleWith(L"a.png"));
-    cache.find(styleWith(L"b.png"));
-    cache.find(styleWith(L"a.png"));
-    cache.find(styleWith(L"c.png")); // b goes
-    EXPECT_EQ(cache.decoded(), 3u);
-    cache.find(styleWith(L"a.png"));
-    EXPECT_EQ(cache.decoded(), 3u);
-    cache.find(styleWith(L"b.png"));
-    EXPECT_EQ(cache.decoded(), 4u);
-}
-
 TEST(BitmapCacheTest, KeepsAnOutlineFromPaintToPaint)
 {
     files() = {{L"s\\a.png", {4, 2}}};
-    BitmapCache cache(decodeFake);
+    PictureStore store({1 << 20, 100});
+    BitmapCache cache(store, decodeFake);
     cache.setFolder(L"s");
     SurfaceStyle style = styleWith(L"a.png");
     const LoadedBitmaps bitmaps = cache.find(style);

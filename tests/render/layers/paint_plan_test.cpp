@@ -13,7 +13,6 @@ SurfaceStyle styleWithoutLayers()
 {
     SurfaceStyle style;
     style.drawFill = style.drawBorder = false;
-    style.materialDepth = 0;
     return style;
 }
 
@@ -46,7 +45,39 @@ TEST(PaintPlan, ListsTheLayersInPaintingOrder)
     style.useGradient = false;
     EXPECT_EQ(layersOf(paintPlan(style, kButton, {})), (Layers{Glow, Glow, Shadow, Fill, Border, Material,
                                                                SpatialShading, InnerShadow, Noise, Outline}));
+    // Only a face has something for light to fall on, whatever the depth.
     EXPECT_EQ(paintPlan(styleWithoutLayers(), kButton, {}).size(), 0U);
+    style = styleWithoutLayers();
+    style.useNoise = style.drawBorder = true;
+    EXPECT_EQ(layersOf(paintPlan(style, kButton, {})), (Layers{Border, Noise}));
+    EXPECT_EQ(layersOf(paintPlan(style, kButton, {}, BitmapCover::Partial)),
+              (Layers{Bitmap, Border, SpatialShading, Noise}));
+}
+
+// The same layers, and one step more.
+TEST(PaintPlan, CutsAFaceToItsAntialiasedOutline)
+{
+    SurfaceStyle style = styleWithEveryLayer();
+    const PaintPlan exact = paintPlan(style, kButton, {});
+    const PaintPlan cut = paintPlan(style, kButton, {}, BitmapCover::None, SurfaceEdge::Antialiased);
+    ASSERT_EQ(cut.size(), exact.size() + 1);
+    EXPECT_TRUE(std::equal(exact.begin(), exact.end(), cut.begin()));
+    EXPECT_EQ(cut.face().back().layer, SurfaceLayer::Cut);
+    EXPECT_EQ(cut.halo().size(), 3U);
+    EXPECT_EQ(cut.face().front().layer, SurfaceLayer::Gradient);
+    EXPECT_TRUE(cut.isOpaque());
+    style.opacity = 254;
+    EXPECT_FALSE(paintPlan(style, kButton, {}).isOpaque());
+    // A rectangle has nothing to cut, nor has a surface that is all halo.
+    const auto hasCut = [](const SurfaceStyle& wanted) {
+        const PaintPlan plan = paintPlan(wanted, kButton, {}, BitmapCover::None, SurfaceEdge::Antialiased);
+        return !plan.face().empty() && plan.face().back().layer == SurfaceLayer::Cut;
+    };
+    style.shape = ShapeKind::Rect;
+    EXPECT_FALSE(hasCut(style));
+    SurfaceStyle halo = styleWithoutLayers();
+    halo.showGlow = true;
+    EXPECT_FALSE(hasCut(halo));
 }
 
 TEST(PaintPlan, PutsGradientAndFillUnderABitmapThatShowsThem)
@@ -54,6 +85,7 @@ TEST(PaintPlan, PutsGradientAndFillUnderABitmapThatShowsThem)
     using enum SurfaceLayer;
     using Layers = std::vector<SurfaceLayer>;
     SurfaceStyle style = styleWithoutLayers();
+    style.materialDepth = 0;
     style.useGradient = true;
     EXPECT_EQ(layersOf(paintPlan(style, kButton, {}, BitmapCover::Partial)), (Layers{Gradient, Bitmap}));
     EXPECT_EQ(layersOf(paintPlan(style, kButton, {}, BitmapCover::Full)), (Layers{Bitmap}));
@@ -146,11 +178,11 @@ TEST(PaintPlan, CarriesWhatEachLayerNeeds)
     EXPECT_EQ((plan.end() - 1)->color, style.outline);
 }
 
-TEST(PaintPlan, EveryPixelLayerFillsItsTargetAndOthersAreThePaintersOwn)
+TEST(PaintPlan, EveryLayerOfTheStyleAloneFillsItsTarget)
 {
     const SurfaceStyle style = styleWithEveryLayer();
     for (const PaintStep& step : paintPlan(style, kButton, {})) {
-        if (!isPixelLayer(step.layer))
+        if (step.layer == SurfaceLayer::Material)
             continue;
         const Size size = sizeOf(step.rect);
         const Picture picture = drawLayer({0, 0, size.width, size.height}, [&](const LayerTarget& target) {
@@ -161,8 +193,6 @@ TEST(PaintPlan, EveryPixelLayerFillsItsTargetAndOthersAreThePaintersOwn)
         EXPECT_TRUE(
             std::any_of(picture.pixels.begin(), picture.pixels.end(), [](Pixel p) { return p != 0; }));
     }
-    EXPECT_FALSE(isPixelLayer(SurfaceLayer::Fill));
-    EXPECT_FALSE(isPixelLayer(SurfaceLayer::Material));
 }
 
 } // namespace

@@ -1,7 +1,10 @@
 #include "vela/render/materials/material_overlay_gdi.h"
 
 #include "tests/support/canvas_gdi.h"
+#include "vela/render/gdi/paint_context.h"
+#include "vela/render/materials/material_source_gdi.h"
 #include "vela/render/paint/paint.h"
+#include "vela/render/pixels/picture_store.h"
 #include "vela/render/shapes/shape.h"
 #include "vela/render/surface/surface_painter.h"
 
@@ -44,27 +47,26 @@ TEST(MaterialOverlayPaintTest, CoversTheShapeAndNothingElse)
         }
 }
 
-TEST(MaterialOverlayPaintTest, IsRenderedOnceForAnUnchangedSurface)
+TEST(MaterialOverlayPaintTest, AMovingLightIsRenderedOncePerStepIntoOnePlace)
 {
     SurfaceStyle style = bareStyle();
-    style.noiseSeed = 77; // no other test paints it
+    style.material = MaterialPreset::LuminousGlass;
+    style.animationSpeed = 600;
     Canvas canvas({90, 40}, kBackground);
-    const std::size_t before = materialOverlays().rendered();
-    paintSurface(canvas.dc(), kPlace, style);
-    const std::vector<Pixel> first = canvas.pixels();
-    canvas.clear(kBackground);
-    paintSurface(canvas.dc(), kPlace, style);
-    EXPECT_EQ(canvas.pixels(), first);
-    EXPECT_EQ(materialOverlays().rendered(), before + 1);
-    // Nor for its like at another place.
-    paintSurface(canvas.dc(), {0, 0, kPlace.width, kPlace.height}, style);
-    EXPECT_EQ(materialOverlays().rendered(), before + 1);
+    const std::size_t rendered = movingOverlaysRendered();
+    std::size_t made = 0;
+    for (const std::uint64_t time : {100U, 100U, 300U, 300U, 100U}) {
+        const PaintContextBinding context(canvas.dc(), {.time = time});
+        paintSurface(canvas.dc(), kPlace, style);
+        made = std::max(made, pictureStore().made());
+    }
+    EXPECT_EQ(movingOverlaysRendered(), rendered + 3);
+    EXPECT_EQ(pictureStore().made(), made);
 }
 
 TEST(MaterialOverlayPaintTest, CostsNothingWhereNoMaterialIsAskedFor)
 {
-    const std::size_t rendered = materialOverlays().rendered();
-    const std::size_t cached = materialOverlays().size();
+    const std::size_t made = pictureStore().made();
     Canvas canvas({90, 40}, kBackground);
     const std::vector<Pixel> before = canvas.pixels();
     const auto expectNothing = [&](const SurfaceStyle& style) {
@@ -85,8 +87,7 @@ TEST(MaterialOverlayPaintTest, CostsNothingWhereNoMaterialIsAskedFor)
     // Nor outside of the clip.
     style = bareStyle();
     drawMaterialOverlay(canvas.dc(), {200, 200, 80, 30}, style);
-    EXPECT_EQ(materialOverlays().rendered(), rendered);
-    EXPECT_EQ(materialOverlays().size(), cached);
+    EXPECT_EQ(pictureStore().made(), made);
 }
 
 TEST(MaterialOverlayPaintTest, SeamlessTexturesJoinAcrossNeighbours)
@@ -119,9 +120,11 @@ TEST(MaterialOverlayPaintTest, ShowsASurfaceTooLargeToBeCached)
     style.shape = ShapeKind::Diamond;
     Canvas canvas({90, 40}, kBackground);
     const Pixel background = canvas.at(0, 0);
-    const std::size_t rendered = materialOverlays().rendered();
+    const std::size_t made = pictureStore().made();
     drawMaterialOverlay(canvas.dc(), {-20'000, -10, 40'000, 30'000}, style); // its tip is in the picture
-    EXPECT_EQ(materialOverlays().rendered(), rendered);
+    for (int time = 0; time < 3; ++time)
+        paintSurface(canvas.dc(), {-20'000, -10, 40'000, 30'000}, style);
+    EXPECT_EQ(pictureStore().made(), made);
     EXPECT_NE(canvas.at(5, 5), background);
     EXPECT_EQ(canvas.at(60, 5), background);
 }

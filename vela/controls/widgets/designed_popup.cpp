@@ -265,7 +265,7 @@ void DesignedPopup::paintBackground(HDC dc, const Rect& box) const
 void DesignedPopup::paintHeaderIcon(HDC dc, Point at) const
 {
     const Rect icon = movedBy(iconRect(), at);
-    paintControlFace(dc, icon, style_.icon);
+    paintControlSurface(dc, icon, style_.icon);
     const auto* const row = std::find_if(std::begin(kNamedIcons), std::end(kNamedIcons),
                                          [this](const auto& known) { return known.text == iconText_; });
     const std::int32_t side = icon.width * 9 / 16;

@@ -64,7 +64,7 @@ void TooltipView::paint(HDC dc, Point origin)
     }
     if (style_.showIcon) {
         const Rect icon{x, room.y + style_.paddingY, style_.iconSize, style_.iconSize};
-        paintControlFace(dc, icon, style_.icon);
+        paintControlSurface(dc, icon, style_.icon);
         const std::int32_t side = style_.iconSize / 2;
         paintIcon(dc, Icon::Info,
                   {icon.x + (icon.width - side) / 2, icon.y + (icon.height - side) / 2, side, side}, dpi(),

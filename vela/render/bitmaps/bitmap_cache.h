@@ -4,7 +4,7 @@
 
 #include "vela/render/bitmaps/bitmap_geometry.h"
 #include "vela/render/bitmaps/tinted_bitmap.h"
-#include "vela/render/pixels/bounded_cache.h"
+#include "vela/render/pixels/picture_store.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -27,7 +27,8 @@ public:
     // Reads a picture file; an empty image when it is missing, damaged or too large.
     using Decode = BitmapImage (*)(const std::wstring& file);
 
-    explicit BitmapCache(Decode decode, std::wstring folder = {});
+    // Pictures are in the store, which outlives the cache.
+    BitmapCache(PictureStore& store, Decode decode, std::wstring folder = {});
 
     // Where the paths of styles lead: the folder of the current skin's document. Forgets all bitmaps.
     void setFolder(std::wstring folder);
@@ -40,22 +41,37 @@ public:
 
 private:
     enum class Use : std::uint8_t { Skin, Mask };
-    struct Key {
+    struct Pictures;
+    struct View {
         Use use;
-        BitmapSkin skin;
-        friend bool operator==(const Key&, const Key&) = default;
+        std::size_t folder; // tells those of other folders and caches apart
+        const std::wstring& path;
+        const BitmapTint& tint;
+        std::size_t hash() const noexcept;
     };
-    using Picture = std::shared_ptr<const TintedBitmap>; // null: there is none, or it cannot be read
-    struct Weight {
-        std::size_t operator()(const Picture& picture) const noexcept;
+    struct Key {
+        explicit Key(const View& view) : use(view.use), folder(view.folder), path(view.path), tint(view.tint)
+        {
+        }
+        friend bool operator==(const View& view, const Key& key)
+        {
+            return view.use == key.use && view.folder == key.folder && view.path == key.path &&
+                   view.tint == key.tint;
+        }
+        Use use;
+        std::size_t folder;
+        std::wstring path;
+        BitmapTint tint;
     };
+    using Bitmap = std::shared_ptr<const TintedBitmap>; // null: there is none, or it cannot be read
 
-    Picture find(const Key& key);
-    Picture load(const Key& key);
+    Bitmap find(Use use, const std::wstring& path, const BitmapTint& tint);
+    Bitmap load(const View& view);
 
+    PictureStore& store_;
     Decode decode_;
     std::wstring folder_;
-    BoundedCache<Key, Picture, Weight> pictures_;
+    std::size_t folderNumber_;
     std::size_t decoded_ = 0;
 };
 

@@ -10,7 +10,7 @@ namespace {
 
 BitmapCache& cache()
 {
-    static BitmapCache bitmaps(decodeImage, resourceFolders().bitmaps);
+    static BitmapCache bitmaps(pictureStore(), decodeImage, resourceFolders().bitmaps);
     return bitmaps;
 }
 

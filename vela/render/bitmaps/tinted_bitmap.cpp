@@ -5,6 +5,7 @@
 #include "vela/render/pixels/length_limits.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace vela {
 namespace {
@@ -179,6 +180,13 @@ TintedBitmap TintedBitmap::fromMask(const BitmapImage& image)
     stencil.mode = TintMode::Monochrome;
     stencil.maskChannel = isOpaque(image) ? MaskChannel::Brightness : MaskChannel::Alpha;
     return {image, stencil};
+}
+
+std::size_t TintedBitmap::weight() const noexcept
+{
+    return std::accumulate(
+        levels_.begin(), levels_.end(), std::size_t{0},
+        [](std::size_t sum, const BitmapImage& level) { return sum + level.pixels.size(); });
 }
 
 const BitmapImage& TintedBitmap::levelFor(Size painted) const noexcept

@@ -22,6 +22,9 @@ public:
     BitmapCover cover() const noexcept { return cover_; }
     Size size() const noexcept { return levels_.front().size; }
 
+    // Pixels in memory, the halved levels' included.
+    std::size_t weight() const noexcept;
+
     // The picture itself, and halved again and again: strong reductions start from the level closest above.
     const BitmapImage& levelFor(Size painted) const noexcept;
     const BitmapImage& original() const noexcept { return levels_.front(); }

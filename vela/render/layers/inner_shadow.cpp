@@ -215,17 +215,22 @@ void ShadowPainter::byOutline(const Coverage& coverage)
 {
     const auto limit = static_cast<std::uint8_t>(std::clamp(std::min(shadowSize_, 32) + 2, 3, 34));
     const Rect visible = target_.visible();
-    const DistanceTransform distance(coverage, {visible.y, visible.y + visible.height}, limit);
+    const Coverage outline = coverage.isCut() ? coverage : Coverage(coverage.shape(), size_);
+    const DistanceTransform distance(outline, {visible.y, visible.y + visible.height}, limit);
     const FalloffBySteps falloff(shadowSize_, limit + 1);
     paintCovered(target_, coverage, [&](Pixel* first, Span run, std::int32_t y) {
         const std::uint8_t* const straight = distance.straight(y);
         const std::uint8_t* const diagonal = distance.diagonal(y);
         const std::int32_t last = run.end - 1;
+        const Span inside = coverage.isCut() ? run : shapeRow(coverage.shape(), size_, y);
         position_.enterRow(y);
         simd::writeInFours(first, run.begin, run.end, [&](std::int32_t x) {
             const auto at = [&](std::int32_t lane) -> const Falloff& {
                 const std::int32_t column = std::min(x + lane, last);
-                return falloff.at(straight[column], diagonal[column]);
+                // What lies beyond the outline is as dark as the outline itself.
+                return column < inside.begin || column >= inside.end
+                           ? falloff.at(0, 0)
+                           : falloff.at(straight[column], diagonal[column]);
             };
             const Falloffs four = gathered(at(0), at(1), at(2), at(3));
             // Most pixels of a surface lie deeper than the shadow.

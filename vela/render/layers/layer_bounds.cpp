@@ -1,29 +1,69 @@
 #include "vela/render/layers/layer_bounds.h"
 
 #include "vela/render/layers/inner_shadow.h"
+#include "vela/render/pixels/length_limits.h"
+#include "vela/render/shapes/shape.h"
+#include "vela/render/shapes/shape_rects.h"
 
 #include <algorithm>
 
 namespace vela {
+namespace {
+
+// The rectangle without a hollow in it.
+LayerBounds frameAround(const Rect& rect, const Rect& hollow)
+{
+    LayerBounds bounds;
+    if (const Rect hole = intersection(rect, hollow); !isEmpty(hole))
+        visitFrame(rect, hole, [&bounds](const Rect& side) { bounds.add(side); });
+    else
+        bounds.add(rect);
+    return bounds;
+}
+
+// A large rectangle of the shape's pixels: shapes are convex, so what two rows have in common all rows
+// between them have.
+Rect coveredBox(ShapeKind kind, Size size)
+{
+    std::int32_t top =
+        std::max(cornerDiameter(kind, size.width, size.height) / 2, cornerCut(kind, size.width, size.height));
+    if (top == 0 && !isUpright(kind))
+        top = size.height / 4;
+    top = std::min(top, (size.height - 1) / 2);
+    const std::int32_t bottom = size.height - 1 - top;
+    const Span columns = intersect(shapeRow(kind, size, top), shapeRow(kind, size, bottom));
+    return {columns.begin, top, columns.length(), bottom + 1 - top};
+}
+
+// How far an antialiased outline may lie from the mask's, in whole pixels.
+constexpr std::int32_t kEdge = 2;
+
+} // namespace
 
 LayerBounds layerBounds(const PaintStep& step, const Coverage& coverage, const SurfaceStyle& style)
 {
     const Size size = coverage.size();
-    LayerBounds bounds;
-    // A shadow that follows a slanted outline may lie anywhere, but then the surface is small.
-    if (step.layer != SurfaceLayer::InnerShadow || innerShadowReach(coverage) == InnerShadowReach::Outline) {
-        bounds.add({0, 0, size.width, size.height});
-        return bounds;
-    }
-    // Pixels at least the shadow's size away from every edge are free.
-    const std::int32_t deepest = (std::min(size.width, size.height) + 1) / 2;
-    const std::int32_t depth = std::clamp(style.innerShadowSize, 0, deepest);
-    const std::int32_t between = std::max(size.height - 2 * depth, 0);
-    bounds.add({0, 0, size.width, depth});
-    bounds.add({0, depth, std::min(depth, size.width), between});
-    bounds.add({size.width - depth, depth, std::min(depth, size.width - depth), between});
-    bounds.add({0, depth + between, size.width, size.height - depth - between});
-    return bounds;
+    const Rect whole{0, 0, size.width, size.height};
+    if (step.layer == SurfaceLayer::Border || step.layer == SurfaceLayer::Outline)
+        return frameAround(
+            whole, grownBy(coveredBox(coverage.shape(), size), -(limitedLength(step.penWidth) + kEdge)));
+    // A shadow that follows a slanted outline may lie anywhere, but then the surface is small. Others leave
+    // pixels free that are at least the shadow's size away from every edge.
+    if (step.layer == SurfaceLayer::InnerShadow && innerShadowReach(coverage) != InnerShadowReach::Outline)
+        return frameAround(whole, grownBy(whole, -std::max(limitedLength(style.innerShadowSize), 0)));
+    return frameAround(whole, {});
+}
+
+LayerBounds haloBounds(const PaintStep& step, const Rect& face, ShapeKind shape, bool isOpaque)
+{
+    // In four pieces a small layer takes longer than whole.
+    constexpr std::int64_t kWorthSparing = 16'384;
+    const Rect whole{0, 0, step.rect.width, step.rect.height};
+    const Rect box = coveredBox(shape, sizeOf(face));
+    const Rect hidden = grownBy(movedBy(box, {face.x - step.rect.x, face.y - step.rect.y}), -kEdge);
+    const bool spares =
+        isOpaque && !isEmpty(hidden) && std::int64_t{hidden.width} * hidden.height >= kWorthSparing;
+    return frameAround(whole, spares ? hidden : Rect{});
 }
 
 } // namespace vela

@@ -24,7 +24,12 @@ private:
     std::size_t count_ = 0;
 };
 
-// Disjoint, in the layer's own coordinates. An inner shadow on a large surface is a frame along its edges.
+// Disjoint, in the layer's own coordinates. Strokes and an inner shadow on a large surface are frames along
+// its edges.
 LayerBounds layerBounds(const PaintStep& step, const Coverage& coverage, const SurfaceStyle& style);
+
+// The same for a layer of the halo around a face of that shape in the rectangle: what an opaque face hides of
+// it needs no painting.
+LayerBounds haloBounds(const PaintStep& step, const Rect& face, ShapeKind shape, bool isOpaque);
 
 } // namespace vela

@@ -37,10 +37,12 @@ public:
     void addShadow();
     void addBase(BitmapCover bitmap);
     void addLight();
+    void addCut(SurfaceEdge edge);
     void addStrokes(SurfaceLayer layer, Color color, std::int32_t penWidth)
     {
         add({layer, rect_, color, 255, penWidth});
     }
+    void endHalo() { plan_.endHalo(); }
     PaintPlan take() const { return plan_; }
 
 private:
@@ -48,6 +50,7 @@ private:
     Rect rect_;
     std::optional<Rect> clip_;
     PaintPlan plan_;
+    bool hasBody_ = false; // something for light to fall on
 };
 
 // Rings from the outermost inwards. They lie on each other, so the halo is strongest near the surface.
@@ -76,14 +79,18 @@ void Planner::addShadow()
 // Gradient or fill lie under the bitmap, where its transparent parts show them; over it they would hide it.
 void Planner::addBase(BitmapCover bitmap)
 {
+    const bool hasGradient = style_.useGradient && style_.opacity > 0;
+    const bool hasFill = !style_.useGradient && style_.drawFill;
     if (bitmap != BitmapCover::Full) {
-        if (style_.useGradient && style_.opacity > 0)
+        if (hasGradient)
             add(SurfaceLayer::Gradient);
-        else if (!style_.useGradient && style_.drawFill)
+        else if (hasFill)
             add({SurfaceLayer::Fill, rect_, style_.fill});
     }
     if (bitmap != BitmapCover::None)
         add(SurfaceLayer::Bitmap);
+    plan_.setOpaque(bitmap == BitmapCover::Full || hasFill || (hasGradient && style_.opacity == 255));
+    hasBody_ = bitmap != BitmapCover::None || hasGradient || hasFill || carriesMaterial(style_);
 }
 
 void Planner::addLight()
@@ -91,7 +98,7 @@ void Planner::addLight()
     // The material is one step, painted on the graphics card or in software, always at this place.
     if (carriesMaterial(style_))
         add(SurfaceLayer::Material);
-    if (castsSpatialShading(style_))
+    if (hasBody_ && castsSpatialShading(style_))
         add(SurfaceLayer::SpatialShading);
     if (style_.showInnerShadow && style_.innerShadow > 0 && style_.innerShadowSize > 0)
         add(SurfaceLayer::InnerShadow);
@@ -99,49 +106,51 @@ void Planner::addLight()
         add(SurfaceLayer::Noise);
 }
 
+void Planner::addCut(SurfaceEdge edge)
+{
+    // A line has no outline to follow.
+    const bool isLine = rect_.width < 2 || rect_.height < 2;
+    if (edge == SurfaceEdge::Antialiased && !isUpright(style_.shape) && !isLine && !plan_.face().empty())
+        add(SurfaceLayer::Cut);
+}
+
 } // namespace
 
 PaintPlan paintPlan(const SurfaceStyle& style, const Rect& rect, const std::optional<Rect>& clip,
-                    BitmapCover bitmap)
+                    BitmapCover bitmap, SurfaceEdge edge)
 {
     Planner planner(style, rect, clip);
     if (!planner.isVisible(rect))
         return {};
     planner.addGlow();
     planner.addShadow();
+    planner.endHalo();
     planner.addBase(bitmap);
     if (style.drawBorder)
         planner.addStrokes(SurfaceLayer::Border, style.border, 1);
     planner.addLight();
     if (style.showOutline && style.outlineWidth > 0)
         planner.addStrokes(SurfaceLayer::Outline, style.outline, style.outlineWidth);
+    planner.addCut(edge);
     return planner.take();
-}
-
-bool isPixelLayer(SurfaceLayer layer) noexcept
-{
-    switch (layer) {
-    case SurfaceLayer::Glow:
-    case SurfaceLayer::Shadow:
-    case SurfaceLayer::Gradient:
-    case SurfaceLayer::SpatialShading:
-    case SurfaceLayer::InnerShadow:
-    case SurfaceLayer::Noise: return true;
-    default: return false;
-    }
 }
 
 void fillLayer(const LayerTarget& target, const Coverage& coverage, const PaintStep& step,
                const SurfaceStyle& style, Point surfaceOrigin)
 {
     switch (step.layer) {
+    case SurfaceLayer::Fill:
     case SurfaceLayer::Glow:
     case SurfaceLayer::Shadow: return fillSolid(target, coverage, step.color, step.alpha);
     case SurfaceLayer::Gradient: return fillGradient(target, coverage, style);
     case SurfaceLayer::SpatialShading: return fillSpatialShading(target, coverage, style);
     case SurfaceLayer::InnerShadow: return fillInnerShadow(target, coverage, style);
     case SurfaceLayer::Noise: return fillNoise(target, coverage, style, surfaceOrigin);
-    default: return; // drawn by the painter itself
+    case SurfaceLayer::Border:
+    case SurfaceLayer::Outline: return fillStroke(target, coverage, step.color, step.penWidth);
+    case SurfaceLayer::Bitmap:
+    case SurfaceLayer::Material:
+    case SurfaceLayer::Cut: return; // not made of the style alone
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <cstring>
 #include <iterator>
+#include <memory>
 #include <type_traits>
 
 #include <d3d11.h>
@@ -31,14 +32,15 @@ public:
     {
         // Never destroyed: drivers take it amiss when their threads are called after the process began to
         // end.
-        static MaterialGpu& gpu = *new MaterialGpu;
-        return gpu.failed_ ? nullptr : &gpu;
+        static MaterialGpu* const gpu = make();
+        return gpu;
     }
 
     bool render(const MaterialConstants& constants, const PixelView& pixels);
 
 private:
-    MaterialGpu() : failed_(!createDevice() || !createShaders() || !createConstantBuffer()) {}
+    MaterialGpu() = default;
+    static MaterialGpu* make();
     bool createDevice();
     bool createShaders();
     bool createConstantBuffer();
@@ -53,8 +55,15 @@ private:
     ComPointer<ID3D11VertexShader> vertexShader_;
     ComPointer<ID3D11PixelShader> pixelShader_;
     ComPointer<ID3D11Buffer> constantBuffer_;
-    bool failed_; // last: it tells of the others
 };
+
+// Without all of its parts there is none, and nothing of it stays allocated.
+MaterialGpu* MaterialGpu::make()
+{
+    auto gpu = std::unique_ptr<MaterialGpu>(new MaterialGpu);
+    return gpu->createDevice() && gpu->createShaders() && gpu->createConstantBuffer() ? gpu.release()
+                                                                                      : nullptr;
+}
 
 bool MaterialGpu::createDevice()
 {
@@ -169,6 +178,8 @@ bool MaterialGpu::render(const MaterialConstants& constants, const PixelView& pi
 
 } // namespace
 
+bool hasMaterialGpu() { return MaterialGpu::instance() != nullptr; }
+
 bool renderMaterialOnGpu(const MaterialConstants& constants, const PixelView& target)
 {
     if (isEmpty(target.size))
@@ -179,13 +190,13 @@ bool renderMaterialOnGpu(const MaterialConstants& constants, const PixelView& ta
 
 bool tryDrawMaterialOverlayHlsl(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
-    if (isEmpty(rect) || !MaterialGpu::instance())
+    if (isEmpty(rect) || !hasMaterialGpu())
         return false;
-    const MaterialConstants constants = currentMaterialConstants(dc, style, rect);
-    const PixelView overlay = materialOverlays().ensure(
-        constants, [&constants](const PixelView& pixels) { return renderMaterialOnGpu(constants, pixels); });
-    compositeMaterialOverlay(dc, rect, style, overlay);
-    return overlay.pixels != nullptr;
+    OwnedPixels overlay(sizeOf(rect));
+    if (!renderMaterialOnGpu(currentMaterialConstants(dc, style, rect), overlay.view()))
+        return false;
+    compositeMaterialOverlay(dc, rect, style, overlay.view());
+    return true;
 }
 
 } // namespace vela

@@ -11,6 +11,9 @@
 
 namespace vela {
 
+// Whether there is a usable graphics path.
+bool hasMaterialGpu();
+
 // Writes the premultiplied pixels of a whole surface, of the target's size. False, with nothing written,
 // where there is no usable graphics path or this call failed: the caller then renders in software.
 bool renderMaterialOnGpu(const MaterialConstants& constants, const PixelView& target);

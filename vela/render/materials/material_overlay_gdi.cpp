@@ -6,62 +6,25 @@
 #include "vela/render/gdi/paint_context.h"
 #include "vela/render/gdi/pixel_layer_gdi.h"
 #include "vela/render/materials/material_clock.h"
-#include "vela/render/materials/material_light.h"
 #include "vela/render/materials/material_overlay.h"
 #include "vela/render/shapes/coverage.h"
-
-#include <algorithm>
 
 namespace vela {
 namespace {
 
-// 40 MB: a window as large as a 4K screen, and some.
-constexpr std::size_t kMostCachedPixels = 10'000'000;
-
-// Lets write(target, coverage) write the visible part of a surface's overlay and lays it over the surface.
+// Lets write(target) write the visible part of a surface's overlay and lays it, cut, over the surface.
 template <typename Write>
 void compositeCut(HDC dc, const Rect& rect, const SurfaceStyle& style, Write&& write)
 {
     const RunMask* const outline = surfaceOutline(style, sizeOf(rect), surfaceBitmaps(style));
     const Coverage coverage = outline ? Coverage(*outline) : Coverage(style.shape, sizeOf(rect));
-    renderPixelLayer(dc, rect, [&](const LayerTarget& target) { write(target, coverage); });
-}
-
-PixelView unlitOverlay(const MaterialConstants& constants)
-{
-    static MaterialOverlayCache overlays(kMostCachedPixels);
-    const MaterialConstants unlit = withoutLight(constants);
-    return overlays.ensure(unlit, [&unlit](const PixelView& pixels) {
-        renderMaterialOverlay(unlit, {pixels, {}});
-        return true;
-    });
-}
-
-void drawInSoftware(HDC dc, const Rect& rect, const SurfaceStyle& style, const MaterialConstants& constants)
-{
-    const PixelView cached = materialOverlays().ensure(constants, [&constants](const PixelView& pixels) {
-        if (hasMovingLight(constants))
-            addLight(constants, unlitOverlay(constants), pixels);
-        else
-            renderMaterialOverlay(constants, {pixels, {}});
-        return true;
-    });
-    if (cached.pixels)
-        return compositeMaterialOverlay(dc, rect, style, cached);
-    // Too large to be cached: only what can be seen is rendered, each time.
-    compositeCut(dc, rect, style, [&constants](const LayerTarget& target, const Coverage& coverage) {
-        renderMaterialOverlay(constants, target);
-        paintCovered(target, coverage, [](Pixel*, Span, std::int32_t) {});
+    renderPixelLayer(dc, rect, [&](const LayerTarget& target) {
+        write(target);
+        clearUncovered(target, coverage);
     });
 }
 
 } // namespace
-
-MaterialOverlayCache& materialOverlays()
-{
-    static MaterialOverlayCache overlays(kMostCachedPixels);
-    return overlays;
-}
 
 MaterialConstants currentMaterialConstants(HDC dc, const SurfaceStyle& style, const Rect& rect)
 {
@@ -73,16 +36,16 @@ void compositeMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& styl
 {
     if (!overlay.pixels || overlay.size != sizeOf(rect))
         return;
-    compositeCut(dc, rect, style, [&overlay](const LayerTarget& target, const Coverage& coverage) {
-        paintCovered(target, coverage, [&overlay](Pixel* first, Span run, std::int32_t y) {
-            std::copy_n(overlay.row(y) + run.begin, run.length(), first);
-        });
+    compositeCut(dc, rect, style, [&overlay](const LayerTarget& target) {
+        copyPixels(LayerTarget{overlay, {}}.part(target.visible()).view, target.view);
     });
 }
 
 void drawSoftwareMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
-    drawInSoftware(dc, rect, style, currentMaterialConstants(dc, style, rect));
+    const MaterialConstants constants = currentMaterialConstants(dc, style, rect);
+    compositeCut(dc, rect, style,
+                 [&constants](const LayerTarget& target) { renderMaterialOverlay(constants, target); });
 }
 
 void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style,
@@ -90,10 +53,12 @@ void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceS
 {
     if (!carriesMaterial(style) || !isVisible(dc, rect))
         return;
+    PaintContext context = paintContext(dc);
+    context.profile = profile;
+    const PaintContextBinding binding(dc, context);
     SurfaceStyle seamless = style;
     seamless.uvMapping = MappingSpace::Global;
-    const float phase = lightPhase(style, paintContext(dc).time);
-    drawInSoftware(dc, rect, seamless, materialConstants(seamless, rect, phase, profile));
+    drawSoftwareMaterialOverlay(dc, rect, seamless);
 }
 
 } // namespace vela

@@ -4,16 +4,13 @@
 
 #include "vela/geometry.h"
 #include "vela/platform_handles.h"
-#include "vela/render/materials/material_cache.h"
+#include "vela/render/materials/material_constants.h"
 #include "vela/render/pixels/pixel_buffer.h"
 #include "vela/theme/records/surface_style.h"
 
 namespace vela {
 
-// The process's overlays, whoever rendered them.
-MaterialOverlayCache& materialOverlays();
-
-// The overlay in software, rendered only when it is not cached.
+// The overlay in software.
 void drawSoftwareMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style);
 
 // The material overlay in software, with its texture laid across the window whatever the style says, so that
@@ -21,7 +18,7 @@ void drawSoftwareMaterialOverlay(HDC dc, const Rect& rect, const SurfaceStyle& s
 void drawSeamlessMaterialTextureOverlay(HDC dc, const Rect& rect, const SurfaceStyle& style,
                                         PerformanceProfile profile);
 
-// The surface's constants in this paint: the light where it is now, the machine as busy as it may be.
+// The surface's constants in this paint.
 MaterialConstants currentMaterialConstants(HDC dc, const SurfaceStyle& style, const Rect& rect);
 
 // Lays the surface's overlay, pixels of the rectangle's size, over it: cut to its shape or to its bitmap's.

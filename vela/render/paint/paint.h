@@ -24,11 +24,8 @@ namespace vela {
 // All layers of the style, in their order. Costs nothing when the clip hides the surface.
 void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style);
 
-// The same for a control: round and slanted edges are antialiased, straight ones crisp.
+// The same layers with an antialiased outline: round and slanted edges are smooth, straight ones crisp.
 void paintControlSurface(HDC dc, const Rect& rect, const SurfaceStyle& style);
-
-// The same without what lies around the surface, its shadow and glow.
-void paintControlFace(HDC dc, const Rect& rect, const SurfaceStyle& style);
 
 // A fill's surface from the track's left edge to `end` pixels, which may be a fraction.
 void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end);

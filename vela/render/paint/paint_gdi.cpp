@@ -3,7 +3,7 @@
 
 #include "vela/render/gdi/clip_gdi.h"
 #include "vela/render/gdi/program_icon.h"
-#include "vela/render/surface/control_painter.h"
+#include "vela/render/surface/mark_painter.h"
 #include "vela/render/surface/surface_painter.h"
 #include "vela/render/surface/surface_shape.h"
 #include "vela/render/text/text.h"
@@ -18,11 +18,6 @@ void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
 void paintControlSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
     render::paintControlSurface(dc, rect, style);
-}
-
-void paintControlFace(HDC dc, const Rect& rect, const SurfaceStyle& style)
-{
-    render::paintControlFace(dc, rect, style);
 }
 
 void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end)

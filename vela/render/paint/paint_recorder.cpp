@@ -54,11 +54,6 @@ void paintControlSurface(HDC, const Rect& rect, const SurfaceStyle& style)
     PaintRecorder::note(ControlSurfaceCall{rect, style});
 }
 
-void paintControlFace(HDC, const Rect& rect, const SurfaceStyle& style)
-{
-    PaintRecorder::note(ControlFaceCall{rect, style});
-}
-
 void paintProgressFill(HDC, const Rect& track, const SurfaceStyle& fill, float end)
 {
     PaintRecorder::note(ProgressFillCall{track, fill, end});

@@ -23,12 +23,6 @@ struct ControlSurfaceCall {
     friend bool operator==(const ControlSurfaceCall&, const ControlSurfaceCall&) = default;
 };
 
-struct ControlFaceCall {
-    Rect rect;
-    SurfaceStyle style;
-    friend bool operator==(const ControlFaceCall&, const ControlFaceCall&) = default;
-};
-
 struct ProgressFillCall {
     Rect track;
     SurfaceStyle fill;
@@ -96,9 +90,9 @@ struct ClipCall {
     friend bool operator==(const ClipCall&, const ClipCall&) = default;
 };
 
-using PaintCall = std::variant<SurfaceCall, ControlSurfaceCall, ControlFaceCall, ProgressFillCall,
-                               ShapeFillCall, ShapeOutlineCall, FocusRingCall, IconCall, ProgramIconCall,
-                               TextCall, UnclippedLineCall, ClipCall>;
+using PaintCall =
+    std::variant<SurfaceCall, ControlSurfaceCall, ProgressFillCall, ShapeFillCall, ShapeOutlineCall,
+                 FocusRingCall, IconCall, ProgramIconCall, TextCall, UnclippedLineCall, ClipCall>;
 
 // Records while it lives; one inside another takes the calls of its own time. Without one, painting is
 // forgotten.

@@ -1,7 +1,7 @@
 // Texts and icons, as the product paints them: what there is to be read or recognised. Apart from the rest,
 // so that a tool that looks at just these can take their place.
 #include "vela/render/paint/paint.h"
-#include "vela/render/surface/control_painter.h"
+#include "vela/render/surface/mark_painter.h"
 #include "vela/render/text/text.h"
 
 namespace vela {

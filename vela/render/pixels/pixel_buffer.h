@@ -44,6 +44,21 @@ inline void copyPixels(const PixelView& from, const PixelView& to) noexcept
         std::copy_n(from.row(y), to.size.width, to.row(y));
 }
 
+// Pixels with storage of their own, rows without gaps.
+class OwnedPixels {
+public:
+    explicit OwnedPixels(Size size)
+        : size_(size), pixels_(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height))
+    {
+    }
+    PixelView view() noexcept { return {pixels_.data(), size_, size_.width}; }
+    std::size_t bytes() const noexcept { return pixels_.size() * sizeof(Pixel); }
+
+private:
+    Size size_;
+    std::vector<Pixel> pixels_;
+};
+
 // Where a layer writes: the visible part of a surface. A layer writes every pixel of it, transparent ones
 // too, so the buffer need not be cleared before.
 struct LayerTarget {
@@ -53,6 +68,12 @@ struct LayerTarget {
     constexpr Rect visible() const noexcept
     {
         return {origin.x, origin.y, view.size.width, view.size.height};
+    }
+    // The same pixels, as far as they show that part of the surface; the part lies within visible().
+    LayerTarget part(const Rect& rect) const noexcept
+    {
+        return {{view.row(rect.y - origin.y) + (rect.x - origin.x), sizeOf(rect), view.stride},
+                {rect.x, rect.y}};
     }
 };
 

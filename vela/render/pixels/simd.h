@@ -70,6 +70,19 @@ inline void storeChannels(Pixel* out, Int4 first, Int4 second, Int4 third, Int4 
 #endif
 }
 
+// Each channel for itself, at most 255.
+inline UInt4 addSaturated(UInt4 a, UInt4 b) noexcept
+{
+#if defined(__SSE2__)
+    return reinterpret_cast<UInt4>(_mm_adds_epu8(reinterpret_cast<__m128i>(a), reinterpret_cast<__m128i>(b)));
+#else
+    using Byte16 [[gnu::vector_size(16)]] = std::uint8_t;
+    const auto first = reinterpret_cast<Byte16>(a);
+    const Byte16 sum = first + reinterpret_cast<Byte16>(b);
+    return reinterpret_cast<UInt4>(sum | reinterpret_cast<Byte16>(sum < first));
+#endif
+}
+
 // Four pixels of which at least `left` exist, at least one; those beyond are transparent.
 inline UInt4 loadPixels(const Pixel* from, std::int32_t left) noexcept
 {

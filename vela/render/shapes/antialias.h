@@ -20,8 +20,14 @@ void fillAntialiased(const LayerTarget& target, ShapeKind kind, const Rect& rect
 void strokeAntialiased(const LayerTarget& target, ShapeKind kind, const Rect& rect, float width, Color color,
                        float depth = 0);
 
-// Keeps of the target's pixels what lies in the shape when it ends at a fraction of a pixel on the right.
-// Round ends stay round however short the shape gets; slanted ones keep their slant.
+// Everything outside of what lies so deep in the shape.
+void fillDownTo(const LayerTarget& target, ShapeKind kind, const Rect& rect, float depth, Color color);
+
+// Keeps of the target's pixels what lies in the shape.
+void cutToShape(const LayerTarget& target, ShapeKind kind, const Rect& rect);
+
+// The same when the shape ends at a fraction of a pixel on the right. Round ends stay round however short the
+// shape gets; slanted ones keep their slant.
 void cutToProgress(const LayerTarget& target, ShapeKind kind, const Rect& rect, float end);
 
 } // namespace vela

@@ -42,10 +42,19 @@ public:
     Coverage(ShapeKind kind, Size size) noexcept : kind_(kind), size_(size) {}
     explicit Coverage(const RunMask& mask) noexcept : size_(mask.size()), mask_(&mask) {} // borrowed
 
+    // The whole rectangle, for layers that follow the shape but are cut to it later.
+    static Coverage uncut(ShapeKind kind, Size size) noexcept
+    {
+        Coverage coverage(kind, size);
+        coverage.isCut_ = false;
+        return coverage;
+    }
+
     Size size() const noexcept { return size_; }
     // Outlines known as formulas; a bitmap's is not, and its shape() is Rect.
     bool isShape() const noexcept { return mask_ == nullptr; }
     ShapeKind shape() const noexcept { return kind_; }
+    bool isCut() const noexcept { return isCut_; }
 
     // Calls visit(Span) for each covered run of the row, from the left, cut to the columns asked for.
     template <typename Visit>
@@ -61,13 +70,14 @@ public:
         if (mask_)
             std::for_each(mask_->rowBegin(y), mask_->rowEnd(y), visitCut);
         else
-            visitCut(shapeRow(kind_, size_, y));
+            visitCut(isCut_ ? shapeRow(kind_, size_, y) : Span{0, size_.width});
     }
 
 private:
     ShapeKind kind_ = ShapeKind::Rect;
     Size size_;
     const RunMask* mask_ = nullptr;
+    bool isCut_ = true;
 };
 
 inline void clearLayer(const LayerTarget& target) noexcept
@@ -94,6 +104,12 @@ void paintCovered(const LayerTarget& target, const Coverage& coverage, Paint&& p
         });
         simd::fillPixels(pixels + (written - columns.begin), columns.end - written, 0);
     }
+}
+
+// Makes the pixels transparent that are not covered.
+inline void clearUncovered(const LayerTarget& target, const Coverage& coverage)
+{
+    paintCovered(target, coverage, [](Pixel*, Span, std::int32_t) {});
 }
 
 } // namespace vela

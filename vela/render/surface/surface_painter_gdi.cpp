@@ -4,118 +4,220 @@
 #include "vela/render/bitmaps/surface_bitmaps.h"
 #include "vela/render/bitmaps/surface_outline.h"
 #include "vela/render/gdi/clip_gdi.h"
-#include "vela/render/gdi/picture_cache_gdi.h"
+#include "vela/render/gdi/paint_context.h"
 #include "vela/render/gdi/pixel_layer_gdi.h"
 #include "vela/render/layers/layer_bounds.h"
 #include "vela/render/layers/paint_plan.h"
+#include "vela/render/materials/material_clock.h"
 #include "vela/render/materials/material_gpu_d3d11.h"
 #include "vela/render/materials/material_overlay_gdi.h"
-#include "vela/render/surface/surface_key.h"
+#include "vela/render/materials/material_source_gdi.h"
+#include "vela/render/pixels/blend.h"
+#include "vela/render/shapes/antialias.h"
+#include "vela/render/surface/face_key.h"
+#include "vela/render/surface/face_picture.h"
 #include "vela/render/surface/surface_shape.h"
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 
 namespace vela {
 namespace {
 
+using Steps = std::span<const PaintStep>;
+
+// Larger faces are composed as far as they are seen, each time.
+constexpr std::int64_t kMostStoredPixels = 10'000'000;
+
 // One surface while it is painted.
-struct Surface {
-    HDC dc;
-    Rect rect;
-    const SurfaceStyle& style;
-    const LoadedBitmaps& bitmaps;
+class SurfacePaint {
+public:
+    SurfacePaint(HDC dc, const Rect& rect, const SurfaceStyle& style, SurfaceEdge edge)
+        : dc_(dc), rect_(rect), style_(style), bitmaps_(surfaceBitmaps(style)),
+          // A bitmap's outline has antialiased edges of its own.
+          isShape_(!outlineFor(sizeOf(rect))),
+          plan_(paintPlan(style, rect, clipBox(dc), bitmapCover(), isShape_ ? edge : SurfaceEdge::Exact))
+    {
+    }
+
+    const PaintPlan& plan() const noexcept { return plan_; }
+    void paintHalo(const Rect& face) const;
+    // As far as `end`, a number of pixels.
+    void paintFace(float end) const;
+
+private:
+    bool isCut() const noexcept { return plan_.face().back().layer == SurfaceLayer::Cut; }
+    Steps layers() const noexcept
+    {
+        return plan_.face().first(plan_.face().size() - static_cast<std::size_t>(isCut()));
+    }
+    BitmapCover bitmapCover() const noexcept
+    {
+        return bitmaps_.skin ? bitmaps_.skin->cover() : BitmapCover::None;
+    }
+    const RunMask* outlineFor(Size size) const { return surfaceOutline(style_, size, bitmaps_); }
+    Coverage coverageOf(Size size) const
+    {
+        const RunMask* const outline = outlineFor(size);
+        return outline ? Coverage(*outline) : Coverage(style_.shape, size);
+    }
+    void paintPlain(Steps steps) const;
+    void composeLayers(const LayerTarget& target) const;
+    void addPicture(const LayerTarget& target, Steps steps, const FaceSource& source, Beneath beneath) const;
+
+    HDC dc_;
+    Rect rect_;
+    const SurfaceStyle& style_;
+    LoadedBitmaps bitmaps_;
+    bool isShape_; // its outline is
+    PaintPlan plan_;
 };
 
-bool isMaterial(const PaintStep& step) noexcept { return step.layer == SurfaceLayer::Material; }
-
-bool costsPixels(SurfaceLayer layer) noexcept { return isPixelLayer(layer) || layer == SurfaceLayer::Bitmap; }
-
-void paintPixels(const Surface& surface, const PaintStep& step)
+void SurfacePaint::paintHalo(const Rect& face) const
 {
-    const SurfaceStyle& style = surface.style;
-    const RunMask* const outline = surfaceOutline(style, sizeOf(step.rect), surface.bitmaps);
-    const Coverage coverage = outline ? Coverage(*outline) : Coverage(style.shape, sizeOf(step.rect));
-    const auto fill = [&](const LayerTarget& target) {
-        if (step.layer == SurfaceLayer::Bitmap)
-            fillBitmap(target, coverage, *surface.bitmaps.skin, bitmapPlacement(style, coverage.size()));
+    for (PaintStep step : plan_.halo()) {
+        step.rect.width -= rect_.width - face.width;
+        const Coverage coverage = coverageOf(sizeOf(step.rect));
+        for (const Rect& part : haloBounds(step, face, style_.shape, plan_.isOpaque() && isShape_))
+            renderPixelLayer(dc_, step.rect, part, [&](const LayerTarget& target) {
+                fillLayer(target, coverage, step, style_, {});
+            });
+    }
+}
+
+// One colour over another needs no picture.
+void SurfacePaint::paintPlain(Steps steps) const
+{
+    for (const PaintStep& step : steps) {
+        if (step.layer == SurfaceLayer::Fill)
+            render::fillShape(dc_, rect_, style_.shape, step.color);
         else
-            fillLayer(target, coverage, step, style, {surface.rect.x, surface.rect.y});
-    };
-    for (const Rect& part : layerBounds(step, coverage, style))
-        renderPixelLayer(surface.dc, step.rect, part, fill);
-}
-
-void paintStep(const Surface& surface, const PaintStep& step)
-{
-    const ShapeKind shape = surface.style.shape;
-    switch (step.layer) {
-    case SurfaceLayer::Fill: return render::fillShape(surface.dc, step.rect, shape, step.color);
-    case SurfaceLayer::Border:
-    case SurfaceLayer::Outline:
-        return render::strokeShapeOutline(surface.dc, step.rect, shape, step.color, step.penWidth);
-    case SurfaceLayer::Material: return drawMaterialOverlay(surface.dc, step.rect, surface.style);
-    default: return paintPixels(surface, step);
+            render::strokeShapeOutline(dc_, rect_, style_.shape, step.color, step.penWidth);
     }
 }
 
-PictureCache<SurfaceKey>& layerPictures()
+void SurfacePaint::paintFace(float end) const
 {
-    constexpr std::size_t kMostPixels = 4'000'000; // 16 MB: some dialogs in several states, or a full screen
-    static PictureCache<SurfaceKey> pictures(kMostPixels);
-    return pictures;
-}
-
-Rect boundsOf(const PaintStep* first, const PaintStep* last) noexcept
-{
-    Rect bounds = first->rect;
-    for (const PaintStep* step = first + 1; step != last; ++step)
-        bounds = united(bounds, step->rect);
-    return bounds;
-}
-
-// Layers between which there is no material: that one may move, and has a cache of its own.
-void paintLayers(const Surface& surface, const PaintStep* first, const PaintStep* last)
-{
-    const auto paint = [&] {
-        for (const PaintStep* step = first; step != last; ++step)
-            paintStep(surface, *step);
-        return true;
-    };
-    // Plain fills and strokes cost less than a copy.
-    if (std::none_of(first, last, [](const PaintStep& step) { return costsPixels(step.layer); })) {
-        paint();
+    if (plan_.face().empty())
         return;
-    }
-    const Rect area = visiblePart(surface.dc, boundsOf(first, last));
-    paintCached(surface.dc, area, layerPictures(),
-                SurfaceKeyView{surface.style, surface.bitmaps, surface.rect, area,
-                               static_cast<std::uint8_t>(first->layer)},
-                paint);
+    const bool isWhole = end >= static_cast<float>(rect_.width);
+    const Steps steps = layers();
+    if (isWhole && !isCut() && std::all_of(steps.begin(), steps.end(), [](const PaintStep& step) {
+            return isPlainLayer(step.layer);
+        }))
+        return paintPlain(steps);
+    const auto width = static_cast<std::int32_t>(std::ceil(end));
+    const Rect visible = visiblePart(dc_, {rect_.x, rect_.y, std::min(rect_.width, width), rect_.height});
+    const PixelView pixels = scratchPixels(sizeOf(visible));
+    if (!pixels.pixels)
+        return;
+    const LayerTarget target{pixels, {visible.x - rect_.x, visible.y - rect_.y}};
+    composeLayers(target);
+    if (isCut() || !isWhole)
+        cutToProgress(target, style_.shape, {0, 0, rect_.width, rect_.height}, end);
+    compositeScratch(dc_, visible);
+}
+
+// A light that moves changes the material alone: what lies beneath it and above it are pictures of their own.
+void SurfacePaint::composeLayers(const LayerTarget& target) const
+{
+    const Steps steps = layers();
+    std::optional<MaterialSource> material;
+    const auto writeMaterial = [&](const LayerTarget& part) {
+        if (!material)
+            material.emplace(dc_, rect_, style_);
+        material->write(part);
+    };
+    const Size size = sizeOf(rect_);
+    const FaceSource source{style_,
+                            {rect_.x, rect_.y},
+                            isCut() ? Coverage::uncut(style_.shape, size) : coverageOf(size),
+                            bitmaps_.skin.get(),
+                            writeMaterial};
+    if (!hasMovingLight(style_))
+        return addPicture(target, steps, source, Beneath::Nothing);
+    const auto moving = std::find_if(steps.begin(), steps.end(), [](const PaintStep& step) {
+        return step.layer == SurfaceLayer::Material;
+    });
+    addPicture(target, {steps.begin(), moving}, source, Beneath::Nothing);
+    if (moving == steps.end())
+        return;
+    composeFace(target, {moving, 1}, source, Beneath::Picture);
+    addPicture(target, {moving + 1, steps.end()}, source, Beneath::Picture);
+}
+
+void SurfacePaint::addPicture(const LayerTarget& target, Steps steps, const FaceSource& source,
+                              Beneath beneath) const
+{
+    const bool isStored = paintContext(dc_).cachesPictures && !steps.empty() &&
+                          std::int64_t{rect_.width} * rect_.height <= kMostStoredPixels;
+    if (!isStored)
+        return composeFace(target, steps, source, beneath);
+    const bool isGlobal = style_.uvMapping == MappingSpace::Global;
+    const FaceKeyValues values{bitmaps_,
+                               sizeOf(rect_),
+                               isGlobal ? Point{rect_.x, rect_.y} : Point{},
+                               paintContext(dc_).profile,
+                               isCut() ? SurfaceEdge::Antialiased : SurfaceEdge::Exact,
+                               steps.front().layer};
+    PictureStore& store = pictureStore();
+    const FaceKeyView key{style_, values};
+    if (!store.find<FacePictures>(key) && !store.isWantedAgain<FacePictures>(key))
+        return composeFace(target, steps, source, beneath);
+    const auto picture = store.ensure<FacePictures>(key, [&] {
+        auto whole = std::make_shared<OwnedPixels>(sizeOf(rect_));
+        composeFace({whole->view(), {}}, steps, source, Beneath::Nothing);
+        return whole;
+    });
+    const PixelView seen = LayerTarget{picture->view(), {}}.part(target.visible()).view;
+    if (beneath == Beneath::Nothing)
+        copyPixels(seen, target.view);
+    else
+        blendOver(seen, target.view);
+}
+
+void paint(HDC dc, const Rect& rect, const SurfaceStyle& style, SurfaceEdge edge)
+{
+    if (!isVisible(dc, rect))
+        return; // before any bitmap is loaded for it
+    const SurfacePaint surface(dc, rect, style, edge);
+    surface.paintHalo(rect);
+    surface.paintFace(static_cast<float>(rect.width));
 }
 
 void drawLayer(HDC dc, SurfaceLayer layer, const Rect& rect, const SurfaceStyle& style)
 {
-    paintStep({dc, rect, style, surfaceBitmaps(style)}, {layer, rect});
+    const RunMask* const outline = surfaceOutline(style, sizeOf(rect), surfaceBitmaps(style));
+    const Coverage coverage = outline ? Coverage(*outline) : Coverage(style.shape, sizeOf(rect));
+    const PaintStep step{layer, rect};
+    for (const Rect& part : layerBounds(step, coverage, style))
+        renderPixelLayer(dc, rect, part, [&](const LayerTarget& target) {
+            fillLayer(target, coverage, step, style, {rect.x, rect.y});
+        });
 }
 
 } // namespace
 
 void render::paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
-    if (!isVisible(dc, rect))
-        return; // before any bitmap is loaded for it
-    const LoadedBitmaps bitmaps = surfaceBitmaps(style);
-    const Surface surface{dc, rect, style, bitmaps};
-    const BitmapCover cover = bitmaps.skin ? bitmaps.skin->cover() : BitmapCover::None;
-    const PaintPlan plan = paintPlan(style, rect, clipBox(dc), cover);
-    for (const PaintStep* step = plan.begin(); step != plan.end();) {
-        const PaintStep* const material = std::find_if(step, plan.end(), isMaterial);
-        if (step != material)
-            paintLayers(surface, step, material);
-        if (material != plan.end())
-            paintStep(surface, *material);
-        step = material == plan.end() ? material : material + 1;
-    }
+    paint(dc, rect, style, SurfaceEdge::Exact);
+}
+
+void render::paintControlSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
+{
+    paint(dc, rect, style, SurfaceEdge::Antialiased);
+}
+
+void render::paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end)
+{
+    const float reach = std::clamp(end, 0.0F, static_cast<float>(std::max(track.width, 0)));
+    const Rect filled{track.x, track.y, static_cast<std::int32_t>(std::ceil(reach)), track.height};
+    if (!isVisible(dc, track) || isEmpty(filled))
+        return;
+    const SurfacePaint surface(dc, track, fill, SurfaceEdge::Antialiased);
+    surface.paintHalo(filled);
+    surface.paintFace(reach);
 }
 
 bool render::isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point)

@@ -1,9 +1,9 @@
-// Painting with cached pictures against painting without: the same pixels, whatever lies beneath and is
+// Painting with stored pictures against painting without: the same pixels, whatever lies beneath and is
 // clipped.
-#include "vela/render/gdi/picture_cache_gdi.h"
-
 #include "tests/support/canvas_gdi.h"
+#include "vela/render/gdi/paint_context.h"
 #include "vela/render/paint/paint.h"
+#include "vela/render/pixels/picture_store.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -67,7 +67,7 @@ void clipCross(HDC dc)
 void clipLeft(HDC dc) { ::IntersectClipRect(dc, 0, 0, 50, 80); }
 void shiftOrigin(HDC dc) { ::SetViewportOrgEx(dc, 7, 3, nullptr); }
 
-TEST(PictureCachePaintingTest, EveryPixelIsTheSameWithAndWithout)
+TEST(FaceStoreTest, EveryPixelIsTheSameWithAndWithout)
 {
     const Step steps[] = {
         {hexColor(0x304050), {10, 10}, {}},          {hexColor(0x304050), {10, 10}, clipCross},
@@ -93,33 +93,31 @@ TEST(PictureCachePaintingTest, EveryPixelIsTheSameWithAndWithout)
     }
 }
 
-TEST(PictureCachePaintingTest, WhatIsPaintedAThirdTimeIsCopied)
+// Whatever the cause of a repaint, a surface is composed for the first two times and then found.
+TEST(FaceStoreTest, AFaceIsComposedTwiceAndThenFound)
 {
-    PictureCache<int> pictures(10'000);
-    const Rect area{5, 5, 30, 20};
-    int painted = 0;
-    bool succeeds = true;
-    const auto paint = [&](Canvas& canvas) {
-        return paintCached(canvas.dc(), area, pictures, 1, [&] {
-            ++painted;
-            fillShape(canvas.dc(), area, ShapeKind::Rect, hexColor(0xFF8000));
-            return succeeds;
-        });
+    SurfaceStyle style = layeredStyle();
+    style.noiseSeed = 4711; // no other test paints it
+    const auto paintAt = [&style](Point at, Color ground) {
+        Canvas canvas(kCanvas, ground);
+        paintSurface(canvas.dc(), {at.x, at.y, 60, 30}, style);
+        return canvas.pixels();
     };
-    for (int time = 0; time < 5; ++time) {
-        Canvas canvas(kCanvas, hexColor(0x304050));
-        EXPECT_TRUE(paint(canvas));
-        EXPECT_EQ(painted, std::min(time + 1, 2));
-        EXPECT_EQ(canvas.at(20, 15), 0xFF8000u);
-        EXPECT_EQ(canvas.at(35, 15), 0x304050u);
-    }
-    // Where painting fails, nothing is stored of it.
-    succeeds = false;
+    const std::size_t before = pictureStore().made();
+    const auto first = paintAt({5, 5}, hexColor(0x304050));
+    EXPECT_EQ(pictureStore().made(), before);
+    for (int time = 0; time < 3; ++time)
+        EXPECT_EQ(paintAt({5, 5}, hexColor(0x304050)), first);
+    paintAt({31, 17},
+            hexColor(0x908070)); // the picture does not depend on what lies beneath, nor on its place
+    EXPECT_EQ(pictureStore().made(), before + 1);
+
+    style.uvMapping = MappingSpace::Global; // but now it does
     for (int time = 0; time < 3; ++time) {
-        Canvas canvas(kCanvas, hexColor(0x111111));
-        EXPECT_FALSE(paint(canvas));
+        paintAt({5, 5}, hexColor(0x304050));
+        paintAt({6, 5}, hexColor(0x304050));
     }
-    EXPECT_EQ(painted, 5);
+    EXPECT_EQ(pictureStore().made(), before + 3);
 }
 
 } // namespace
