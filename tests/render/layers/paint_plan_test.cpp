@@ -163,6 +163,27 @@ TEST(PaintPlan, GlowIsAHaloOfRingsAroundTheSurface)
     }
 }
 
+TEST(PaintPlan, IsBoundedByGlowAndShadow)
+{
+    SurfaceStyle style = styleWithoutLayers();
+    EXPECT_EQ(paintedBounds(style, kButton), Rect{});
+    style.image = BitmapSkin{L"plate.png", {}};
+    EXPECT_EQ(paintedBounds(style, kButton), kButton);
+    style.showShadow = true;
+    style.shadowOffsetX = -7;
+    style.shadowOffsetY = 12;
+    EXPECT_EQ(paintedBounds(style, kButton), (Rect{3, 20, 207, 52}));
+    style.showGlow = true;
+    style.glowRadius = 10;
+    EXPECT_EQ(paintedBounds(style, kButton), (Rect{0, 10, 220, 62}));
+    style.glowOpacity = style.shadowOpacity = 0;
+    EXPECT_EQ(paintedBounds(style, kButton), kButton);
+    style.glowOpacity = style.shadowOpacity = 255;
+    style.glowRadius = style.shadowOffsetX = style.shadowOffsetY = 2147483647; // limited as it is painted
+    EXPECT_EQ(paintedBounds(style, kButton), grownBy(kButton, 1 << 20));
+    EXPECT_EQ(paintedBounds(style, {0, 0, 0, 40}), Rect{});
+}
+
 TEST(PaintPlan, CarriesWhatEachLayerNeeds)
 {
     SurfaceStyle style = styleWithEveryLayer();

@@ -71,9 +71,8 @@ void Planner::addShadow()
 {
     if (!style_.showShadow || style_.shadowOpacity == 0)
         return;
-    const Rect moved{rect_.x + limitedLength(style_.shadowOffsetX),
-                     rect_.y + limitedLength(style_.shadowOffsetY), rect_.width, rect_.height};
-    add({SurfaceLayer::Shadow, moved, style_.shadow, style_.shadowOpacity});
+    const Point offset{limitedLength(style_.shadowOffsetX), limitedLength(style_.shadowOffsetY)};
+    add({SurfaceLayer::Shadow, movedBy(rect_, offset), style_.shadow, style_.shadowOpacity});
 }
 
 // Gradient or fill lie under the bitmap, where its transparent parts show them; over it they would hide it.
@@ -133,6 +132,15 @@ PaintPlan paintPlan(const SurfaceStyle& style, const Rect& rect, const std::opti
         planner.addStrokes(SurfaceLayer::Outline, style.outline, style.outlineWidth);
     planner.addCut(edge);
     return planner.take();
+}
+
+Rect paintedBounds(const SurfaceStyle& style, const Rect& rect)
+{
+    Rect bounds;
+    for (const PaintStep& step :
+         paintPlan(style, rect, std::nullopt, style.image ? BitmapCover::Partial : BitmapCover::None))
+        bounds = around(bounds, step.rect);
+    return bounds;
 }
 
 void fillLayer(const LayerTarget& target, const Coverage& coverage, const PaintStep& step,

@@ -83,6 +83,10 @@ constexpr bool isPlainLayer(SurfaceLayer layer) noexcept
     return layer == SurfaceLayer::Fill || layer == SurfaceLayer::Border || layer == SurfaceLayer::Outline;
 }
 
+// The rectangle around all that the surface paints, whatever is seen of it: its glow and its shadow lie
+// outside its own. Empty when it paints nothing.
+Rect paintedBounds(const SurfaceStyle& style, const Rect& rect);
+
 // Writes the visible part of a layer, of any but bitmap, material and cut. The coverage has the step's size;
 // surfaceOrigin is the surface's position in its window.
 void fillLayer(const LayerTarget& target, const Coverage& coverage, const PaintStep& step,
