@@ -9,7 +9,6 @@ namespace {
 using simd::Float4;
 using simd::Int4;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr std::int32_t kLongestPiece = 4096; // keeps what fixed-point steps add up to far below one level
 constexpr float kOne = 65536.0F;             // fixed point: 16 bits below the channel's units
 
@@ -28,22 +27,28 @@ Float4 channelsOf(Color color, std::uint8_t opacity) noexcept
 }
 
 // Channels that change evenly from pixel to pixel, rounded down.
-void fillEvenly(Pixel* out, std::int32_t count, Float4 from, Float4 step) noexcept
+void fillEvenly(Pixel* out, std::int32_t count, Int4 first, Int4 next) noexcept
 {
-    Int4 first = simd::truncated(from * kOne);
-    const Int4 next = simd::truncated(step * kOne);
-    const Int4 second = next + next;
-    const Int4 fourth = second + second;
-    Pixel four[simd::kLanes];
-    for (std::int32_t i = 0; i < count; i += simd::kLanes) {
-        const bool whole = count - i >= simd::kLanes;
-        const Int4 third = first + second;
-        simd::storeChannels(whole ? out + i : four, first >> 16, (first + next) >> 16, third >> 16,
-                            (third + next) >> 16);
-        if (!whole)
-            std::copy_n(four, count - i, out + i);
-        first += fourth;
+    Int4 second = first + next;
+    Int4 third = second + next;
+    Int4 fourth = third + next;
+    const Int4 beyond = fourth + next - first;
+    const auto store = [&](Pixel* four) {
+        simd::storeChannels(four, first >> 16, second >> 16, third >> 16, fourth >> 16);
+    };
+    Pixel* const end = out + count;
+    for (; end - out >= simd::kLanes; out += simd::kLanes) {
+        store(out);
+        first += beyond;
+        second += beyond;
+        third += beyond;
+        fourth += beyond;
     }
+    if (out == end)
+        return;
+    Pixel last[simd::kLanes];
+    store(last);
+    std::copy_n(last, end - out, out);
 }
 
 void fillConstant(Pixel* out, std::int32_t count, Float4 channels) noexcept
@@ -56,13 +61,21 @@ void fillConstant(Pixel* out, std::int32_t count, Float4 channels) noexcept
 
 } // namespace
 
-// Between two stops, or beyond the outer ones where nothing changes.
-struct ColorRamp::Piece {
-    double low;
-    double high;
-    double origin; // where the channels are these
-    Float4 channels;
-    Float4 slope; // per unit of position
+// Where its columns lie: the first at start, each further one a step beyond.
+struct ColorRamp::Row {
+    double start;
+    double step;
+    double inverseStep;
+
+    double at(std::int32_t column) const noexcept { return start + step * column; }
+    // The first column, from 0 up, that has come as far as the position.
+    std::int32_t firstColumnAt(double position) const noexcept
+    {
+        constexpr double kFarthest = std::numeric_limits<std::int32_t>::max() - 1;
+        const double columns = std::clamp((position - start) * inverseStep, 0.0, kFarthest);
+        const auto whole = static_cast<std::int32_t>(columns);
+        return whole < columns ? whole + 1 : whole;
+    }
 };
 
 ColorRamp::ColorRamp(const SurfaceStyle& style, Course course)
@@ -71,6 +84,7 @@ ColorRamp::ColorRamp(const SurfaceStyle& style, Course course)
     const Float4 middle = channelsOf(style.gradientMid, style.opacity);
     const Float4 end = channelsOf(style.gradientEnd, style.opacity);
     const double length = course == Course::Mirrored ? 0.5 : 1.0;
+    add(0, start);
     add(0, start);
     if (style.useGradientMid)
         add(length / 2, middle);
@@ -82,38 +96,53 @@ ColorRamp::ColorRamp(const SurfaceStyle& style, Course course)
     add(1, start);
 }
 
-ColorRamp::Piece ColorRamp::pieceAt(double position) const
+void ColorRamp::add(double position, Float4 channels)
 {
-    int above = 0; // the first stop beyond the position
-    while (above < count_ && stops_[static_cast<std::size_t>(above)].position <= position)
-        ++above;
-    if (above == 0)
-        return {-kInfinity, stops_[0].position, 0, stops_[0].channels, Float4{}};
-    const Stop& low = stops_[static_cast<std::size_t>(above - 1)];
-    if (above == count_)
-        return {low.position, kInfinity, low.position, low.channels, Float4{}};
-    const Stop& high = stops_[static_cast<std::size_t>(above)];
-    const auto length = static_cast<float>(high.position - low.position);
-    return {low.position, high.position, low.position, low.channels, (high.channels - low.channels) / length};
+    if (count_ > 0) {
+        Piece& last = pieces_[count_ - 1];
+        if (position > last.position)
+            last.slope = (channels - last.channels) / static_cast<float>(position - last.position);
+    }
+    pieces_[count_].position = position;
+    pieces_[count_++].channels = channels;
 }
 
-void ColorRamp::fillRun(Pixel* out, std::int32_t count, double start, double step) const
+// Columns of one piece, of which the first one in the row is given. They are counted in fixed point from that
+// one and, for the sums not to go astray, anew every so many columns.
+void ColorRamp::fillPiece(Pixel* out, Span columns, const Piece& piece, const Row& row, std::int32_t first)
 {
-    std::int32_t done = 0;
-    while (done < count) {
-        const double position = start + step * done;
-        const Piece piece = pieceAt(position);
-        const double limit = step > 0 ? piece.high : piece.low;
-        const double room = step == 0 ? kInfinity : (limit - position) / step;
-        const std::int32_t left = std::min(count - done, kLongestPiece);
-        const std::int32_t length = room < left ? static_cast<std::int32_t>(room) + 1 : left;
-        const Float4 from = piece.channels + piece.slope * static_cast<float>(position - piece.origin);
-        const Float4 change = piece.slope * static_cast<float>(step);
-        if (step == 0 || std::isinf(limit))
-            fillConstant(out + done, length, from);
-        else
-            fillEvenly(out + done, length, from, change);
-        done += length;
+    const Int4 next = simd::truncated(piece.slope * static_cast<float>(row.step) * kOne);
+    for (std::int32_t column = columns.begin; column < columns.end;) {
+        const std::int32_t beyond = (column - first) % kLongestPiece;
+        const std::int32_t count = std::min(columns.end - column, kLongestPiece - beyond);
+        const Int4 counted = simd::truncated(piece.at(row.at(column - beyond)) * kOne);
+        fillEvenly(out + (column - columns.begin), count, counted + next * beyond, next);
+        column += count;
+    }
+}
+
+void ColorRamp::fillRun(Pixel* out, Span columns, double start, double step) const
+{
+    if (step == 0) {
+        std::size_t at = count_ - 1;
+        while (at > 0 && pieces_[at].position > start)
+            --at;
+        return fillConstant(out, columns.length(), pieces_[at].at(at > 0 ? start : pieces_[at].position));
+    }
+    const Row row{start, step, 1 / step};
+    const std::size_t last = count_ - 1;
+    std::int32_t begin = 0;
+    for (std::size_t i = 0; i <= last && begin < columns.end; ++i) {
+        const std::size_t at = step > 0 ? i : last - i;
+        const std::size_t border = step > 0 ? at + 1 : at; // the next piece begins where this one does
+        const std::int32_t end = i < last ? row.firstColumnAt(pieces_[border].position) : columns.end;
+        const Span part = intersect({begin, end}, columns);
+        Pixel* const first = out + (part.begin - columns.begin);
+        if (!part.empty() && (at == 0 || at == last))
+            fillConstant(first, part.length(), pieces_[at].channels);
+        else if (!part.empty())
+            fillPiece(first, part, pieces_[at], row, begin);
+        begin = std::max(begin, end);
     }
 }
 

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "vela/render/pixels/simd.h"
+#include "vela/render/shapes/shape_rows.h"
 #include "vela/theme/records/surface_style.h"
 
 #include <array>
+#include <cstddef>
 
 namespace vela {
 
@@ -14,24 +16,29 @@ public:
     enum class Course { Once, Mirrored };
     ColorRamp(const SurfaceStyle& style, Course course);
 
-    // Writes the colours at start, start + step, start + 2 step, ...
-    void fillRun(Pixel* out, std::int32_t count, double start, double step) const;
+    // Writes the colours of some columns, from 0 up, of a row whose first column lies at start and each
+    // further one a step beyond. What a column gets does not depend on which others are asked for.
+    void fillRun(Pixel* out, Span columns, double start, double step) const;
 
 private:
-    struct Stop {
+    // From a position to that of the next one.
+    struct Piece {
         double position = 0;
         simd::Float4 channels{}; // blue, green, red, alpha: 0 to 255, and what rounding adds
+        simd::Float4 slope{};    // per unit of position
+
+        simd::Float4 at(double place) const noexcept
+        {
+            return channels + slope * static_cast<float>(place - position);
+        }
     };
-    struct Piece;
+    struct Row;
 
-    void add(double position, simd::Float4 channels)
-    {
-        stops_[static_cast<std::size_t>(count_++)] = {position, channels};
-    }
-    Piece pieceAt(double position) const;
+    void add(double position, simd::Float4 channels);
+    static void fillPiece(Pixel* out, Span columns, const Piece& piece, const Row& row, std::int32_t first);
 
-    std::array<Stop, 5> stops_;
-    int count_ = 0;
+    std::array<Piece, 6> pieces_; // the first is what lies before its position, too
+    std::size_t count_ = 0;
 };
 
 } // namespace vela

@@ -36,7 +36,7 @@ constexpr double perPixel(std::int32_t length) noexcept { return length > 1 ? 1.
 // u - 0.5, exactly 0 in the middle and symmetrical about it.
 constexpr double fromMiddle(std::int32_t at, std::int32_t length) noexcept
 {
-    return length > 1 ? 0.5 * (2 * at - (length - 1)) / (length - 1) : -0.5;
+    return length > 1 ? 0.5 * (2.0 * at - (length - 1)) / (length - 1) : -0.5;
 }
 
 // Kinds that are not linear along a row look their colours up in a table. Its steps are so small that no
@@ -48,7 +48,7 @@ ColorTable colorTable(const ColorRamp& ramp, bool reversed)
 {
     ColorTable table;
     const double step = 1.0 / kTableSteps;
-    ramp.fillRun(table.data(), kTableSteps + 1, reversed ? 1 : 0, reversed ? -step : step);
+    ramp.fillRun(table.data(), {0, kTableSteps + 1}, reversed ? 1 : 0, reversed ? -step : step);
     return table;
 }
 
@@ -57,8 +57,9 @@ Float4 fourFromMiddle(std::int32_t x, std::int32_t width) noexcept
 {
     if (width == 1)
         return simd::splat(-0.5F);
-    const Int4 doubled = simd::splat(2 * x - (width - 1)) + Int4{0, 2, 4, 6};
-    return simd::toFloat(doubled) * simd::splat(0.5F / static_cast<float>(width - 1));
+    const UInt4 doubled =
+        2 * reinterpret_cast<UInt4>(simd::columnsFrom(x)) - static_cast<std::uint32_t>(width - 1);
+    return simd::toFloat(reinterpret_cast<Int4>(doubled)) * simd::splat(0.5F / static_cast<float>(width - 1));
 }
 
 void fillAlongAxis(const LayerTarget& target, const Coverage& coverage, const ColorRamp& ramp,
@@ -67,7 +68,7 @@ void fillAlongAxis(const LayerTarget& target, const Coverage& coverage, const Co
     const double alongRow = axis.acrossU * perPixel(coverage.size().width);
     const double alongColumn = axis.acrossV * perPixel(coverage.size().height);
     paintCovered(target, coverage, [&](Pixel* first, Span run, std::int32_t y) {
-        ramp.fillRun(first, run.length(), axis.offset + alongRow * run.begin + alongColumn * y, alongRow);
+        ramp.fillRun(first, run, axis.offset + alongColumn * y, alongRow);
     });
 }
 
@@ -78,7 +79,7 @@ void fillAcross(const LayerTarget& target, const Coverage& coverage, const Color
     const Rect visible = target.visible();
     const double step = axis.acrossU * perPixel(coverage.size().width);
     std::vector<Pixel> row(static_cast<std::size_t>(visible.width));
-    ramp.fillRun(row.data(), visible.width, axis.offset + step * visible.x, step);
+    ramp.fillRun(row.data(), {visible.x, visible.x + visible.width}, axis.offset, step);
     paintCovered(target, coverage, [&](Pixel* first, Span run, std::int32_t) {
         std::copy_n(row.data() + (run.begin - visible.x), run.length(), first);
     });
@@ -95,9 +96,10 @@ void fillDiamond(const LayerTarget& target, const Coverage& coverage, const Colo
         const Span left = intersect(run, {0, middle});
         const Span right = intersect(run, {middle, width});
         if (!left.empty())
-            ramp.fillRun(first, left.length(), startAt(left.begin), -step);
+            ramp.fillRun(first, left, startAt(0), -step);
         if (!right.empty())
-            ramp.fillRun(first + left.length(), right.length(), startAt(right.begin), step);
+            ramp.fillRun(first + left.length(), {right.begin - middle, right.end - middle}, startAt(middle),
+                         step);
     });
 }
 

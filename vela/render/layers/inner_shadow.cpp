@@ -45,27 +45,35 @@ Falloffs gathered(const Falloff& a, const Falloff& b, const Falloff& c, const Fa
     return {Float4{a.wide, b.wide, c.wide, d.wide}, Float4{a.close, b.close, c.close, d.close}};
 }
 
-// The falloff for each column of a row, by its distance to the nearer side. It is read in fours.
+// The falloff for each visible column of a row, by its distance to the nearer side. It is read in fours.
 class FalloffByColumn {
 public:
-    FalloffByColumn(std::int32_t size, std::int32_t width)
-        : wide_(static_cast<std::size_t>(width) + simd::kLanes), close_(wide_.size())
+    FalloffByColumn(std::int32_t size, std::int32_t width, Span visible)
+        : first_(visible.begin), wide_(static_cast<std::size_t>(visible.length()) + simd::kLanes),
+          close_(wide_.size())
     {
-        for (std::int32_t x = 0; x < std::min(size, (width + 1) / 2); ++x) {
-            const Falloff falloff = falloffAt(static_cast<float>(x), size);
-            for (const std::int32_t column : {x, width - 1 - x}) {
-                wide_[static_cast<std::size_t>(column)] = falloff.wide;
-                close_[static_cast<std::size_t>(column)] = falloff.close;
-            }
+        for (std::int32_t x = visible.begin; x < visible.end; ++x) {
+            const std::int32_t opposite = width - 1 - x; // as far from the other side
+            const std::int32_t distance = std::min(x, opposite);
+            if (distance >= size)
+                continue;
+            const auto column = static_cast<std::size_t>(x - first_);
+            const bool known = opposite >= first_ && opposite < x;
+            const auto like = static_cast<std::size_t>(known ? opposite - first_ : 0);
+            const Falloff falloff =
+                known ? Falloff{wide_[like], close_[like]} : falloffAt(static_cast<float>(distance), size);
+            wide_[column] = falloff.wide;
+            close_[column] = falloff.close;
         }
     }
 
     Falloffs at(std::int32_t x) const noexcept
     {
-        return {simd::load(wide_.data() + x), simd::load(close_.data() + x)};
+        return {simd::load(wide_.data() + (x - first_)), simd::load(close_.data() + (x - first_))};
     }
 
 private:
+    std::int32_t first_;
     std::vector<float> wide_;
     std::vector<float> close_;
 };
@@ -118,8 +126,7 @@ public:
     // Of four pixels of the row.
     Float4 operator()(std::int32_t x) const
     {
-        const Float4 u =
-            simd::toFloat(simd::splat(x) + Int4{0, 1, 2, 3}) * simd::splat(perPixel(size_.width));
+        const Float4 u = simd::toFloat(simd::columnsFrom(x)) * simd::splat(perPixel(size_.width));
         const Float4 v = simd::splat(v_);
         const Float4 value = simd::splat(0.18F) * simd::max(u, v) +
                              simd::splat(0.08F) * (simd::splat(1.0F) - simd::min(u, v)) +
@@ -187,7 +194,8 @@ private:
 // The nearest of the four edges counts: it is the one with the strongest falloff.
 void ShadowPainter::byRectangle(const Coverage& coverage)
 {
-    const FalloffByColumn columns(shadowSize_, size_.width);
+    const Rect visible = target_.visible();
+    const FalloffByColumn columns(shadowSize_, size_.width, {visible.x, visible.x + visible.width});
     paintCovered(target_, coverage, [&](Pixel* first, Span run, std::int32_t y) {
         const std::int32_t toRow = std::min(y, size_.height - 1 - y);
         const Falloff row =

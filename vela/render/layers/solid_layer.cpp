@@ -8,9 +8,18 @@ namespace vela {
 void fillSolid(const LayerTarget& target, const Coverage& coverage, Color color, std::uint8_t alpha)
 {
     const Pixel pixel = premultiplied(color, alpha);
-    paintCovered(target, coverage, [pixel](Pixel* first, Span run, std::int32_t) {
-        simd::fillPixels(first, run.length(), pixel);
+    // Whole rows lie one behind the other: they are filled as one.
+    Pixel* begin = nullptr;
+    std::ptrdiff_t count = 0;
+    paintCovered(target, coverage, [&](Pixel* first, Span run, std::int32_t) {
+        if (first != begin + count) {
+            simd::fillPixels(begin, count, pixel);
+            begin = first;
+            count = 0;
+        }
+        count += run.length();
     });
+    simd::fillPixels(begin, count, pixel);
 }
 
 void fillStroke(const LayerTarget& target, const Coverage& coverage, Color color, std::int32_t penWidth)

@@ -105,6 +105,13 @@ Shades shadesOf(const SurfaceStyle& style) noexcept
     return shades;
 }
 
+// Rounded down, and no further than whole numbers and those of fractions go alike.
+std::int32_t wholeColumn(float x) noexcept
+{
+    constexpr float kFarthest = 1 << 30;
+    return static_cast<std::int32_t>(std::clamp(x, 0.0F, kFarthest));
+}
+
 template <typename Edge>
 void shadeBody(const LayerTarget& target, const Coverage& coverage, const SurfaceStyle& style,
                const Edge& edge)
@@ -119,8 +126,7 @@ void shadeBody(const LayerTarget& target, const Coverage& coverage, const Surfac
     paintCovered(target, coverage, [&](Pixel* first, Span run, std::int32_t row) {
         const float y = static_cast<float>(row) + 0.5F;
         const InnerRange range = edge.innerRange(relief.edgeReach(), y);
-        const Span face = intersect(run, {static_cast<std::int32_t>(std::max(range.low, 0.0F)) + 1,
-                                          static_cast<std::int32_t>(std::max(range.high, 0.0F))});
+        const Span face = intersect(run, {wholeColumn(range.low) + 1, wholeColumn(range.high)});
         const auto nearEdge = [&](std::int32_t column) {
             const Float4 x = simd::pixelCentres(column);
             return shade(relief.at(x, y, edge.at(x, y)));

@@ -37,7 +37,7 @@ float coordinateStep(float length, float across) noexcept
 }
 
 // Rounded once.
-float coordinateAt(float start, float step, std::int32_t index) noexcept
+float coordinateAt(float start, float step, double index) noexcept
 {
     return static_cast<float>(start + static_cast<double>(step) * index);
 }
@@ -71,9 +71,12 @@ MaterialInput::MaterialInput(const MaterialConstants& constants, Span columns)
     axisY_ = static_cast<float>(axis.acrossV);
 
     const float step = coordinateStep(width_, height_);
-    for (std::int32_t x = columns.begin; x < columns.end; x += simd::kLanes)
-        for (std::int32_t lane = 0; lane < simd::kLanes; ++lane)
-            pixelX_.push_back(coordinateAt(0.5F * step, step, x + lane) * width_);
+    const std::size_t groups = (static_cast<std::size_t>(columns.length()) + simd::kLanes - 1) / simd::kLanes;
+    pixelX_.reserve(groups * simd::kLanes);
+    for (std::size_t column = 0; column < groups * simd::kLanes; ++column) {
+        const double x = columns.begin + static_cast<double>(column);
+        pixelX_.push_back(coordinateAt(0.5F * step, step, x) * width_);
+    }
     tx_.resize(pixelX_.size());
     for (std::size_t column = 0; column < pixelX_.size(); column += simd::kLanes)
         simd::store(&tx_[column], materialUv(pixelX(column), width_, originX_, mapping_.z, mapping_));

@@ -6,10 +6,24 @@
 #include "vela/render/pixels/pixel_buffer.h"
 
 #include <cmath>
+#include <cstddef>
 #include <cstring>
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
+#endif
+
+// Not where memory is watched: the sanitizer cannot see into the processor's own fill.
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define VELA_WATCHED_MEMORY
+#endif
+#endif
+#if defined(__SANITIZE_ADDRESS__)
+#define VELA_WATCHED_MEMORY
+#endif
+#if defined(__x86_64__) && !defined(VELA_WATCHED_MEMORY)
+#define VELA_STRING_FILL
 #endif
 
 namespace vela::simd {
@@ -36,10 +50,17 @@ inline void store(float* to, Float4 four) noexcept { std::memcpy(to, &four, size
 inline Int4 truncated(Float4 value) noexcept { return __builtin_convertvector(value, Int4); }
 inline Float4 toFloat(Int4 value) noexcept { return __builtin_convertvector(value, Float4); }
 
-// The x of four neighbouring pixels' centres.
+// A column and the three to its right. Beyond the last number there is they begin again: such columns lie
+// beyond every surface.
+inline Int4 columnsFrom(std::int32_t column) noexcept
+{
+    return reinterpret_cast<Int4>(splat(static_cast<std::uint32_t>(column)) + UInt4{0, 1, 2, 3});
+}
+
+// The x of their pixels' centres.
 inline Float4 pixelCentres(std::int32_t column) noexcept
 {
-    return toFloat(splat(column) + Int4{0, 1, 2, 3}) + splat(0.5F);
+    return toFloat(columnsFrom(column)) + splat(0.5F);
 }
 
 inline Float4 sqrt(Float4 value) noexcept
@@ -104,26 +125,30 @@ inline UInt4 packedPixels(Float4 blue, Float4 green, Float4 red, Float4 alpha) n
 
 inline void store(Pixel* out, UInt4 pixels) noexcept { std::memcpy(out, &pixels, sizeof pixels); }
 
-inline void fillPixels(Pixel* out, std::int32_t count, Pixel pixel) noexcept
+inline void fillPixels(Pixel* out, std::ptrdiff_t count, Pixel pixel) noexcept
 {
     const UInt4 four = splat(pixel);
-    std::int32_t i = 0;
-#if defined(__x86_64__) && !defined(__SANITIZE_ADDRESS__) // the sanitizer cannot see into it
+    std::ptrdiff_t i = 0;
+    constexpr std::ptrdiff_t kLine = 16; // the pixels of a cache line
+#if defined(VELA_STRING_FILL)
     // The processor's own fill does not read memory before it writes it, which halves the traffic. It wants
-    // to start at a cache line, and below some hundred bytes it takes longer to start than to write.
-    constexpr std::int32_t kWorthStarting = 128;
+    // to start at a cache line, and below some thousand bytes it takes longer to start than to write.
+    constexpr std::ptrdiff_t kWorthStarting = 384;
     if (count >= kWorthStarting) {
-        constexpr std::int32_t kLine = 16; // pixels
         for (; i < kLine; i += kLanes)
             store(out + i, four);
-        i = kLine - static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(out) / sizeof(Pixel) % kLine);
+        i = kLine -
+            static_cast<std::ptrdiff_t>(reinterpret_cast<std::uintptr_t>(out) / sizeof(Pixel) % kLine);
         Pixel* line = out + i;
         auto left = static_cast<std::size_t>(count - i);
         __asm__ volatile("rep stosl" : "+D"(line), "+c"(left) : "a"(pixel) : "memory");
         return;
     }
 #endif
-    for (; i + kLanes <= count; i += kLanes)
+    for (; count - i >= kLine; i += kLine)
+        for (std::ptrdiff_t lane = 0; lane < kLine; lane += kLanes)
+            store(out + i + lane, four);
+    for (; count - i >= kLanes; i += kLanes)
         store(out + i, four);
     for (; i < count; ++i)
         out[i] = pixel;
@@ -135,7 +160,7 @@ template <typename Four>
 void writeInFours(Pixel* out, std::int32_t begin, std::int32_t end, Four&& four)
 {
     std::int32_t column = begin;
-    for (; column + kLanes <= end; column += kLanes)
+    for (; end - column >= kLanes; column += kLanes)
         store(out + (column - begin), four(column));
     if (column < end) {
         const UInt4 last = four(column);

@@ -44,14 +44,15 @@ std::span<const Corner> cornersOf(ShapeKind kind) noexcept
 
 std::int32_t place(At at, std::int32_t origin, std::int32_t length, std::int32_t inset) noexcept
 {
+    const auto from = [origin](std::int64_t distance) { return saturated(origin + distance); };
     switch (at) {
     case At::Near: return origin;
-    case At::NearInset: return origin + inset;
-    case At::Middle: return origin + length / 2;
-    case At::FarInset: return origin + length - inset;
+    case At::NearInset: return from(inset);
+    case At::Middle: return from(length / 2);
+    case At::FarInset: return from(std::int64_t{length} - inset);
     case At::Far: break;
     }
-    return origin + length;
+    return from(length);
 }
 
 // The radius is half the diameter as a real number, so odd diameters stay symmetrical.
