@@ -69,6 +69,19 @@ TEST_F(BitmapSkinTest, DecodesWhatWasWritten)
         EXPECT_EQ(image.pixels[i], pixels[i] | 0xFF000000) << i;
 }
 
+// Decoded a few rows at a time, the last of them fewer.
+TEST_F(BitmapSkinTest, ALargePictureIsTheSameFromTopToBottom)
+{
+    std::vector<Pixel> pixels(700 * 801);
+    for (std::size_t i = 0; i < pixels.size(); ++i)
+        pixels[i] = static_cast<Pixel>(i * 2654435761U) & 0xFFFFFF;
+    ASSERT_TRUE(tools::writePng(file(L"large.png"), {pixels.data(), {700, 801}, 700}));
+    const BitmapImage image = decodeImage(file(L"large.png"));
+    ASSERT_EQ(image.size, (Size{700, 801}));
+    for (std::size_t i = 0; i < pixels.size(); ++i)
+        ASSERT_EQ(image.pixels[i], pixels[i] | 0xFF000000) << i;
+}
+
 TEST_F(BitmapSkinTest, MissingDamagedAndEnormousPicturesAreNone)
 {
     Pixel pixels[64] = {};

@@ -3,6 +3,7 @@
 #include "vela/com_apartment_win32.h"
 #include "vela/com_pointer_win32.h"
 
+#include <algorithm>
 #include <cstring>
 #include <iterator>
 #include <string_view>
@@ -71,6 +72,24 @@ ComPointer<IWICFormatConverter> openFrame(IWICImagingFactory& factory, const std
     return converter;
 }
 
+// A converter may hold all that it is asked for in a format between, so it is asked for a few rows at a time.
+bool copyInBands(IWICBitmapSource& source, BitmapImage& image)
+{
+    constexpr std::int32_t kBandPixels = 1 << 18;
+    const std::int32_t rows = std::max(kBandPixels / image.size.width, 1);
+    for (std::int32_t y = 0; y < image.size.height; y += rows) {
+        const WICRect band{0, y, image.size.width, std::min(rows, image.size.height - y)};
+        const std::size_t rowBytes = static_cast<std::size_t>(band.Width) * sizeof(Pixel);
+        Pixel* const first =
+            image.pixels.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(band.Width);
+        if (FAILED(source.CopyPixels(&band, static_cast<UINT>(rowBytes),
+                                     static_cast<UINT>(rowBytes * static_cast<std::size_t>(band.Height)),
+                                     reinterpret_cast<BYTE*>(first))))
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 BitmapImage decodeImage(const std::wstring& file)
@@ -90,10 +109,7 @@ BitmapImage decodeImage(const std::wstring& file)
         return {};
     BitmapImage image{{static_cast<std::int32_t>(width), static_cast<std::int32_t>(height)},
                       std::vector<Pixel>(std::size_t{width} * height)};
-    const auto bytes = static_cast<UINT>(image.pixels.size() * sizeof(Pixel));
-    if (FAILED(frame->CopyPixels(nullptr, width * 4, bytes, reinterpret_cast<BYTE*>(image.pixels.data()))))
-        return {};
-    return image;
+    return copyInBands(*frame.get(), image) ? image : BitmapImage{};
 }
 
 } // namespace vela
