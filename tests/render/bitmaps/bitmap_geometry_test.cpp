@@ -2,7 +2,8 @@
 
 #include "tests/render/bitmaps/bitmap_testing.h"
 
-#include <gtest/gtest.h>
+#include "tests/render/layers/layer_testing.h"
+#include "vela/theme/fields/record_scale.h"
 
 namespace vela {
 namespace {
@@ -64,24 +65,59 @@ TEST(BitmapGeometry, LeavesRoomInsideItsInsetsAndItsOutline)
 {
     SurfaceStyle style;
     const Rect surface{100, 50, 8, 4};
-    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, 96, nullptr), surface);
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, nullptr), surface);
     SurfaceGeometry& geometry = style.geometry.ensure();
     geometry.safeInsets = {1, 0, 2, 0};
     geometry.headerInsets = {0, 1, 0, 1};
-    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, 96, nullptr), (Rect{101, 50, 5, 4}));
-    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, 192, nullptr), (Rect{102, 50, 2, 4}));
-    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::headerInsets, 96, nullptr), (Rect{100, 51, 8, 2}));
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, nullptr), (Rect{101, 50, 5, 4}));
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::headerInsets, nullptr), (Rect{100, 51, 8, 2}));
 
     const auto outlineOf = [](const std::vector<std::string>& rows) {
         return alphaRuns(TintedBitmap(pictureOf(rows), {}), {{0, 0, 8, 4}, {}}, {8, 4}, 16);
     };
     const RunMask leaning = outlineOf({"..rrrr..", ".rrrrrr.", "rrrrrrrr", "rrrrrr.."});
     geometry.textInsets = {0, 0, 3, 0};
-    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, 96, &leaning), (Rect{102, 50, 3, 4}));
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, &leaning), (Rect{102, 50, 3, 4}));
     const RunMask soft = outlineOf({"........", "rrrrrrrr", "rrrrrrrr", "........"});
-    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, 96, &soft), (Rect{100, 50, 5, 4}));
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, &soft), (Rect{100, 50, 5, 4}));
     geometry.textInsets = {2147483647, 0, 2147483647, 0};
-    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, 480, nullptr).width, 0);
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, nullptr).width, 0);
+}
+
+// A plate whose frame is 12 pixels wide, on a monitor with twice as many.
+TEST(BitmapGeometry, AFrameAndWhatItLeavesFreeGrowTogether)
+{
+    std::vector<std::string> rows(40, std::string(12, 'r') + std::string(16, 'g') + std::string(12, 'r'));
+    const TintedBitmap plate(pictureOf(rows), {});
+    SurfaceStyle style;
+    style.shape = ShapeKind::Rect;
+    style.useNineSlice = true;
+    style.nineSlice = {12, 12, 12, 12};
+    style.geometry.ensure().textInsets = {12, 12, 12, 12};
+    const SurfaceStyle scaled = scaledToDpi(style, 192);
+    const Rect surface{0, 0, 200, 90};
+    EXPECT_EQ(roomOn(style, surface, &SurfaceGeometry::textInsets, nullptr), (Rect{12, 12, 176, 66}));
+    EXPECT_EQ(roomOn(scaled, surface, &SurfaceGeometry::textInsets, nullptr), (Rect{24, 24, 152, 42}));
+    const auto frameOf = [&](const SurfaceStyle& painted) {
+        const Picture picture = drawLayer({0, 45, 200, 1}, [&](const LayerTarget& target) {
+            fillBitmap(target, {ShapeKind::Rect, sizeOf(surface)}, plate,
+                       bitmapPlacement(painted, sizeOf(surface)));
+        });
+        const auto inside = std::find_if_not(picture.pixels.begin(), picture.pixels.end(),
+                                             [](Pixel pixel) { return pixel == 0xFFFF0000; });
+        return inside - picture.pixels.begin();
+    };
+    EXPECT_EQ(frameOf(style), 12);
+    EXPECT_EQ(frameOf(scaled), 24);
+}
+
+TEST(BitmapGeometry, ASurfaceBeyondAllMeasureKeepsItsShape)
+{
+    const TintedBitmap skin(pictureOf(kNotched), {});
+    SurfaceStyle style;
+    style.geometry.ensure().mode = AlphaHitMode::AlphaLayout;
+    EXPECT_TRUE(bitmapOutline(style, {600, 400}, {&skin, nullptr}).has_value());
+    EXPECT_FALSE(bitmapOutline(style, {INT32_MAX, INT32_MAX}, {&skin, nullptr}).has_value());
 }
 
 } // namespace

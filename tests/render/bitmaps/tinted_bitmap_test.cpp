@@ -2,6 +2,8 @@
 
 #include "tests/render/bitmaps/bitmap_testing.h"
 #include "tests/render/layers/layer_testing.h"
+#include "vela/render/bitmaps/bitmap_geometry.h"
+#include "vela/theme/fields/record_scale.h"
 
 namespace vela {
 namespace {
@@ -55,6 +57,73 @@ TEST(TintedBitmap, NineSlicesKeepCornersAndStretchTheRest)
     // Margins that leave no middle, and nonsense from a skin, still paint within the bitmap.
     EXPECT_EQ(painted(bitmap, {4, 1}, {{0, 0, 4, 1}, {2, 0, 1, 0}}), (Rows{"bwwb"}));
     EXPECT_EQ(painted(bitmap, {3, 3}, {{0, 0, 3, 3}, {99, -5, 99, 99}}).size(), 3U);
+}
+
+// The margins cut out of the picture are its own pixels; those painted are as long as all lengths are there.
+TEST(TintedBitmap, NineSlicesGrowWithTheDpi)
+{
+    const TintedBitmap bitmap(pictureOf({"rgr", "bwb", "rgr"}), {});
+    const Insets ones{1, 1, 1, 1};
+    const Rows doubled{"rrggrr", "rrggrr", "bbwwbb", "rrggrr", "rrggrr"};
+    EXPECT_EQ(painted(bitmap, {6, 5}, {{0, 0, 6, 5}, ones, 192}), doubled);
+    EXPECT_EQ(painted(bitmap, {2, 2}, {{0, 0, 2, 2}, ones, 480}), (Rows{"rr", "rr"}));
+}
+
+TEST(TintedBitmap, CoversASurfaceThatItHidesWhole)
+{
+    const TintedBitmap opaque(pictureOf({"rgb"}), {});
+    const TintedBitmap holed(pictureOf({"r.b"}), {});
+    SurfaceStyle style;
+    const Size size{30, 20};
+    EXPECT_EQ(coverOn(opaque, bitmapPlacement(style, size), size), BitmapCover::Full);
+    EXPECT_EQ(coverOn(holed, bitmapPlacement(style, size), size), BitmapCover::Partial);
+    style.geometry.ensure().paintInsets = {-3, 0, -2147483647, 0};
+    EXPECT_EQ(coverOn(opaque, bitmapPlacement(style, size), size), BitmapCover::Full);
+    for (const Insets& ring : {Insets{1, 0, 0, 0}, Insets{0, 0, 0, 1}, Insets{40, 0, 0, 0}}) {
+        style.geometry.ensure().paintInsets = ring;
+        EXPECT_EQ(coverOn(opaque, bitmapPlacement(style, size), size), BitmapCover::Partial);
+    }
+}
+
+TEST(TintedBitmap, IsMadeWhereItsPictureLiesAndWeighsItsHalvedOnesToo)
+{
+    BitmapImage image{{64, 32}, std::vector<Pixel>(64 * 32, 0xFF102030)};
+    const Pixel* const pixels = image.pixels.data();
+    const TintedBitmap bitmap(std::move(image), {});
+    EXPECT_EQ(bitmap.original().pixels.data(), pixels);
+    EXPECT_EQ(bitmap.weight(), 2048U + 512 + 128 + 32 + 8 + 2);
+}
+
+// A skin may name any length.
+TEST(TintedBitmap, HasNoAlphaOutsideItsPlacementWhateverTheLengths)
+{
+    constexpr std::int32_t kLimits[] = {INT32_MIN, -1, 0, 1, 7, 1 << 20, INT32_MAX};
+    const TintedBitmap bitmap(pictureOf({"rgb", "hhw"}), {});
+    for (const std::int32_t length : kLimits)
+        for (const std::int32_t origin : kLimits)
+            for (const std::int32_t margin : kLimits)
+                for (const std::int32_t dpi : {1, 96, 480, INT32_MAX}) {
+                    const Rect rect{origin, origin, length, length};
+                    const BitmapPlacement placement{rect, {margin, margin, 1, margin}, dpi};
+                    for (const std::int32_t at : kLimits) {
+                        const bool inside = !isEmpty(intersection(rect, {at, at, 1, 1}));
+                        EXPECT_TRUE(inside ? alphaAt(bitmap, placement, {at, at}) >= 128
+                                           : alphaAt(bitmap, placement, {at, at}) == 0);
+                    }
+                }
+    SurfaceStyle style;
+    style.useNineSlice = true;
+    for (const std::int32_t inset : kLimits)
+        for (const std::int32_t length : {1, 30, INT32_MAX}) {
+            const Insets all{inset, inset, inset, inset};
+            style.nineSlice = style.geometry.ensure().paintInsets = all;
+            style.geometry.ensure().hitInsets = all;
+            const Size size{length, length};
+            const SurfaceStyle large = scaledToDpi(style, 480);
+            EXPECT_LE(alphaAt(bitmap, bitmapPlacement(large, size), {0, length - 1}), 255);
+            if (hitSurface(large, ShapeKind::Rect, size, {0, 0}, {&bitmap, nullptr}))
+                EXPECT_LE(inset, 0);
+        }
 }
 
 TEST(TintedBitmap, BlendsBetweenPixelsWhenStretchedAndAveragesWhenReduced)

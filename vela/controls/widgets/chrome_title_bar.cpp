@@ -135,7 +135,7 @@ ThemedButton& ChromeTitleBar::addHeaderAction(std::int32_t number, std::wstring 
 void ChromeTitleBar::layoutChildren()
 {
     dragArea_.setBounds(localBounds());
-    const Rect room = surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::childLayoutInsets, dpi());
+    const Rect room = surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::childLayoutInsets);
     const Size size{style_.buttonWidth, std::min(style_.buttonHeight, room.height)};
     std::int32_t right = room.x + room.width - style_.rightMargin;
     const auto place = [&](ThemedButton& each, std::int32_t width, std::int32_t gap) {
@@ -173,7 +173,7 @@ Rect ChromeTitleBar::titleRect() const noexcept
 
 Rect ChromeTitleBar::contentBounds() const
 {
-    return surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::textInsets, dpi());
+    return surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::textInsets);
 }
 
 void ChromeTitleBar::paint(HDC dc, Point origin)

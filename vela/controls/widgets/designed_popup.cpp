@@ -195,7 +195,7 @@ std::int32_t DesignedPopup::contentRight() const noexcept
 
 Insets DesignedPopup::around(Insets SurfaceGeometry::*part) const noexcept
 {
-    return insetsOf(style_.surface, part, dpi());
+    return insetsOf(style_.surface, part);
 }
 
 Rect DesignedPopup::headerRoom() const noexcept

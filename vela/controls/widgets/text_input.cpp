@@ -37,7 +37,7 @@ Size TextInput::minimumSize() const
     const Size own = Control::minimumSize();
     if (isCollapsed())
         return own;
-    const Insets around = insetsOf(style_.surface, &SurfaceGeometry::textInsets, dpi());
+    const Insets around = insetsOf(style_.surface, &SurfaceGeometry::textInsets);
     return largerOf(own, {2 * style_.paddingX + scaled(2 * kCaretMargin) + around.left + around.right,
                           2 * style_.paddingY + lineHeight(style_.text, dpi()) + around.top + around.bottom});
 }
@@ -45,7 +45,7 @@ Size TextInput::minimumSize() const
 // By the surface at rest, whatever the state: the text stays where it is.
 Rect TextInput::contentBounds() const
 {
-    return surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::textInsets, dpi());
+    return surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::textInsets);
 }
 
 TextServices* TextInput::services() const { return window() ? window()->textServices() : nullptr; }

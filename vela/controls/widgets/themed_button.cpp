@@ -47,7 +47,7 @@ Size ThemedButton::minimumSize() const
     if (isCollapsed() || text_.empty())
         return minimum;
     const FontSpec& font = style_.text.normal;
-    const Insets around = insetsOf(style_.surface.normal, &SurfaceGeometry::textInsets, dpi());
+    const Insets around = insetsOf(style_.surface.normal, &SurfaceGeometry::textInsets);
     const std::int32_t caption = measureTextWidth(text_, font, dpi()) + 2 * scaled(kComfortablePadding);
     return largerOf(minimum, {caption + around.left + around.right,
                               lineHeight(font, dpi()) + around.top + around.bottom});
@@ -55,7 +55,7 @@ Size ThemedButton::minimumSize() const
 
 Rect ThemedButton::contentBounds() const
 {
-    return surfaceRoom(style_.surface[visualState()], localBounds(), &SurfaceGeometry::textInsets, dpi());
+    return surfaceRoom(style_.surface[visualState()], localBounds(), &SurfaceGeometry::textInsets);
 }
 
 const BitmapSkin* ThemedButton::attachedImage() const

@@ -36,7 +36,7 @@ std::int32_t TooltipView::textLeft() const noexcept
 
 Size TooltipView::preferredSize() const
 {
-    const Insets insets = insetsOf(style_.surface, &SurfaceGeometry::textInsets, dpi());
+    const Insets insets = insetsOf(style_.surface, &SurfaceGeometry::textInsets);
     const std::int32_t around = textLeft() + style_.paddingX + insets.left + insets.right;
     const std::int32_t room = std::max(style_.maxWidth - around, 1);
     const std::int32_t width = std::min(measureTextWidth(text_, style_.textStyle, dpi()) + 1, room);
@@ -47,7 +47,7 @@ Size TooltipView::preferredSize() const
 
 Rect TooltipView::contentBounds() const
 {
-    return surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::textInsets, dpi());
+    return surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::textInsets);
 }
 
 void TooltipView::paint(HDC dc, Point origin)

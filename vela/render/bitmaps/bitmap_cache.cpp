@@ -71,11 +71,12 @@ BitmapCache::Bitmap BitmapCache::load(const View& view)
     if (file.empty())
         return nullptr;
     ++decoded_;
-    const BitmapImage image = decode_(file);
+    BitmapImage image = decode_(file);
     if (isEmpty(image.size))
         return nullptr;
-    return std::make_shared<const TintedBitmap>(view.use == Use::Mask ? TintedBitmap::fromMask(image)
-                                                                      : TintedBitmap(image, view.tint));
+    return std::make_shared<const TintedBitmap>(view.use == Use::Mask
+                                                    ? TintedBitmap::fromMask(std::move(image))
+                                                    : TintedBitmap(std::move(image), view.tint));
 }
 
 } // namespace vela

@@ -8,6 +8,9 @@
 namespace vela {
 namespace {
 
+// Larger than any screen: an outline takes a look at every pixel.
+constexpr std::int64_t kMostOutlinePixels = 64'000'000;
+
 const TintedBitmap* outlineBitmap(AlphaHitMode mode, const SurfaceBitmaps& bitmaps) noexcept
 {
     return mode == AlphaHitMode::MaskLayout ? bitmaps.mask : bitmaps.skin;
@@ -22,8 +25,8 @@ AlphaHitMode wantedMode(const SurfaceStyle& style) noexcept
 
 bool isWithin(Size surface, const Insets& insets, Point point) noexcept
 {
-    return point.x >= insets.left && point.y >= insets.top && point.x < surface.width - insets.right &&
-           point.y < surface.height - insets.bottom;
+    return !isEmpty(
+        intersection(insetBy({0, 0, surface.width, surface.height}, insets), {point.x, point.y, 1, 1}));
 }
 
 Span longestRun(const RunMask& outline, std::int32_t y)
@@ -47,6 +50,8 @@ std::optional<RunMask> bitmapOutline(const SurfaceStyle& style, Size surface, co
 {
     const AlphaHitMode mode = alphaHitMode(style, bitmaps);
     if (mode != AlphaHitMode::AlphaLayout && mode != AlphaHitMode::MaskLayout)
+        return {};
+    if (std::int64_t{surface.width} * surface.height > kMostOutlinePixels)
         return {};
     return alphaRuns(*outlineBitmap(mode, bitmaps), bitmapPlacement(style, surface), surface,
                      style.alphaThreshold);
@@ -82,10 +87,9 @@ Span layoutColumns(const SurfaceGeometry& geometry, const RunMask& outline, std:
     return free.empty() ? Span{} : free;
 }
 
-Rect roomOn(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi,
-            const RunMask* outline)
+Rect roomOn(const SurfaceStyle& style, const Rect& surface, PartInsets part, const RunMask* outline)
 {
-    Rect room = insetBy(surface, insetsOf(style, part, dpi));
+    Rect room = insetBy(surface, insetsOf(style, part));
     if (!outline)
         return room;
     const Span columns = layoutColumns(*style.geometry, *outline, surface.height / 2);

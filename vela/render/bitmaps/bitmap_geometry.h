@@ -19,7 +19,8 @@ struct SurfaceBitmaps {
 // The mode in effect: without the bitmap that it needs, the shape decides.
 AlphaHitMode alphaHitMode(const SurfaceStyle& style, const SurfaceBitmaps& bitmaps) noexcept;
 
-// The outline that a bitmap gives the surface's layers and its window; none when its shape does.
+// The outline that a bitmap gives the surface's layers and its window; none when its shape does, as on a
+// surface beyond all measure.
 std::optional<RunMask> bitmapOutline(const SurfaceStyle& style, Size surface, const SurfaceBitmaps& bitmaps);
 
 // Whether the pixel of the surface reacts to the pointer: by its bitmap where the style says so, else by the
@@ -33,7 +34,6 @@ Span layoutColumns(const SurfaceGeometry& geometry, const RunMask& outline, std:
 
 // What a part's insets leave of the surface, in the columns free in the middle of the outline. Without an
 // outline the surface's shape is it, and all columns are free.
-Rect roomOn(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi,
-            const RunMask* outline);
+Rect roomOn(const SurfaceStyle& style, const Rect& surface, PartInsets part, const RunMask* outline);
 
 } // namespace vela

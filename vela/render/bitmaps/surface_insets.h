@@ -4,13 +4,11 @@
 #include "vela/render/pixels/insets.h"
 #include "vela/theme/records/surface_style.h"
 
-#include <cstdint>
-
 namespace vela {
 
 using PartInsets = Insets SurfaceGeometry::*;
 
-// Device pixels: the part's own or, where those are all 0, the safe ones.
-Insets insetsOf(const SurfaceStyle& style, PartInsets part, std::int32_t dpi) noexcept;
+// The part's own or, where those are all 0, the safe ones.
+Insets insetsOf(const SurfaceStyle& style, PartInsets part) noexcept;
 
 } // namespace vela

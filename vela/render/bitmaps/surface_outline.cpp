@@ -18,7 +18,7 @@ struct OutlineKey {
     friend bool operator==(const OutlineKey& a, const OutlineKey& b) noexcept
     {
         return a.bitmap == b.bitmap && a.mode == b.mode && a.threshold == b.threshold && a.size == b.size &&
-               a.placement.rect == b.placement.rect && a.placement.fixedMargins == b.placement.fixedMargins;
+               a.placement == b.placement;
     }
 };
 

@@ -3,9 +3,11 @@
 #include "vela/render/bitmaps/bitmap_tint.h"
 #include "vela/render/pixels/insets.h"
 #include "vela/render/pixels/length_limits.h"
+#include "vela/theme/fields/record_scale.h"
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace vela {
 namespace {
@@ -52,15 +54,6 @@ BitmapImage halved(const BitmapImage& image)
     return half;
 }
 
-BitmapImage prepared(const BitmapImage& image, const BitmapTint& tint)
-{
-    BitmapImage result{image.size, {}};
-    result.pixels.reserve(image.pixels.size());
-    for (const Pixel pixel : image.pixels)
-        result.pixels.push_back(premultiplied(tinted(channelsOf(pixel), tint)));
-    return result;
-}
-
 // Which two pixels of the bitmap make one of the surface, along one axis.
 struct AxisSample {
     std::int32_t first;
@@ -68,17 +61,19 @@ struct AxisSample {
     unsigned weight; // of the second, 0 to 256
 };
 
-// One axis of the bitmap laid over a length of the surface, with margins at both ends that keep their size.
-// They shrink together when the surface is shorter than both.
+// One axis of the bitmap laid over a length of the surface, with margins at both ends that only grow with the
+// DPI. They shrink together when the surface is shorter than both.
 class AxisMap {
 public:
-    AxisMap(std::int32_t source, std::int32_t painted, std::int32_t nearMargin,
-            std::int32_t farMargin) noexcept
+    AxisMap(std::int32_t source, std::int32_t painted, std::int32_t nearMargin, std::int32_t farMargin,
+            std::int32_t dpi) noexcept
         : source_(source), painted_(painted), near_(std::clamp(nearMargin, 0, source)),
-          far_(std::clamp(farMargin, 0, source - near_)), paintedNear_(near_), paintedFar_(far_)
+          far_(std::clamp(farMargin, 0, source - near_)), paintedNear_(scaledLength(near_, dpi)),
+          paintedFar_(scaledLength(far_, dpi))
     {
-        if (near_ + far_ > painted) {
-            paintedNear_ = static_cast<std::int32_t>(std::int64_t{painted} * near_ / (near_ + far_));
+        const std::int64_t both = std::int64_t{paintedNear_} + paintedFar_;
+        if (both > painted) {
+            paintedNear_ = static_cast<std::int32_t>(std::int64_t{painted} * paintedNear_ / both);
             paintedFar_ = painted - paintedNear_;
         }
     }
@@ -104,7 +99,8 @@ private:
         }
         // 24.8 fixed point: the place of the pixel's centre, counted from the centre of the part's first
         // pixel.
-        const std::int64_t centre = (2 * std::int64_t{pixel} + 1) * length * 128 / painted - 128;
+        const std::int64_t halves = (2 * std::int64_t{pixel} + 1) * length;
+        const std::int64_t centre = halves / painted * 128 + halves % painted * 128 / painted - 128;
         const std::int64_t place = std::clamp<std::int64_t>(centre, 0, (std::int64_t{length} - 1) * 256);
         const auto first = static_cast<std::int32_t>(place >> 8);
         return {start + first, start + std::min(first + 1, length - 1), static_cast<unsigned>(place & 255)};
@@ -126,18 +122,23 @@ public:
     BitmapSampler(const TintedBitmap& bitmap, const BitmapPlacement& placement, Span columns)
         : image_(isPlain(placement.fixedMargins) ? bitmap.levelFor(sizeOf(placement.rect))
                                                  : bitmap.original()),
-          rect_(placement.rect), columns_(intersect(columns, {rect_.x, rect_.x + rect_.width})),
-          rows_(image_.size.height, rect_.height, placement.fixedMargins.top, placement.fixedMargins.bottom)
+          rect_(placement.rect),
+          columns_(intersect(columns, {rect_.x, saturated(std::int64_t{rect_.x} + rect_.width)})),
+          rows_(image_.size.height, rect_.height, placement.fixedMargins.top, placement.fixedMargins.bottom,
+                placement.dpi)
     {
         const AxisMap across(image_.size.width, rect_.width, placement.fixedMargins.left,
-                             placement.fixedMargins.right);
+                             placement.fixedMargins.right, placement.dpi);
         samples_.reserve(static_cast<std::size_t>(columns_.length()));
         for (std::int32_t x = columns_.begin; x < columns_.end; ++x)
             samples_.push_back(across.at(x - rect_.x));
     }
 
     Span columns() const noexcept { return columns_; } // where the bitmap lies
-    bool hasRow(std::int32_t y) const noexcept { return y >= rect_.y && y < rect_.y + rect_.height; }
+    bool hasRow(std::int32_t y) const noexcept
+    {
+        return y >= rect_.y && y < std::int64_t{rect_.y} + rect_.height;
+    }
 
     // The run must lie within columns(), the row within the placement.
     void sampleRow(Pixel* out, Span run, std::int32_t y) const
@@ -161,25 +162,22 @@ private:
 
 } // namespace
 
-TintedBitmap::TintedBitmap(BitmapImage premultipliedImage)
+TintedBitmap::TintedBitmap(BitmapImage image, const BitmapTint& tint)
 {
-    cover_ = isOpaque(premultipliedImage) ? BitmapCover::Full : BitmapCover::Partial;
-    levels_.push_back(std::move(premultipliedImage));
+    for (Pixel& pixel : image.pixels)
+        pixel = premultiplied(tinted(channelsOf(pixel), tint));
+    cover_ = isOpaque(image) ? BitmapCover::Full : BitmapCover::Partial;
+    levels_.push_back(std::move(image));
     while (levels_.back().size.width > 1 && levels_.back().size.height > 1)
         levels_.push_back(halved(levels_.back()));
 }
 
-TintedBitmap::TintedBitmap(const BitmapImage& image, const BitmapTint& tint)
-    : TintedBitmap(prepared(image, tint))
-{
-}
-
-TintedBitmap TintedBitmap::fromMask(const BitmapImage& image)
+TintedBitmap TintedBitmap::fromMask(BitmapImage image)
 {
     BitmapTint stencil;
     stencil.mode = TintMode::Monochrome;
     stencil.maskChannel = isOpaque(image) ? MaskChannel::Brightness : MaskChannel::Alpha;
-    return {image, stencil};
+    return {std::move(image), stencil};
 }
 
 std::size_t TintedBitmap::weight() const noexcept
@@ -201,8 +199,16 @@ const BitmapImage& TintedBitmap::levelFor(Size painted) const noexcept
 BitmapPlacement bitmapPlacement(const SurfaceStyle& style, Size surface) noexcept
 {
     const Insets paintInsets = style.geometry ? limitedInsets(style.geometry->paintInsets) : Insets{};
-    return {insetBy({0, 0, surface.width, surface.height}, paintInsets),
-            style.useNineSlice ? style.nineSlice : Insets{}};
+    Insets margins = style.useNineSlice ? style.nineSlice : Insets{};
+    for (std::int32_t Insets::*const side : {&Insets::left, &Insets::top, &Insets::right, &Insets::bottom})
+        margins.*side = designLength(margins.*side, style.lengthsDpi);
+    return {insetBy({0, 0, surface.width, surface.height}, paintInsets), margins, style.lengthsDpi};
+}
+
+BitmapCover coverOn(const TintedBitmap& bitmap, const BitmapPlacement& placement, Size surface) noexcept
+{
+    const Rect whole{0, 0, surface.width, surface.height};
+    return intersection(placement.rect, whole) == whole ? bitmap.cover() : BitmapCover::Partial;
 }
 
 void fillBitmap(const LayerTarget& target, const Coverage& coverage, const TintedBitmap& bitmap,
@@ -249,11 +255,14 @@ RunMask alphaRuns(const TintedBitmap& bitmap, const BitmapPlacement& placement, 
 
 std::uint8_t alphaAt(const TintedBitmap& bitmap, const BitmapPlacement& placement, Point point)
 {
-    const BitmapSampler sampler(bitmap, placement, {point.x, point.x + 1});
-    if (sampler.columns().empty() || !sampler.hasRow(point.y))
+    const Rect& rect = placement.rect;
+    if (isEmpty(intersection(rect, {point.x, point.y, 1, 1})))
         return 0;
+    const Point inside{point.x - rect.x, point.y - rect.y};
+    const BitmapPlacement own{{0, 0, rect.width, rect.height}, placement.fixedMargins, placement.dpi};
+    const Span column{inside.x, inside.x + 1};
     Pixel pixel = 0;
-    sampler.sampleRow(&pixel, sampler.columns(), point.y);
+    BitmapSampler(bitmap, own, column).sampleRow(&pixel, column, inside.y);
     return static_cast<std::uint8_t>(alphaOf(pixel));
 }
 

@@ -7,6 +7,7 @@
 #include "vela/render/shapes/coverage.h"
 #include "vela/theme/records/surface_style.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -15,33 +16,36 @@ namespace vela {
 // Immutable, so it can be shared and cached. The picture must not be empty.
 class TintedBitmap {
 public:
-    TintedBitmap(const BitmapImage& image, const BitmapTint& tint);
+    // The picture is tinted where it lies: a large one, moved in, is never there twice.
+    TintedBitmap(BitmapImage image, const BitmapTint& tint);
     // A picture that only says where: by its alpha or, when it is opaque, by its brightness.
-    static TintedBitmap fromMask(const BitmapImage& image);
+    static TintedBitmap fromMask(BitmapImage image);
 
-    BitmapCover cover() const noexcept { return cover_; }
+    BitmapCover cover() const noexcept { return cover_; } // Full when every pixel is opaque
     Size size() const noexcept { return levels_.front().size; }
-
-    // Pixels in memory, the halved levels' included.
-    std::size_t weight() const noexcept;
+    std::size_t weight() const noexcept; // in pixels, those of the halved pictures too
 
     // The picture itself, and halved again and again: strong reductions start from the level closest above.
     const BitmapImage& levelFor(Size painted) const noexcept;
     const BitmapImage& original() const noexcept { return levels_.front(); }
 
 private:
-    explicit TintedBitmap(BitmapImage premultiplied);
-
     std::vector<BitmapImage> levels_; // premultiplied
     BitmapCover cover_ = BitmapCover::Full;
 };
 
-// Where on the surface a bitmap lies, and which of its margins keep their size. Lengths are pixels.
+// Where on the surface a bitmap lies, and which of its margins only grow with the DPI.
 struct BitmapPlacement {
     Rect rect;
-    Insets fixedMargins; // of the bitmap and of the surface alike; all 0 when the bitmap is stretched whole
+    Insets fixedMargins = {}; // pixels of the bitmap; all 0 when it is stretched whole
+    std::int32_t dpi = 96;    // at which the margins lie on the surface
+
+    friend bool operator==(const BitmapPlacement&, const BitmapPlacement&) = default;
 };
 BitmapPlacement bitmapPlacement(const SurfaceStyle& style, Size surface) noexcept;
+
+// Full when the bitmap hides the whole surface.
+BitmapCover coverOn(const TintedBitmap& bitmap, const BitmapPlacement& placement, Size surface) noexcept;
 
 void fillBitmap(const LayerTarget& target, const Coverage& coverage, const TintedBitmap& bitmap,
                 const BitmapPlacement& placement);

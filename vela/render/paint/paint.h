@@ -66,7 +66,7 @@ void measureTextEnds(std::wstring_view text, const FontSpec& font, std::int32_t 
 bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point);
 
 // The part of the surface that its bitmap leaves for its text, or for another part of what stands on it.
-Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi);
+Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part);
 
 // Narrows what painting may touch to some rectangles for as long as it lives: what lies in the old clip and
 // in at least one of them.

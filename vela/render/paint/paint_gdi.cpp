@@ -65,9 +65,9 @@ bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point
     return render::isOnSurface(style, hitShape, size, point);
 }
 
-Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi)
+Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part)
 {
-    return render::surfaceRoom(style, surface, part, dpi);
+    return render::surfaceRoom(style, surface, part);
 }
 
 PaintClip::PaintClip(HDC dc, const std::vector<Rect>& rects) : dc_(dc), saved_(narrowClip(dc, rects)) {}

@@ -119,9 +119,9 @@ bool isOnSurface(const SurfaceStyle&, ShapeKind hitShape, Size size, Point point
     return pointInShape(hitShape, size.width, size.height, point);
 }
 
-Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi)
+Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part)
 {
-    return roomOn(style, surface, part, dpi, nullptr);
+    return roomOn(style, surface, part, nullptr);
 }
 
 PaintClip::PaintClip(HDC dc, const std::vector<Rect>& rects) : dc_(dc)

@@ -5,14 +5,18 @@
 #include "vela/theme/records/surface_style.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace vela {
 
 // No width or height below 0, however large the insets.
 constexpr Rect insetBy(const Rect& rect, const Insets& insets) noexcept
 {
-    return {rect.x + insets.left, rect.y + insets.top, std::max(rect.width - insets.left - insets.right, 0),
-            std::max(rect.height - insets.top - insets.bottom, 0)};
+    const auto rest = [](std::int64_t length, std::int32_t near, std::int32_t far) {
+        return saturated(std::max<std::int64_t>(length - near - far, 0));
+    };
+    return {saturated(std::int64_t{rect.x} + insets.left), saturated(std::int64_t{rect.y} + insets.top),
+            rest(rect.width, insets.left, insets.right), rest(rect.height, insets.top, insets.bottom)};
 }
 
 } // namespace vela

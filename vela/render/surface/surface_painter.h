@@ -23,7 +23,7 @@ void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style);
 void paintControlSurface(HDC dc, const Rect& rect, const SurfaceStyle& style);
 void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end);
 bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point);
-Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi);
+Rect surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part);
 
 } // namespace render
 } // namespace vela

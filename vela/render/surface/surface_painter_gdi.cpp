@@ -226,10 +226,10 @@ bool render::isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size siz
     return hitSurface(style, hitShape, size, point, bitmaps.view());
 }
 
-Rect render::surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part, std::int32_t dpi)
+Rect render::surfaceRoom(const SurfaceStyle& style, const Rect& surface, PartInsets part)
 {
     const bool mayHaveOutline = style.geometry && !isEmpty(surface);
-    return roomOn(style, surface, part, dpi,
+    return roomOn(style, surface, part,
                   mayHaveOutline ? surfaceOutline(style, sizeOf(surface), surfaceBitmaps(style)) : nullptr);
 }
 

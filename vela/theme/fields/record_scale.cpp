@@ -24,11 +24,23 @@ void scaleField(std::byte* record, const Field& field, std::int32_t dpi)
             scaleRecord(place + static_cast<std::size_t>(state) * tableOf(field).recordSize, tableOf(field),
                         dpi);
         break;
-    default: break; // insets count the pixels of a bitmap or are scaled where they are used
+    case FieldKind::InsetSides: scaleRecord(place, Fields<Insets>::kTable, dpi); break;
+    case FieldKind::Geometry: {
+        auto& geometry = *reinterpret_cast<Boxed<SurfaceGeometry>*>(place);
+        if (geometry)
+            scaleRecord(&geometry.ensure(), tableOf(field), dpi);
+        break;
+    }
+    default: break;
     }
 }
 
 } // namespace
+
+std::int32_t designLength(std::int32_t scaled, std::int32_t dpi) noexcept
+{
+    return dpi <= 0 ? scaled : mulDiv(scaled, kDesignDpi, dpi);
+}
 
 std::int32_t scaledLength(std::int32_t designPixels, std::int32_t dpi) noexcept
 {
@@ -40,8 +52,11 @@ std::int32_t scaledLength(std::int32_t designPixels, std::int32_t dpi) noexcept
 
 void scaleRecord(void* record, const FieldTable& table, std::int32_t dpi)
 {
-    if (dpi == kDesignDpi)
+    if (dpi <= 0 || dpi == kDesignDpi)
         return;
+    // A surface cuts margins out of its bitmap, whose pixels do not grow.
+    if (&table == &Fields<SurfaceStyle>::kTable)
+        static_cast<SurfaceStyle*>(record)->lengthsDpi = dpi;
     // Several rows may describe one member under different keys: each member is scaled once.
     for (const Field& field : table.fields) {
         const bool described = std::any_of(table.fields.data(), &field, [&field](const Field& earlier) {

@@ -10,6 +10,9 @@ namespace vela {
 // value * dpi / 96, rounded to the nearest with halves away from zero. A length that is not 0 stays visible.
 std::int32_t scaledLength(std::int32_t designPixels, std::int32_t dpi) noexcept;
 
+// Back again, exactly from 96 DPI upwards.
+std::int32_t designLength(std::int32_t scaled, std::int32_t dpi) noexcept;
+
 // Walks the description of the record at `record` and scales its lengths in place.
 void scaleRecord(void* record, const FieldTable& table, std::int32_t dpi);
 

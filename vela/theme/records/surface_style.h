@@ -102,15 +102,14 @@ struct BitmapSkin {
 struct SurfaceGeometry {
     AlphaHitMode mode = AlphaHitMode::ShapeFallback;
 
-    // Device pixels: how high the bands are in which content is laid out, where the bitmap lies, where the
-    // pointer meets it, and what its outline loses before content is laid out in it.
+    // How high the bands are in which content is laid out, where the bitmap lies, where the pointer meets it,
+    // and what its outline loses before content is laid out in it.
     std::int32_t bandHeight = 0;
     Insets paintInsets;
     Insets hitInsets;
     Insets layoutInsets;
 
-    // Pixels at 96 DPI, kept free by what stands on the surface. A part whose own are all 0 takes the safe
-    // ones.
+    // Kept free by what stands on the surface. A part whose own are all 0 takes the safe ones.
     Insets safeInsets;
     Insets textInsets;
     Insets childLayoutInsets; // of a title bar's buttons
@@ -159,7 +158,8 @@ struct SurfaceStyle : MaterialShading, SurfaceMapping {
     std::int32_t glowRadius = 6;
     std::int32_t outlineWidth = 1;
     std::uint32_t noiseSeed = 1;
-    Insets nineSlice;
+    Insets nineSlice;             // at 96 DPI, as wide on the surface as they are in the bitmap
+    std::int32_t lengthsDpi = 96; // internal: the DPI that the lengths have been scaled to
 
     bool drawFill = true;
     bool fillGiven = false; // internal: drawFill is the skin's own word, which outlasts an image
