@@ -5,10 +5,10 @@
 #include "tools/png_file_win32.h"
 #include "vela/render/materials/material_gpu_d3d11.h"
 #include "vela/render/materials/material_overlay.h"
+#include "vela/render/materials/shader_compiler_d3d11.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cstdlib>
 
 #include <objbase.h>
@@ -52,7 +52,7 @@ std::vector<Pixel> drawnAtlas(MappingSpace mapping)
     return drawn;
 }
 
-TEST(MaterialWithoutGpuTest, IsToldAtOnceFromTheSecondOverlayOn)
+TEST(MaterialWithoutGpuTest, IsLookedForOnce)
 {
     if (std::getenv("TAMBER_SHADER_COMPILER"))
         GTEST_SKIP() << "there is a shader compiler here";
@@ -60,11 +60,10 @@ TEST(MaterialWithoutGpuTest, IsToldAtOnceFromTheSecondOverlayOn)
     std::vector<Pixel> pixels(4, kUntouched);
     const MaterialConstants constants = constantsOf({}, {2, 2});
     ASSERT_FALSE(renderMaterialOnGpu(constants, viewOf(pixels, {2, 2})));
-    const auto start = std::chrono::steady_clock::now();
-    for (int call = 0; call < 1000; ++call)
+    const std::size_t attempts = shadersCompiled();
+    for (int call = 0; call < 3; ++call)
         ASSERT_FALSE(renderMaterialOnGpu(constants, viewOf(pixels, {2, 2})));
-    // A single search for a library takes longer than this.
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(20));
+    EXPECT_EQ(shadersCompiled(), attempts);
     EXPECT_EQ(pixels, std::vector<Pixel>(4, kUntouched));
 }
 

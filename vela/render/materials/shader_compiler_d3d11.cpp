@@ -29,10 +29,15 @@ pD3DCompile findCompiler() noexcept
     return nullptr;
 }
 
+std::size_t compiledShaders = 0;
+
 } // namespace
+
+std::size_t shadersCompiled() noexcept { return compiledShaders; }
 
 ComPointer<ID3DBlob> compileShader(std::string_view text, const char* profile)
 {
+    ++compiledShaders;
     static const pD3DCompile compile = findCompiler();
     ComPointer<ID3DBlob> code;
     ComPointer<ID3DBlob> complaints; // nobody reads them
