@@ -54,7 +54,10 @@ private:
     }
     BitmapCover bitmapCover() const noexcept
     {
-        return bitmaps_.skin ? bitmaps_.skin->cover() : BitmapCover::None;
+        if (!bitmaps_.skin)
+            return BitmapCover::None;
+        const Size size = sizeOf(rect_);
+        return coverOn(*bitmaps_.skin, bitmapPlacement(style_, size), size);
     }
     const RunMask* outlineFor(Size size) const { return surfaceOutline(style_, size, bitmaps_); }
     Coverage coverageOf(Size size) const
