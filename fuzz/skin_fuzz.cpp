@@ -1,5 +1,7 @@
-// Any bytes, read as a skin document as the catalogue does, up to the style sheet of its first skin: nothing
-// in a skin makes a reader fail or leads to a value outside its field's range.
+// Any bytes, read as a skin document as the catalogue does, up to controls that wear the styles of its first
+// skin: nothing in a skin makes a reader fail, leads to a value outside its field's range or upsets layout
+// and painting.
+#include "fuzz/skin_painting.h"
 #include "vela/theme/document/json.h"
 #include "vela/theme/document/utf8.h"
 #include "vela/theme/skins/skin_document.h"
@@ -44,9 +46,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(!skin.category.empty() && skin.source == kExternalSource);
     }
     // A sheet takes far longer than reading a skin: more than one would only slow the hunt down.
-    if (!skins.empty())
-        buildStyleSheet(skins.front()).forEachTable([](ControlKind, const auto& table) {
-            checkTable(table);
-        });
+    if (skins.empty())
+        return 0;
+    const StyleSheet styles = buildStyleSheet(skins.front());
+    styles.forEachTable([](ControlKind, const auto& table) { checkTable(table); });
+    paintWith(styles);
     return 0;
 }
