@@ -53,6 +53,7 @@ SurfaceStyle randomStyle(Dice& dice)
     style.gradientKind = static_cast<GradientKind>(dice.upTo(5));
     style.gradientDirection = static_cast<GradientDirection>(dice.upTo(8));
     style.opacity = dice.often() ? 255 : dice.byte();
+    style.outlineWidth = dice.often() ? dice.upTo(9) : dice.anything();
     style.noise = dice.color();
     style.noiseOpacity = dice.byte();
     style.noiseSeed = static_cast<std::uint32_t>(dice.anything());
@@ -85,6 +86,10 @@ const struct {
 } kLayers[] = {
     {"solid", [](const LayerTarget& target, const Coverage& coverage,
                  const SurfaceStyle& style) { fillSolid(target, coverage, style.fill, style.opacity); }},
+    {"stroke",
+     [](const LayerTarget& target, const Coverage& coverage, const SurfaceStyle& style) {
+         fillStroke(target, coverage, style.outline, style.outlineWidth);
+     }},
     {"gradient", fillGradient},
     {"noise",
      [](const LayerTarget& target, const Coverage& coverage, const SurfaceStyle& style) {
@@ -134,13 +139,15 @@ TEST(LayerParts, EqualTheWholeInEveryPixel)
     Dice dice(20261);
     constexpr Size kSizes[] = {{300, 200}, {120, 100}, {97, 61}, {40, 90},
                                {7, 5},     {1, 30},    {200, 1}, {5000, 2}};
-    for (int round = 0; round < 240; ++round) {
+    for (int round = 0; round < 120; ++round) {
         const SurfaceStyle style = randomStyle(dice);
         const Size size = kSizes[static_cast<std::size_t>(round) % std::size(kSizes)];
         const RunMask mask = combOf(size);
         for (const auto& layer : kLayers) {
             EXPECT_TRUE(partsEqualTheWhole(style, {style.shape, size}, layer.fill, dice))
                 << layer.name << ", round " << round;
+            EXPECT_TRUE(partsEqualTheWhole(style, Coverage::uncut(style.shape, size), layer.fill, dice))
+                << layer.name << " not yet cut, round " << round;
             EXPECT_TRUE(partsEqualTheWhole(style, Coverage(mask), layer.fill, dice))
                 << layer.name << " on a mask, round " << round;
         }
