@@ -121,8 +121,9 @@ TEST(TintedBitmap, HasNoAlphaOutsideItsPlacementWhateverTheLengths)
             const Size size{length, length};
             const SurfaceStyle large = scaledToDpi(style, 480);
             EXPECT_LE(alphaAt(bitmap, bitmapPlacement(large, size), {0, length - 1}), 255);
-            if (hitSurface(large, ShapeKind::Rect, size, {0, 0}, {&bitmap, nullptr}))
+            if (hitSurface(large, ShapeKind::Rect, size, {0, 0}, {&bitmap, nullptr})) {
                 EXPECT_LE(inset, 0);
+            }
         }
 }
 
