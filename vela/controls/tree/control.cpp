@@ -149,8 +149,8 @@ void Control::setCollapsed(bool collapsed)
 
 void Control::setFlag(bool& flag, bool value)
 {
-    if (std::exchange(flag, value) != value)
-        invalidate(InvalidationReason::State);
+    if (flag != value)
+        changeReach([&flag, value] { flag = value; });
 }
 
 void Control::addChild(Control& child)
@@ -163,6 +163,7 @@ void Control::removeChild(Control& child)
 {
     if (child.container_ != this)
         return;
+    child.invalidate(InvalidationReason::Geometry);
     child.detach();
     abandon(child);
 }
@@ -203,12 +204,24 @@ void Control::attach(ControlHost* window)
 
 void Control::invalidate(InvalidationReason reason)
 {
-    if (!window_ || !window_->isAlive())
-        return;
-    const Rect client = window_->clientRect();
-    const Rect visible = intersection(inWindow(damageBounds()).value_or(client), client);
+    const Rect visible = clientDamage();
     if (!isEmpty(visible))
         window_->invalidateClient(visible, reason);
+}
+
+void Control::repaintBoth(const Rect& before)
+{
+    const Rect after = clientDamage();
+    if (!isEmpty(before) && around(after, before) != after)
+        window_->invalidateClient(before, InvalidationReason::State);
+    if (!isEmpty(after))
+        window_->invalidateClient(after, InvalidationReason::State);
+}
+
+void Control::visitSurfaces(const SurfaceVisitor& visit) const
+{
+    if (const SurfaceStyle* const surface = paintedSurface())
+        visit({*surface, localBounds()});
 }
 
 void Control::raise(CommandEvent& event)

@@ -7,6 +7,7 @@
 #include "vela/controls/tree/control_state.h"
 #include "vela/controls/tree/input_events.h"
 #include "vela/controls/tree/layout.h"
+#include "vela/controls/tree/painted_surface.h"
 #include "vela/geometry.h"
 #include "vela/platform_handles.h"
 #include "vela/theme/records/theme.h"
@@ -45,7 +46,7 @@ public:
     virtual Size minimumSize() const;
     virtual Rect localBounds() const;
     virtual Rect contentBounds() const { return localBounds(); }
-    // Everything it may paint on: a focus ring lies around the control.
+    // Everything it may paint on, in whatever state: a focus ring, glow and shadow lie around the control.
     virtual Rect damageBounds() const;
     virtual Rect focusBounds() const { return localBounds(); }
     virtual std::vector<Rect> damageRects(std::int32_t limit) const
@@ -91,6 +92,9 @@ public:
     virtual std::optional<Rect> caretRect() const { return std::nullopt; }
     // What the control's outline and background are painted with at present; null when it has none.
     virtual const SurfaceStyle* paintedSurface() const { return nullptr; }
+    // All surfaces that it paints with its present style, those of its other states too, but not those of its
+    // children.
+    virtual void visitSurfaces(const SurfaceVisitor& visit) const;
     // The control that Enter or Escape activates when nothing that has the focus takes the key; null for
     // none.
     virtual Control* dialogControl(DialogRole) const { return nullptr; }
@@ -149,6 +153,15 @@ public:
 protected:
     // Changes a flag that shows; repaints the control only when it really changed.
     void setFlag(bool& flag, bool value);
+    // A change that may let the control reach elsewhere, as one of its style: what it covered before is
+    // repainted with what it covers then.
+    template <typename Change>
+    void changeReach(Change&& change)
+    {
+        const Rect before = clientDamage();
+        change();
+        repaintBoth(before);
+    }
     // Says whose command it is, unless the event has the id of another, and offers it to the handlers at the
     // window. Any of them may destroy this control.
     void raise(CommandEvent& event);
@@ -161,7 +174,8 @@ protected:
 private:
     friend class Panel;
 
-    std::optional<Rect> inWindow(Rect local) const;
+    Rect clientDamage() const;
+    void repaintBoth(const Rect& before);
     void captureDesign(Size parent);
     void rememberSource();
     void adopt(Control& child, Panel* owner);

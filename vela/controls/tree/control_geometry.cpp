@@ -71,7 +71,35 @@ Rect Control::localBounds() const { return {0, 0, std::max(bounds_.width, 0), st
 Rect Control::damageBounds() const
 {
     const Rect local = localBounds();
-    return acceptsFocus() ? united(local, focusRingBounds(focusBounds(), dpi_)) : local;
+    if (isContainer()) // it clips what is painted on it, and its own surface too
+        return local;
+    Rect reach = acceptsFocus() ? united(local, focusRingBounds(focusBounds(), dpi_)) : local;
+    const auto add = [&reach](const Rect& rect) { reach = isEmpty(rect) ? reach : united(reach, rect); };
+    visitSurfaces([&add](const PaintedSurface& surface) { add(reachOf(surface)); });
+    // Children move with it.
+    const Point content = contentOrigin();
+    for (const Control* child : children()) {
+        if (child->visible_)
+            add(movedBy(child->damageBounds(), {child->bounds_.x + content.x, child->bounds_.y + content.y}));
+    }
+    return reach;
+}
+
+// The visible part of it in client pixels; empty without a window.
+Rect Control::clientDamage() const
+{
+    if (!window_ || !window_->isAlive())
+        return {};
+    Rect damage = damageBounds();
+    for (const Control* at = this;; at = at->container_) {
+        damage = movedBy(damage, {at->bounds_.x, at->bounds_.y});
+        const Control* const container = at->container_;
+        if (!container)
+            return intersection(at->window_ ? damage : window_->clientRect(), window_->clientRect());
+        damage = movedBy(damage, container->contentOrigin());
+        if (container->isContainer())
+            damage = intersection(damage, container->localBounds());
+    }
 }
 
 void Control::setAnchors(Anchors anchors)
@@ -97,10 +125,9 @@ void Control::setMinimumSize(Size size)
     minimumSizeMayHaveChanged();
 }
 
-std::optional<Rect> Control::windowRect() const { return inWindow(localBounds()); }
-
-std::optional<Rect> Control::inWindow(Rect local) const
+std::optional<Rect> Control::windowRect() const
 {
+    Rect local = localBounds();
     const Control* top = this;
     for (;; top = top->container_) {
         local = movedBy(local, {top->bounds_.x, top->bounds_.y});

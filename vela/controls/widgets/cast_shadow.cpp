@@ -23,7 +23,8 @@ void CastShadow::paint(HDC dc, const Control& control, const Rect& box) const
     if (!style_.showShadow || !control.parent())
         return;
     const Rect& own = control.bounds();
-    const Rect seen = intersection(movedBy(own, offset()), control.parent()->localBounds());
+    const Rect moved = movedBy(own, {style_.shadowOffsetX, style_.shadowOffsetY});
+    const Rect seen = intersection(moved, control.parent()->localBounds());
     if (!isEmpty(seen) && united(seen, own) != own)
         paintSurface(dc, box, style_);
 }

@@ -18,15 +18,10 @@ public:
 
     // Under the control, which stands at `box`.
     void paint(HDC dc, const Control& control, const Rect& box) const;
-    // The rectangle that control and shadow cover together.
-    Rect reach(const Rect& local) const noexcept
-    {
-        return style_.showShadow ? united(local, movedBy(local, offset())) : local;
-    }
+    // Nothing but the shadow.
+    const SurfaceStyle& surface() const noexcept { return style_; }
 
 private:
-    Point offset() const noexcept { return {style_.shadowOffsetX, style_.shadowOffsetY}; }
-
     SurfaceStyle style_;
 };
 

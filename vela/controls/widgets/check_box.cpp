@@ -27,6 +27,13 @@ constexpr ShapeKind ringShape(ShapeKind box) noexcept
     return fits ? box : ShapeKind::RoundedRect;
 }
 
+// Of a box that is not checked and of one that is: at rest, hot, pressed and disabled.
+constexpr SurfaceStyle CheckBoxStyle::*kBoxes[2][4] = {
+    {&CheckBoxStyle::boxUnchecked, &CheckBoxStyle::boxUncheckedHot, &CheckBoxStyle::boxUncheckedPressed,
+     &CheckBoxStyle::boxUncheckedDisabled},
+    {&CheckBoxStyle::boxChecked, &CheckBoxStyle::boxCheckedHot, &CheckBoxStyle::boxCheckedPressed,
+     &CheckBoxStyle::boxCheckedDisabled}};
+
 constexpr const wchar_t* asText(bool checked) noexcept { return checked ? L"true" : L"false"; }
 
 } // namespace
@@ -38,22 +45,26 @@ CheckBox::CheckBox(std::wstring id, Rect bounds, std::wstring text)
 
 bool CheckBox::applyStyle(const StyleSheet& styles)
 {
-    style_ = scaledToDpi(styles.find<CheckBoxStyle>(styleKey()), dpi());
-    invalidate(InvalidationReason::State);
+    changeReach([&] {
+        style_ = scaledToDpi(styles.find<CheckBoxStyle>(styleKey()), dpi());
+        captionWidth_.reset();
+    });
     return true;
 }
 
 const SurfaceStyle& CheckBox::boxSurface() const noexcept
 {
-    using BoxSurface = SurfaceStyle CheckBoxStyle::*;
-    static constexpr BoxSurface kUnchecked[] = {&CheckBoxStyle::boxUnchecked, &CheckBoxStyle::boxUncheckedHot,
-                                                &CheckBoxStyle::boxUncheckedPressed,
-                                                &CheckBoxStyle::boxUncheckedDisabled};
-    static constexpr BoxSurface kChecked[] = {&CheckBoxStyle::boxChecked, &CheckBoxStyle::boxCheckedHot,
-                                              &CheckBoxStyle::boxCheckedPressed,
-                                              &CheckBoxStyle::boxCheckedDisabled};
     const int state = !isEnabled() ? 3 : isPressed() ? 2 : isHot() ? 1 : 0;
-    return style_.*(checked_ ? kChecked : kUnchecked)[state];
+    return style_.*kBoxes[checked_][state];
+}
+
+void CheckBox::visitSurfaces(const SurfaceVisitor& visit) const
+{
+    const SurfaceStyle* const shown = &boxSurface();
+    for (const auto& states : kBoxes) {
+        for (const auto box : states)
+            visit({style_.*box, boxRect(), &(style_.*box) == shown});
+    }
 }
 
 Rect CheckBox::boxRect() const noexcept
@@ -77,11 +88,18 @@ void CheckBox::paint(HDC dc, Point origin)
                        boxSurface().glow);
 }
 
+std::int32_t CheckBox::captionWidth() const
+{
+    if (!captionWidth_)
+        captionWidth_ = measureTextWidth(text_, style_.text, dpi());
+    return *captionWidth_;
+}
+
 // The ring goes around box and caption, not around the empty rest of the row.
 Rect CheckBox::focusBounds() const
 {
     const std::int32_t air = scaled(kRingAir);
-    const std::int32_t end = style_.textLeft + measureTextWidth(text_, style_.text, dpi()) + air;
+    const std::int32_t end = style_.textLeft + captionWidth() + air;
     return {-air, 0, air + std::clamp(end, 0, std::max(bounds().width, 0)), bounds().height};
 }
 

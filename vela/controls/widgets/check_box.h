@@ -6,6 +6,7 @@
 #include "vela/theme/records/control_styles.h"
 
 #include <functional>
+#include <optional>
 
 namespace vela {
 
@@ -21,6 +22,8 @@ public:
     // Toggles and raises "change", with the old and the new value as texts and as booleans.
     void activate() override;
     Rect focusBounds() const override;
+    void visitSurfaces(const SurfaceVisitor& visit) const override;
+    void onScaleChanged() override { captionWidth_.reset(); }
     // "checked": true, 1, yes or false, 0, no; anything else changes nothing.
     PropertyList properties() const override;
     void setProperty(std::wstring_view name, std::wstring_view value) override;
@@ -34,9 +37,11 @@ public:
 private:
     const SurfaceStyle& boxSurface() const noexcept;
     Rect boxRect() const noexcept;
+    std::int32_t captionWidth() const;
 
     std::wstring text_;
     CheckBoxStyle style_;
+    mutable std::optional<std::int32_t> captionWidth_; // measured once
     bool checked_ = false;
     ChangeHandler changed_;
 };

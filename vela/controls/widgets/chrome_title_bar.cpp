@@ -80,10 +80,11 @@ ChromeTitleBar::~ChromeTitleBar() = default;
 
 bool ChromeTitleBar::applyStyle(const StyleSheet& styles)
 {
-    designStyle_ = styles.find<ChromeTitleBarStyle>(styleKey());
-    style_ = scaledToDpi(designStyle_, dpi());
-    layoutChildren();
-    invalidate(InvalidationReason::State);
+    changeReach([&] {
+        designStyle_ = styles.find<ChromeTitleBarStyle>(styleKey());
+        style_ = scaledToDpi(designStyle_, dpi());
+        layoutChildren();
+    });
     return true;
 }
 

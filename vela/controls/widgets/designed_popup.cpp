@@ -64,13 +64,14 @@ DesignedPopup::~DesignedPopup() = default;
 
 bool DesignedPopup::applyStyle(const StyleSheet& styles)
 {
-    designStyle_ = styles.find<PopupStyle>(styleKey());
-    style_ = scaledToDpi(designStyle_, dpi());
-    shadow_ = style_.showShadow ? CastShadow(style_.surface, style_.surface.shadow,
-                                             {style_.shadowOffsetX, style_.shadowOffsetY})
-                                : CastShadow();
-    layoutChildren();
-    invalidate(InvalidationReason::State);
+    changeReach([&] {
+        designStyle_ = styles.find<PopupStyle>(styleKey());
+        style_ = scaledToDpi(designStyle_, dpi());
+        shadow_ = style_.showShadow ? CastShadow(style_.surface, style_.surface.shadow,
+                                                 {style_.shadowOffsetX, style_.shadowOffsetY})
+                                    : CastShadow();
+        layoutChildren();
+    });
     return true;
 }
 
@@ -95,10 +96,8 @@ const BitmapSkin* DesignedPopup::attachedImage() const
 
 void DesignedPopup::setPart(std::wstring& part, std::wstring text)
 {
-    if (part == text)
-        return;
-    part = std::move(text);
-    invalidate(InvalidationReason::State);
+    if (part != text)
+        changeReach([&] { part = std::move(text); });
 }
 
 void DesignedPopup::setTitle(std::wstring title)
@@ -132,9 +131,10 @@ void DesignedPopup::setClosable(bool closable) { close_->setVisible(closable); }
 
 void DesignedPopup::setContentColumn(std::int32_t left, std::int32_t right)
 {
-    column_ = {left, right};
-    layoutChildren();
-    invalidate(InvalidationReason::State);
+    changeReach([&] {
+        column_ = {left, right};
+        layoutChildren();
+    });
 }
 
 std::int32_t DesignedPopup::missingHeight() const
@@ -147,16 +147,13 @@ std::int32_t DesignedPopup::missingHeight() const
         const std::int32_t text =
             measureText(message_, designStyle_.messageText, scale, scaledLength(room.width, scale));
         // One more than the quotient, for what rounding takes from the room.
-        missing = std::max(missing, text * kDesignDpi / scale + 1 - room.height);
+        missing = std::max(missing,
+                           text / scale * kDesignDpi + text % scale * kDesignDpi / scale + 1 - room.height);
     }
     return missing;
 }
 
-void DesignedPopup::setFramed(bool framed)
-{
-    if (std::exchange(framed_, framed) != framed)
-        invalidate(InvalidationReason::State);
-}
+void DesignedPopup::setFramed(bool framed) { setFlag(framed_, framed); }
 
 void DesignedPopup::setOpen(bool open)
 {
@@ -244,6 +241,13 @@ std::int32_t DesignedPopup::footerHeight() const noexcept
     return buttons_.empty() ? 0 : style_.actionHeight + 2 * style_.paddingY + row.top + row.bottom;
 }
 
+// The strip would fill the round or cut corners of a frame.
+Rect DesignedPopup::footerRect() const noexcept
+{
+    const std::int32_t height = framed_ ? 0 : footerHeight();
+    return {0, bounds().height - height, bounds().width, height};
+}
+
 void DesignedPopup::paintBackground(HDC dc, const Rect& box) const
 {
     SurfaceStyle background = style_.surface;
@@ -253,13 +257,24 @@ void DesignedPopup::paintBackground(HDC dc, const Rect& box) const
     }
     paintControlSurface(dc, box, background);
     paintSurface(dc, movedBy(headerRect(), {box.x, box.y}), style_.header);
-    const std::int32_t footer = footerHeight();
-    // The strip would fill the round or cut corners of a frame.
-    if (footer == 0 || framed_)
+    const Rect footer = movedBy(footerRect(), {box.x, box.y});
+    if (isEmpty(footer))
         return;
-    const std::int32_t top = box.y + box.height - footer;
-    paintSurface(dc, {box.x, top, box.width, footer}, style_.footer);
-    fillShape(dc, {box.x, top, box.width, scaled(1)}, ShapeKind::Rect, style_.footer.border);
+    paintSurface(dc, footer, style_.footer);
+    fillShape(dc, {footer.x, footer.y, footer.width, scaled(1)}, ShapeKind::Rect, style_.footer.border);
+}
+
+void DesignedPopup::visitSurfaces(const SurfaceVisitor& visit) const
+{
+    // Without a frame nothing of it lies outside.
+    if (framed_) {
+        visit({shadow_.surface(), localBounds()});
+        visit({style_.surface, localBounds()});
+    }
+    visit({style_.header, headerRect()});
+    visit({style_.footer, footerRect()});
+    if (!iconText_.empty())
+        visit({style_.icon, iconRect()});
 }
 
 void DesignedPopup::paintHeaderIcon(HDC dc, Point at) const

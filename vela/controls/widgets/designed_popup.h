@@ -31,13 +31,13 @@ public:
     std::wstring text() const override { return title_; }
     const BitmapSkin* attachedImage() const override;
     void paint(HDC dc, Point origin) override;
-    Rect damageBounds() const override { return shadow_.reach(localBounds()); }
     void setHot(bool) override {} // its buttons are hot, never itself
     // Arrow keys go along the actions; Ctrl+C copies title, message and actions as text.
     bool keyPressed(const KeyEvent& event) override;
     void onBoundsChanged() override { layoutChildren(); }
     AccessibleInfo accessibleInfo() const override;
     const SurfaceStyle* paintedSurface() const override { return &style_.surface; }
+    void visitSurfaces(const SurfaceVisitor& visit) const override;
     Control* dialogControl(DialogRole role) const override;
 
     // The first text names the popup; a drag carries it.
@@ -87,6 +87,7 @@ private:
     Rect headerRoom() const noexcept;
     Rect iconRect() const noexcept;
     Rect headerRect() const noexcept;
+    Rect footerRect() const noexcept;
     Rect messageRect() const noexcept;
 
     std::wstring title_;

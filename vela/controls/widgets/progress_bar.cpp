@@ -25,21 +25,39 @@ float progressEnd(std::int32_t trackWidth, std::int32_t percent) noexcept
 
 bool ProgressBar::applyStyle(const StyleSheet& styles)
 {
-    style_ = scaledToDpi(styles.find<ProgressBarStyle>(styleKey()), dpi());
-    invalidate(InvalidationReason::State);
+    changeReach([&] { style_ = scaledToDpi(styles.find<ProgressBarStyle>(styleKey()), dpi()); });
     return true;
 }
 
 std::wstring ProgressBar::text() const { return decimalText(value_) + L"%"; }
 
+std::int32_t ProgressBar::labelRoom() const noexcept
+{
+    return showsLabel_ ? std::min(style_.labelWidth, bounds().width) : 0;
+}
+
+Rect ProgressBar::barRect() const noexcept { return {0, 0, bounds().width - labelRoom(), bounds().height}; }
+
+Rect ProgressBar::trackRect() const noexcept
+{
+    const Rect bar = barRect();
+    const std::int32_t mostInset = std::max((bar.height - scaled(kLeastTrack) + 1) / 2, 0);
+    const std::int32_t inset = std::min(style_.insetY, mostInset);
+    return insetBy(bar, {style_.insetX, inset, style_.insetX, inset});
+}
+
+// The fill stays within the track.
+void ProgressBar::visitSurfaces(const SurfaceVisitor& visit) const
+{
+    visit({style_.frame, barRect()});
+    visit({style_.track, trackRect()});
+}
+
 void ProgressBar::paint(HDC dc, Point origin)
 {
     const Rect all = movedBy(bounds(), origin);
-    const std::int32_t labelRoom = showsLabel_ ? std::min(style_.labelWidth, all.width) : 0;
-    const Rect bar{all.x, all.y, all.width - labelRoom, all.height};
-    const std::int32_t mostInset = std::max((bar.height - scaled(kLeastTrack) + 1) / 2, 0);
-    const std::int32_t inset = std::min(style_.insetY, mostInset);
-    const Rect track = insetBy(bar, {style_.insetX, inset, style_.insetX, inset});
+    const Rect bar = movedBy(barRect(), {all.x, all.y});
+    const Rect track = movedBy(trackRect(), {all.x, all.y});
     paintControlSurface(dc, bar, style_.frame);
     paintControlSurface(dc, track, style_.track);
     SurfaceStyle fill = style_.fill;
@@ -50,7 +68,7 @@ void ProgressBar::paint(HDC dc, Point origin)
     paintProgressFill(dc, track, fill, progressEnd(track.width, value_));
     if (showsLabel_) {
         const Rect label{bar.x + bar.width + style_.labelPadding, all.y,
-                         std::max(labelRoom - style_.labelPadding, 0), all.height};
+                         std::max(labelRoom() - style_.labelPadding, 0), all.height};
         drawText(
             dc, label, text(), style_.labelText, dpi(),
             {isEnabled() ? TextTone::Enabled : TextTone::Disabled, TextAlign::Right, TextWrap::SingleLine});

@@ -19,6 +19,7 @@ public:
     void setProperty(std::wstring_view name, std::wstring_view value) override;
     AccessibleInfo accessibleInfo() const override;
     const SurfaceStyle* paintedSurface() const override { return &style_.frame; }
+    void visitSurfaces(const SurfaceVisitor& visit) const override;
 
     std::int32_t value() const noexcept { return value_; }
     void setValue(std::int32_t percent);
@@ -27,6 +28,11 @@ public:
     bool showsLabel() const noexcept { return showsLabel_; }
 
 private:
+    std::int32_t labelRoom() const noexcept;
+    // Local pixels: the bar without its label, and the track in it.
+    Rect barRect() const noexcept;
+    Rect trackRect() const noexcept;
+
     ProgressBarStyle style_;
     std::int32_t value_ = 0;
     bool showsLabel_ = true;

@@ -50,6 +50,7 @@ public:
     std::optional<Rect> caretRect() const override;
     AccessibleInfo accessibleInfo() const override;
     const SurfaceStyle* paintedSurface() const override { return &surface(); }
+    void visitSurfaces(const SurfaceVisitor& visit) const override;
 
     const TextEditModel& model() const noexcept { return model_; }
     // By the program: raises nothing and is allowed while the field is locked.

@@ -69,6 +69,20 @@ std::vector<TextInput::Chip> TextInput::chips() const
     return result;
 }
 
+void TextInput::visitSurfaces(const SurfaceVisitor& visit) const
+{
+    for (const SurfaceStyle* const each : {&style_.surface, &style_.hotSurface, &style_.pressedSurface,
+                                           &style_.disabledSurface, &style_.focusedSurface})
+        visit({*each, localBounds(), each == &surface()});
+    if (attachments_.empty())
+        return;
+    for (const Chip& chip : chips()) {
+        visit({style_.attachmentSurface, chip.body, true, localBounds()});
+        visit({style_.attachmentImageSurface, chip.image, true, localBounds()});
+        visit({style_.attachmentRemoveSurface, chip.remove, true, localBounds()});
+    }
+}
+
 void TextInput::paint(HDC dc, Point origin)
 {
     const Rect box = movedBy(bounds(), origin);

@@ -36,9 +36,8 @@ bool ThemedButton::applyStyle(const StyleSheet& styles)
 
 void ThemedButton::setStyle(const ButtonStyle& style)
 {
-    style_ = scaledToDpi(style, dpi());
+    changeReach([&] { style_ = scaledToDpi(style, dpi()); });
     minimumSizeMayHaveChanged();
-    invalidate(InvalidationReason::State);
 }
 
 Size ThemedButton::minimumSize() const
@@ -73,6 +72,14 @@ VisualState ThemedButton::visualState() const noexcept
     if (active_)
         return VisualState::Active;
     return isHot() ? VisualState::Hot : VisualState::Normal;
+}
+
+void ThemedButton::visitSurfaces(const SurfaceVisitor& visit) const
+{
+    for (int i = 0; i < kVisualStateCount; ++i) {
+        const auto state = static_cast<VisualState>(i);
+        visit({style_.surface[state], localBounds(), state == visualState()});
+    }
 }
 
 void ThemedButton::paint(HDC dc, Point origin)

@@ -28,6 +28,7 @@ public:
     bool containsLocal(Point point) const override;
     AccessibleInfo accessibleInfo() const override;
     const SurfaceStyle* paintedSurface() const override { return &style_.surface[visualState()]; }
+    void visitSurfaces(const SurfaceVisitor& visit) const override;
 
     // For buttons whose style is part of another record, as those of a title bar or a popup.
     void setStyle(const ButtonStyle& style);

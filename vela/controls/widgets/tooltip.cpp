@@ -17,10 +17,12 @@ constexpr std::int32_t kRailWidth = 3;
 
 bool TooltipView::applyStyle(const StyleSheet& styles)
 {
-    style_ = scaledToDpi(styles.find<TooltipStyle>(styleKey()), dpi());
-    shadow_ = style_.showShadow
-                  ? CastShadow(style_.surface, style_.shadow, {style_.shadowOffsetX, style_.shadowOffsetY})
-                  : CastShadow();
+    changeReach([&] {
+        style_ = scaledToDpi(styles.find<TooltipStyle>(styleKey()), dpi());
+        shadow_ = style_.showShadow ? CastShadow(style_.surface, style_.shadow,
+                                                 {style_.shadowOffsetX, style_.shadowOffsetY})
+                                    : CastShadow();
+    });
     return true;
 }
 
@@ -50,20 +52,46 @@ Rect TooltipView::contentBounds() const
     return surfaceRoom(style_.surface, localBounds(), &SurfaceGeometry::textInsets);
 }
 
+std::int32_t TooltipView::innerHeight() const
+{
+    return std::max(contentBounds().height - 2 * style_.paddingY, 0);
+}
+
+Rect TooltipView::railRect() const
+{
+    const Rect room = contentBounds();
+    const std::int32_t width = style_.showAccentRail ? scaled(kRailWidth) : 0;
+    return {room.x + style_.paddingX, room.y + style_.paddingY, width, innerHeight()};
+}
+
+Rect TooltipView::iconRect() const
+{
+    const Rect room = contentBounds();
+    const std::int32_t rail = style_.showAccentRail ? scaled(kRailWidth) + style_.gap : 0;
+    const std::int32_t side = style_.showIcon ? style_.iconSize : 0;
+    return {room.x + style_.paddingX + rail, room.y + style_.paddingY, side, side};
+}
+
+void TooltipView::visitSurfaces(const SurfaceVisitor& visit) const
+{
+    visit({shadow_.surface(), localBounds()});
+    visit({style_.surface, localBounds()});
+    visit({style_.accentRail, railRect()});
+    visit({style_.icon, iconRect()});
+}
+
 void TooltipView::paint(HDC dc, Point origin)
 {
     const Rect box = movedBy(bounds(), origin);
+    const Point at{box.x, box.y};
     shadow_.paint(dc, *this, box);
     paintControlSurface(dc, box, style_.surface);
-    const Rect room = movedBy(contentBounds(), {box.x, box.y});
-    std::int32_t x = room.x + style_.paddingX;
-    const std::int32_t inner = std::max(room.height - 2 * style_.paddingY, 0);
-    if (style_.showAccentRail) {
-        paintControlSurface(dc, {x, room.y + style_.paddingY, scaled(kRailWidth), inner}, style_.accentRail);
-        x += scaled(kRailWidth) + style_.gap;
-    }
+    const Rect room = movedBy(contentBounds(), at);
+    const std::int32_t inner = innerHeight();
+    if (style_.showAccentRail)
+        paintControlSurface(dc, movedBy(railRect(), at), style_.accentRail);
     if (style_.showIcon) {
-        const Rect icon{x, room.y + style_.paddingY, style_.iconSize, style_.iconSize};
+        const Rect icon = movedBy(iconRect(), at);
         paintControlSurface(dc, icon, style_.icon);
         const std::int32_t side = style_.iconSize / 2;
         paintIcon(dc, Icon::Info,

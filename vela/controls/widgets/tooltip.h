@@ -15,8 +15,7 @@ public:
     std::wstring text() const override { return text_; }
     Rect contentBounds() const override;
     void paint(HDC dc, Point origin) override;
-
-    Rect damageBounds() const override { return shadow_.reach(localBounds()); }
+    void visitSurfaces(const SurfaceVisitor& visit) const override;
 
     void setText(std::wstring text) { text_ = std::move(text); }
     // As wide as the text needs, but no wider than the style allows; then it wraps.
@@ -24,6 +23,10 @@ public:
 
 private:
     std::int32_t textLeft() const noexcept;
+    // Local pixels; empty where the style has none.
+    Rect railRect() const;
+    Rect iconRect() const;
+    std::int32_t innerHeight() const;
 
     std::wstring text_;
     TooltipStyle style_;

@@ -3,19 +3,54 @@
 #include "vela/controls/window/window_win32.h"
 
 #include "vela/controls/system/cursor_win32.h"
+#include "vela/controls/tree/damage.h"
+#include "vela/render/gdi/clip_gdi.h"
 #include "vela/render/gdi/owned_gdi.h"
 #include "vela/render/gdi/paint_context.h"
+#include "vela/render/paint/paint.h"
 
+#include <algorithm>
 #include <chrono>
+#include <cstddef>
+#include <new>
 #include <utility>
+#include <vector>
 
 namespace vela {
+
+namespace {
+
+// False when memory ran out meanwhile. Then something is left unpainted, until it is damaged the next time.
+template <typename Paint>
+bool paintsWithinMemory(Paint&& paint) noexcept
+{
+    try {
+        paint();
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+std::vector<Rect> rectsOf(HRGN region)
+{
+    std::vector<std::byte> bytes(::GetRegionData(region, 0, nullptr));
+    auto* const data = reinterpret_cast<RGNDATA*>(bytes.data());
+    if (::GetRegionData(region, static_cast<DWORD>(bytes.size()), data) == 0)
+        return {};
+    const auto* const first = reinterpret_cast<const RECT*>(data->Buffer);
+    std::vector<Rect> rects(data->rdh.nCount);
+    std::transform(first, first + data->rdh.nCount, rects.begin(), toRect);
+    return rects;
+}
+
+} // namespace
 
 // A buffer of the client area's size; true when it is a new one, with nothing in it.
 bool Window::Native::fitBackBuffer()
 {
     const Size size = state_.lastClientSize;
-    const bool fits = backBuffer_ && *backBuffer_ && backBuffer_->size() == size;
+    const bool fits = hasBackBuffer() && backBuffer_->size() == size;
     if (fits || isEmpty(size))
         return false;
     backBuffer_.emplace(size);
@@ -29,27 +64,37 @@ void Window::Native::noteDamage(const Rect& rect) noexcept
     damage_ = around(damage_, rect);
 }
 
+// Those parts of the picture, or all of it where there was none. False without a buffer.
+bool Window::Native::paintBuffer(const std::vector<Rect>& parts)
+{
+    const bool fresh = fitBackBuffer();
+    if (!hasBackBuffer() || isEmpty(state_.lastClientSize))
+        return false;
+    ::SelectClipRgn(backBuffer_->dc(), nullptr);
+    const PaintClip clip(backBuffer_->dc(), fresh ? std::vector{window_.clientRect()} : parts);
+    paintTree(backBuffer_->dc());
+    return true;
+}
+
 void Window::Native::paintAhead()
 {
-    if (!backBuffer_ || !*backBuffer_)
+    fitBackBuffer();
+    if (!hasBackBuffer())
         return;
     allDamaged_ = false;
     ::SelectClipRgn(backBuffer_->dc(), nullptr);
     // Nothing of it was painted before, and looking for pictures of it takes time.
     const PaintContextBinding first(backBuffer_->dc(), withoutCaching({}));
-    paintTree(backBuffer_->dc());
+    isPaintedAhead_ = paintsWithinMemory([this] { paintTree(backBuffer_->dc()); });
     damage_ = {};
     isDamageScattered_ = false;
-    isPaintedAhead_ = true;
 }
 
 // A window appears with its picture, which is painted before anything of it can be seen.
 LRESULT Window::Native::onShowWindow(WPARAM wParam, LPARAM lParam)
 {
-    if (wParam && state_.styles) {
-        fitBackBuffer();
+    if (wParam && state_.styles)
         paintAhead();
-    }
     return passOn(WM_SHOWWINDOW, wParam, lParam);
 }
 
@@ -59,26 +104,25 @@ LRESULT Window::Native::onPaint()
     allDamaged_ = false;
     // Before BeginPaint, which forgets it: the damage itself rather than the rectangle around it. In one
     // place both are the same, and the system need not be asked.
-    const OwnedRegion damage(::CreateRectRgn(0, 0, 0, 0));
     const bool isScattered = std::exchange(isDamageScattered_, false);
-    const RECT known = toRECT(std::exchange(damage_, {}));
+    const Rect known = std::exchange(damage_, {});
+    const OwnedRegion region(isScattered ? ::CreateRectRgn(0, 0, 0, 0) : nullptr);
     if (isScattered)
-        ::GetUpdateRgn(handle, damage.get(), FALSE);
+        ::GetUpdateRgn(handle, region.get(), FALSE);
     const auto start = std::chrono::steady_clock::now();
     PAINTSTRUCT paint{};
     const HDC screen = ::BeginPaint(handle, &paint);
-    const bool fresh = fitBackBuffer();
+    const Rect part = toRect(paint.rcPaint);
     const bool isPaintedAhead = std::exchange(isPaintedAhead_, false);
-    if (isPaintedAhead || !isScattered) {
-        const RECT& part = isPaintedAhead ? known : paint.rcPaint;
-        ::SetRectRgn(damage.get(), part.left, part.top, part.right, part.bottom);
-    }
-    if (screen && backBuffer_ && *backBuffer_ && !isEmpty(state_.lastClientSize)) {
-        ::SelectClipRgn(backBuffer_->dc(), fresh ? nullptr : damage.get());
-        paintTree(backBuffer_->dc());
-        const Rect part = toRect(paint.rcPaint);
+    // What grows beside the damage is painted as it was: on the screen it need not be changed.
+    paintsWithinMemory([&] {
+        const std::vector<Rect> damage = isPaintedAhead ? std::vector{known}
+                                         : isScattered  ? rectsOf(region.get())
+                                                        : std::vector{part};
+        paintBuffer(grownDamage(state_.root, damage));
+    });
+    if (screen && hasBackBuffer())
         ::BitBlt(screen, part.x, part.y, part.width, part.height, backBuffer_->dc(), part.x, part.y, SRCCOPY);
-    }
     ::EndPaint(handle, &paint);
     if (lights_.isPaintingDue()) {
         const std::chrono::duration<std::uint32_t, std::micro> spent =
@@ -89,10 +133,17 @@ LRESULT Window::Native::onPaint()
     return 0;
 }
 
-// For whoever wants a picture of the window: previews, animations, screen readers.
+// For whoever wants a picture of the window: previews, animations, screen readers. What they do not want of
+// it must not be painted on their context, so where more is needed than that, the buffer takes it.
 LRESULT Window::Native::onPrintClient(HDC dc)
 {
-    paintTree(dc);
+    paintsWithinMemory([&] {
+        const Rect part = visiblePart(dc, window_.clientRect());
+        const std::vector<Rect> parts = grownDamage(state_.root, {part});
+        if (parts.size() == 1 || !paintBuffer(parts))
+            return paintTree(dc);
+        ::BitBlt(dc, part.x, part.y, part.width, part.height, backBuffer_->dc(), part.x, part.y, SRCCOPY);
+    });
     return 0;
 }
 

@@ -12,6 +12,7 @@
 #include "vela/render/gdi/dib_gdi.h"
 
 #include <optional>
+#include <vector>
 
 #include <windows.h>
 
@@ -125,6 +126,8 @@ private:
     LRESULT onPrintClient(HDC dc);
     void paintTree(HDC dc);
     bool fitBackBuffer();
+    bool hasBackBuffer() const noexcept { return backBuffer_ && *backBuffer_; }
+    bool paintBuffer(const std::vector<Rect>& parts);
     void paintAhead();
 
     Window& window_; // for what is public, and for what its subclasses make of a message
