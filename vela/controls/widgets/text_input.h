@@ -79,6 +79,7 @@ private:
     TextServices* services() const;
     std::vector<Chip> chips() const;
     Rect textArea() const;
+    Rect selectedRect() const; // as much of the text as is selected, seen or not
     const std::vector<std::int32_t>& ends() const;
     std::int32_t xOf(std::size_t index) const;
     std::size_t indexAt(std::int32_t x) const;

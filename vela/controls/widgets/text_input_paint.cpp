@@ -69,11 +69,26 @@ std::vector<TextInput::Chip> TextInput::chips() const
     return result;
 }
 
+Rect TextInput::selectedRect() const
+{
+    const Rect area = textArea();
+    const std::int32_t from = area.x + xOf(model_.selectionStart()) - scroll_;
+    const std::int32_t to = area.x + xOf(model_.selectionEnd()) - scroll_;
+    const std::int32_t height =
+        std::min(std::max(style_.lineHeight, caretRect().value_or(Rect{}).height), area.height);
+    return centredIn(area, from, to - from, height);
+}
+
 void TextInput::visitSurfaces(const SurfaceVisitor& visit) const
 {
     for (const SurfaceStyle* const each : {&style_.surface, &style_.hotSurface, &style_.pressedSurface,
                                            &style_.disabledSurface, &style_.focusedSurface})
         visit({*each, localBounds(), each == &surface()});
+    if (model_.hasSelection()) {
+        Rect seen = textArea();
+        seen.width += caretRect().value_or(Rect{}).width;
+        visit({style_.selection, selectedRect(), true, seen});
+    }
     if (attachments_.empty())
         return;
     for (const Chip& chip : chips()) {
@@ -141,10 +156,9 @@ void TextInput::paintText(HDC dc, Point at)
     };
     const Color color = isEnabled() ? font.color : font.disabledColor;
     if (model_.hasSelection()) {
-        const std::int32_t from = area.x + xOf(model_.selectionStart()) - scroll_;
-        const std::int32_t to = area.x + xOf(model_.selectionEnd()) - scroll_;
-        const std::int32_t height = std::min(std::max(style_.lineHeight, caret.height), area.height);
-        const Rect selected = centredIn(area, from, to - from, height);
+        const Rect selected = movedBy(selectedRect(), at);
+        const std::int32_t from = selected.x;
+        const std::int32_t to = selected.x + selected.width;
         paintSurface(dc, selected, style_.selection);
         {
             const PaintClip before(dc, {{area.x, area.y, std::max(from - area.x, 0), area.height},
