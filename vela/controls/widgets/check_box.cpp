@@ -1,7 +1,7 @@
 #include "vela/controls/widgets/check_box.h"
 
+#include "vela/controls/widgets/working_style.h"
 #include "vela/render/paint/paint.h"
-#include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
 
 #include <algorithm>
@@ -46,7 +46,7 @@ CheckBox::CheckBox(std::wstring id, Rect bounds, std::wstring text)
 bool CheckBox::applyStyle(const StyleSheet& styles)
 {
     changeReach([&] {
-        style_ = scaledToDpi(styles.find<CheckBoxStyle>(styleKey()), dpi());
+        style_ = workingStyle(styles.find<CheckBoxStyle>(styleKey()), dpi());
         captionWidth_.reset();
     });
     return true;

@@ -1,8 +1,8 @@
 #include "vela/controls/widgets/chrome_title_bar.h"
 
+#include "vela/controls/widgets/working_style.h"
 #include "vela/render/paint/paint.h"
 #include "vela/text.h"
-#include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
 #include "vela/toolkit_texts.h"
 
@@ -82,7 +82,7 @@ bool ChromeTitleBar::applyStyle(const StyleSheet& styles)
 {
     changeReach([&] {
         designStyle_ = styles.find<ChromeTitleBarStyle>(styleKey());
-        style_ = scaledToDpi(designStyle_, dpi());
+        style_ = workingStyle(designStyle_, dpi());
         layoutChildren();
     });
     return true;

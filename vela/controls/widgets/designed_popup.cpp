@@ -1,10 +1,10 @@
 #include "vela/controls/widgets/designed_popup.h"
 
 #include "vela/controls/widgets/text_services.h"
+#include "vela/controls/widgets/working_style.h"
 #include "vela/mul_div.h"
 #include "vela/render/paint/paint.h"
 #include "vela/text.h"
-#include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
 #include "vela/toolkit_texts.h"
 
@@ -66,7 +66,7 @@ bool DesignedPopup::applyStyle(const StyleSheet& styles)
 {
     changeReach([&] {
         designStyle_ = styles.find<PopupStyle>(styleKey());
-        style_ = scaledToDpi(designStyle_, dpi());
+        style_ = workingStyle(designStyle_, dpi());
         shadow_ = style_.showShadow ? CastShadow(style_.surface, style_.surface.shadow,
                                                  {style_.shadowOffsetX, style_.shadowOffsetY})
                                     : CastShadow();

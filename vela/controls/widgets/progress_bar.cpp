@@ -1,9 +1,9 @@
 #include "vela/controls/widgets/progress_bar.h"
 
+#include "vela/controls/widgets/working_style.h"
 #include "vela/render/bitmaps/surface_insets.h"
 #include "vela/render/paint/paint.h"
 #include "vela/text.h"
-#include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ float progressEnd(std::int32_t trackWidth, std::int32_t percent) noexcept
 
 bool ProgressBar::applyStyle(const StyleSheet& styles)
 {
-    changeReach([&] { style_ = scaledToDpi(styles.find<ProgressBarStyle>(styleKey()), dpi()); });
+    changeReach([&] { style_ = workingStyle(styles.find<ProgressBarStyle>(styleKey()), dpi()); });
     return true;
 }
 

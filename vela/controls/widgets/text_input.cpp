@@ -1,10 +1,10 @@
 #include "vela/controls/widgets/text_input.h"
 
 #include "vela/controls/tree/command_event.h"
+#include "vela/controls/widgets/working_style.h"
 #include "vela/render/paint/paint.h"
 #include "vela/text.h"
 #include "vela/text_clusters.h"
-#include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
 
 #include <algorithm>
@@ -26,7 +26,7 @@ TextInput::TextInput(std::wstring id, Rect bounds, std::wstring_view text) : Con
 
 bool TextInput::applyStyle(const StyleSheet& styles)
 {
-    style_ = scaledToDpi(styles.find<TextInputStyle>(styleKey()), dpi());
+    changeReach([&] { style_ = workingStyle(styles.find<TextInputStyle>(styleKey()), dpi()); });
     minimumSizeMayHaveChanged();
     measureAgain();
     return true;

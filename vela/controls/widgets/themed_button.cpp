@@ -1,7 +1,7 @@
 #include "vela/controls/widgets/themed_button.h"
 
+#include "vela/controls/widgets/working_style.h"
 #include "vela/render/paint/paint.h"
-#include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
 
 #include <algorithm>
@@ -36,7 +36,7 @@ bool ThemedButton::applyStyle(const StyleSheet& styles)
 
 void ThemedButton::setStyle(const ButtonStyle& style)
 {
-    changeReach([&] { style_ = scaledToDpi(style, dpi()); });
+    changeReach([&] { style_ = workingStyle(style, dpi()); });
     minimumSizeMayHaveChanged();
 }
 

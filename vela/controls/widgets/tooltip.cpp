@@ -1,7 +1,7 @@
 #include "vela/controls/widgets/tooltip.h"
 
+#include "vela/controls/widgets/working_style.h"
 #include "vela/render/paint/paint.h"
-#include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ constexpr std::int32_t kRailWidth = 3;
 bool TooltipView::applyStyle(const StyleSheet& styles)
 {
     changeReach([&] {
-        style_ = scaledToDpi(styles.find<TooltipStyle>(styleKey()), dpi());
+        style_ = workingStyle(styles.find<TooltipStyle>(styleKey()), dpi());
         shadow_ = style_.showShadow ? CastShadow(style_.surface, style_.shadow,
                                                  {style_.shadowOffsetX, style_.shadowOffsetY})
                                     : CastShadow();

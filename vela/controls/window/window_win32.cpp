@@ -62,8 +62,8 @@ Size Window::minimumTrackSize() const
     const Size client = minimumClientSize();
     const Size frame = native_->frameExtra();
     const Rect work = native_->workArea();
-    return {std::clamp(client.width + frame.width, 1, std::max(work.width, 1)),
-            std::clamp(client.height + frame.height, 1, std::max(work.height, 1))};
+    return {std::clamp(saturated(std::int64_t{client.width} + frame.width), 1, std::max(work.width, 1)),
+            std::clamp(saturated(std::int64_t{client.height} + frame.height), 1, std::max(work.height, 1))};
 }
 
 void Window::invalidateClient(const Rect& rect, InvalidationReason) { native_->invalidate(rect); }

@@ -52,7 +52,8 @@ void drawText(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& 
 void drawUnclippedLine(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font,
                        std::int32_t dpi, Color color);
 
-// The height in pixels of the text wrapped to a width; of one line; the width of a text on one line.
+// The height in pixels of the text wrapped to a width; of one line; the width of a text on one line. None is
+// longer than kLongestLength, whatever the font.
 std::int32_t measureText(std::wstring_view text, const FontSpec& font, std::int32_t dpi, std::int32_t width);
 std::int32_t lineHeight(const FontSpec& font, std::int32_t dpi);
 std::int32_t measureTextWidth(std::wstring_view text, const FontSpec& font, std::int32_t dpi);

@@ -3,6 +3,7 @@
 
 #include "vela/render/gdi/clip_gdi.h"
 #include "vela/render/gdi/program_icon.h"
+#include "vela/render/pixels/length_limits.h"
 #include "vela/render/surface/mark_painter.h"
 #include "vela/render/surface/surface_painter.h"
 #include "vela/render/surface/surface_shape.h"
@@ -44,14 +45,17 @@ void paintProgramIcon(HDC dc, const Rect& box) { render::paintProgramIcon(dc, bo
 
 std::int32_t measureText(std::wstring_view text, const FontSpec& font, std::int32_t dpi, std::int32_t width)
 {
-    return render::measureText(text, font, dpi, width);
+    return limitedLength(render::measureText(text, font, dpi, width));
 }
 
-std::int32_t lineHeight(const FontSpec& font, std::int32_t dpi) { return render::lineHeight(font, dpi); }
+std::int32_t lineHeight(const FontSpec& font, std::int32_t dpi)
+{
+    return limitedLength(render::lineHeight(font, dpi));
+}
 
 std::int32_t measureTextWidth(std::wstring_view text, const FontSpec& font, std::int32_t dpi)
 {
-    return render::measureTextWidth(text, font, dpi);
+    return limitedLength(render::measureTextWidth(text, font, dpi));
 }
 
 void measureTextEnds(std::wstring_view text, const FontSpec& font, std::int32_t dpi,

@@ -2,8 +2,10 @@
 
 #include "vela/mul_div.h"
 #include "vela/render/bitmaps/bitmap_geometry.h"
+#include "vela/render/pixels/length_limits.h"
 #include "vela/render/shapes/shape.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -95,15 +97,16 @@ void drawUnclippedLine(HDC, const Rect& rect, std::wstring_view text, const Font
 
 std::int32_t measureText(std::wstring_view text, const FontSpec& font, std::int32_t dpi, std::int32_t width)
 {
-    const std::int32_t lines = (measureTextWidth(text, font, dpi) + width - 1) / width;
-    return lines * lineHeight(font, dpi);
+    const std::int64_t room = std::max(width, 1);
+    const std::int64_t lines = (measureTextWidth(text, font, dpi) + room - 1) / room;
+    return limitedLength(saturated(lines * lineHeight(font, dpi)));
 }
 
 std::int32_t lineHeight(const FontSpec&, std::int32_t dpi) { return 2 * unitWidth(dpi); }
 
 std::int32_t measureTextWidth(std::wstring_view text, const FontSpec&, std::int32_t dpi)
 {
-    return static_cast<std::int32_t>(text.size()) * unitWidth(dpi);
+    return limitedLength(saturated(static_cast<std::int64_t>(text.size()) * unitWidth(dpi)));
 }
 
 void measureTextEnds(std::wstring_view text, const FontSpec&, std::int32_t dpi,
