@@ -1,7 +1,9 @@
-// What whole surfaces and texts cost on a device context: one line for each, in microseconds a paint. Run it
+// What whole surfaces and texts cost on a device context: one line for each, in microseconds a paint; of
+// surfaces composed anew and, where they are stored, found. Run it
 // under Wine with scripts/wine; there a paint is Wine's GDI as much as this program's own work.
 #include "app/dialogs/toolkit_texts.h"
 #include "vela/render/gdi/dib_gdi.h"
+#include "vela/render/gdi/paint_context.h"
 #include "vela/render/paint/paint.h"
 #include "vela/render/text/text.h"
 #include "vela/resource_folders.h"
@@ -53,9 +55,12 @@ void report(const char* name, vela::Size size, double microseconds)
 void measureSurface(const vela::DibSurface& target, const char* name, vela::Size size,
                     const SurfaceStyle& style)
 {
-    report(name, size, microsecondsPerPaint([&] {
-               vela::paintSurface(target.dc(), {8, 8, size.width, size.height}, style);
-           }));
+    const auto paint = [&] { vela::paintSurface(target.dc(), {40, 40, size.width, size.height}, style); };
+    {
+        const vela::PaintContextBinding anew(target.dc(), {.cachesPictures = false});
+        report(name, size, microsecondsPerPaint(paint));
+    }
+    report("    found", size, microsecondsPerPaint(paint));
 }
 
 SurfaceStyle fullStyle()
@@ -102,5 +107,16 @@ int main()
     std::printf("every layer at once\n");
     measureSurface(target, "  surface", {690, 420}, fullStyle());
     measureSurface(target, "  surface", {128, 34}, fullStyle());
+    std::printf("long reaches\n");
+    SurfaceStyle far;
+    far.showGlow = true;
+    far.glowRadius = 20;
+    measureSurface(target, "  glow of 20", {650, 380}, far);
+    far.showGlow = false;
+    far.showOutline = true;
+    far.outlineWidth = 60;
+    measureSurface(target, "  outline of 60", {690, 420}, far);
+    far.shape = vela::ShapeKind::Rect;
+    measureSurface(target, "  twenty million rows", {690, 20'000'000}, far);
     measureText(target);
 }

@@ -3,6 +3,7 @@
 
 #include "vela/render/gdi/clip_gdi.h"
 #include "vela/render/gdi/program_icon.h"
+#include "vela/render/paint/unless_out_of_memory.h"
 #include "vela/render/pixels/length_limits.h"
 #include "vela/render/surface/mark_painter.h"
 #include "vela/render/surface/surface_painter.h"
@@ -13,35 +14,38 @@ namespace vela {
 
 void paintSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
-    render::paintSurface(dc, rect, style);
+    paintUnlessOutOfMemory([&] { render::paintSurface(dc, rect, style); });
 }
 
 void paintControlSurface(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
-    render::paintControlSurface(dc, rect, style);
+    paintUnlessOutOfMemory([&] { render::paintControlSurface(dc, rect, style); });
 }
 
 void paintProgressFill(HDC dc, const Rect& track, const SurfaceStyle& fill, float end)
 {
-    render::paintProgressFill(dc, track, fill, end);
+    paintUnlessOutOfMemory([&] { render::paintProgressFill(dc, track, fill, end); });
 }
 
 void fillShape(HDC dc, const Rect& rect, ShapeKind kind, Color color)
 {
-    render::fillShape(dc, rect, kind, color);
+    paintUnlessOutOfMemory([&] { render::fillShape(dc, rect, kind, color); });
 }
 
 void strokeShapeOutline(HDC dc, const Rect& rect, ShapeKind kind, Color color, std::int32_t penWidth)
 {
-    render::strokeShapeOutline(dc, rect, kind, color, penWidth);
+    paintUnlessOutOfMemory([&] { render::strokeShapeOutline(dc, rect, kind, color, penWidth); });
 }
 
 void paintFocusRing(HDC dc, const Rect& rect, ShapeKind shape, std::int32_t dpi, Color color)
 {
-    render::paintFocusRing(dc, rect, shape, dpi, color);
+    paintUnlessOutOfMemory([&] { render::paintFocusRing(dc, rect, shape, dpi, color); });
 }
 
-void paintProgramIcon(HDC dc, const Rect& box) { render::paintProgramIcon(dc, box); }
+void paintProgramIcon(HDC dc, const Rect& box)
+{
+    paintUnlessOutOfMemory([&] { render::paintProgramIcon(dc, box); });
+}
 
 std::int32_t measureText(std::wstring_view text, const FontSpec& font, std::int32_t dpi, std::int32_t width)
 {

@@ -15,6 +15,14 @@ PixelBuffer& bandPixels()
     return buffer;
 }
 
+// Plain layers follow the shape even where a bitmap's alpha is the outline of all others.
+Coverage coverageOf(const PaintStep& step, const FaceSource& source)
+{
+    return isPlainLayer(step.layer) && !source.coverage.isShape()
+               ? Coverage(source.style.shape, source.coverage.size())
+               : source.coverage;
+}
+
 void writeMaterial(const LayerTarget& target, const FaceSource& source)
 {
     source.writeMaterial(target);
@@ -29,7 +37,7 @@ void writeLayer(const LayerTarget& target, const PaintStep& step, const FaceSour
         return fillBitmap(target, source.coverage, *source.bitmap,
                           bitmapPlacement(style, source.coverage.size()));
     case SurfaceLayer::Material: return writeMaterial(target, source);
-    default: return fillLayer(target, source.coverage, step, style, source.origin);
+    default: return fillLayer(target, coverageOf(step, source), step, style, source.origin);
     }
 }
 
@@ -56,17 +64,12 @@ void composeFace(const LayerTarget& picture, std::span<const PaintStep> steps, c
     if (beneath == Beneath::Nothing) {
         if (steps.empty())
             return clearLayer(picture);
-        // The first layer needs no blending, but it must be all that is in its part of the picture.
-        const PaintStep& first = steps.front();
-        if (isPlainLayer(first.layer) && first.layer != SurfaceLayer::Fill)
-            clearLayer(picture);
-        else {
-            writeLayer(picture, first, source);
-            steps = steps.subspan(1);
-        }
+        writeLayer(picture, steps.front(),
+                   source); // a layer writes every pixel, and the first needs no blending
+        steps = steps.subspan(1);
     }
     for (const PaintStep& step : steps) {
-        for (const Rect& part : layerBounds(step, source.coverage, source.style))
+        for (const Rect& part : layerBounds(step, coverageOf(step, source), source.style))
             composeLayer(picture, part, [&](const LayerTarget& target) { writeLayer(target, step, source); });
     }
 }

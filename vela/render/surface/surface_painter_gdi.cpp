@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <optional>
 
 namespace vela {
@@ -67,6 +68,7 @@ private:
     }
     void paintPlain(Steps steps) const;
     void composeLayers(const LayerTarget& target) const;
+    std::shared_ptr<OwnedPixels> storedPicture(Steps steps, const FaceSource& source) const;
     void addPicture(const LayerTarget& target, Steps steps, const FaceSource& source, Beneath beneath) const;
 
     HDC dc_;
@@ -150,34 +152,45 @@ void SurfacePaint::composeLayers(const LayerTarget& target) const
     addPicture(target, {moving + 1, steps.end()}, source, Beneath::Picture);
 }
 
-void SurfacePaint::addPicture(const LayerTarget& target, Steps steps, const FaceSource& source,
-                              Beneath beneath) const
+std::shared_ptr<OwnedPixels> SurfacePaint::storedPicture(Steps steps, const FaceSource& source) const
 {
-    const bool isStored = paintContext(dc_).cachesPictures && !steps.empty() &&
-                          std::int64_t{rect_.width} * rect_.height <= kMostStoredPixels;
-    if (!isStored)
-        return composeFace(target, steps, source, beneath);
+    const PaintContext& context = paintContext(dc_);
+    if (!context.cachesPictures || std::int64_t{rect_.width} * rect_.height > kMostStoredPixels)
+        return nullptr;
     const bool isGlobal = style_.uvMapping == MappingSpace::Global;
     const FaceKeyValues values{bitmaps_,
                                sizeOf(rect_),
-                               isGlobal ? Point{rect_.x, rect_.y} : Point{},
-                               paintContext(dc_).profile,
+                               isGlobal ? source.origin : Point{},
+                               context.profile,
                                isCut() ? SurfaceEdge::Antialiased : SurfaceEdge::Exact,
                                steps.front().layer};
-    PictureStore& store = pictureStore();
     const FaceKeyView key{style_, values};
-    if (!store.find<FacePictures>(key) && !store.isWantedAgain<FacePictures>(key))
-        return composeFace(target, steps, source, beneath);
-    const auto picture = store.ensure<FacePictures>(key, [&] {
+    PictureStore& store = pictureStore();
+    if (auto known = store.find<FacePictures>(key); known || !store.isWantedAgain<FacePictures>(key))
+        return known;
+    return store.ensure<FacePictures>(key, [&] {
         auto whole = std::make_shared<OwnedPixels>(sizeOf(rect_));
         composeFace({whole->view(), {}}, steps, source, Beneath::Nothing);
         return whole;
     });
-    const PixelView seen = LayerTarget{picture->view(), {}}.part(target.visible()).view;
+}
+
+// The same pixels, whether the picture is stored or not.
+void SurfacePaint::addPicture(const LayerTarget& target, Steps steps, const FaceSource& source,
+                              Beneath beneath) const
+{
+    if (steps.empty())
+        return beneath == Beneath::Nothing ? clearLayer(target) : void();
+    const auto stored = storedPicture(steps, source);
+    if (stored && beneath == Beneath::Nothing)
+        return copyPixels(LayerTarget{stored->view(), {}}.part(target.visible()).view, target.view);
     if (beneath == Beneath::Nothing)
-        copyPixels(seen, target.view);
-    else
-        blendOver(seen, target.view);
+        return composeFace(target, steps, source, beneath);
+    if (stored)
+        return blendOver(LayerTarget{stored->view(), {}}.part(target.visible()).view, target.view);
+    OwnedPixels seen(target.view.size);
+    composeFace({seen.view(), target.origin}, steps, source, Beneath::Nothing);
+    blendOver(seen.view(), target.view);
 }
 
 void paint(HDC dc, const Rect& rect, const SurfaceStyle& style, SurfaceEdge edge)
