@@ -10,7 +10,6 @@ CastShadow::CastShadow(const SurfaceStyle& surface, Color color, Point offset)
     style_.shape = surface.shape;
     style_.drawFill = false;
     style_.drawBorder = false;
-    dimLight(style_, 0);
     style_.showShadow = true;
     style_.shadow = color;
     style_.shadowOpacity = surface.shadowOpacity;
