@@ -58,45 +58,45 @@ std::vector<Pixel> painted(const std::function<void(HDC)>& paint, bool cachesPic
     return canvas.pixels();
 }
 
-// Fails each of the allocations that painting makes, one a time. `paintAfresh` paints what was never painted,
-// told apart by the number.
-void failEveryAllocation(const std::function<void(HDC, std::uint32_t)>& paintAfresh)
+// Fails each of the allocations that painting makes, one a time. prepare(number) gives a painting of what was
+// never painted before.
+template <typename Prepare>
+void failEveryAllocation(Prepare&& prepare)
 {
     std::uint32_t number = 0;
-    for (int successes = 0;; ++successes) {
-        ++number;
+    for (bool hasFailed = true; hasFailed; ++number) {
+        const auto paint = prepare(number);
         Canvas canvas(kCanvas, hexColor(0x304050));
-        successesLeft = successes;
-        EXPECT_NO_THROW(paintAfresh(canvas.dc(), number));
-        const bool hasFailed = successesLeft < 0;
+        successesLeft = static_cast<int>(number);
+        paint(canvas.dc());
+        hasFailed = successesLeft < 0;
         successesLeft = -1;
-        const auto paint = [&](HDC dc) { paintAfresh(dc, number); };
         for (int time = 0; time < 3; ++time) // seen once, stored, found
-            ASSERT_EQ(painted(paint, true), painted(paint, false)) << successes;
-        if (!hasFailed)
-            break;
+            ASSERT_EQ(painted(paint, true), painted(paint, false)) << number;
     }
     EXPECT_GT(number, 3U);
 }
 
 TEST(OutOfMemory, LeavesASurfaceUnpaintedAndTheNextPaintWhole)
 {
-    failEveryAllocation([](HDC dc, std::uint32_t number) {
-        const SurfaceStyle style = richStyle(number + 90'000);
-        paintSurface(dc, {10, 10, 120, 40}, style);
-        paintControlSurface(dc, {10, 50, 120, 30}, style);
-        paintProgressFill(dc, {10, 80, 140, 8}, style, 70.5F);
+    failEveryAllocation([](std::uint32_t number) {
+        return [style = richStyle(number + 90'000)](HDC dc) {
+            paintSurface(dc, {10, 10, 120, 40}, style);
+            paintControlSurface(dc, {10, 50, 120, 30}, style);
+            paintProgressFill(dc, {10, 80, 140, 8}, style, 70.5F);
+        };
     });
 }
 
 TEST(OutOfMemory, LeavesTextUnpaintedAndTheNextPaintWhole)
 {
-    failEveryAllocation([](HDC dc, std::uint32_t number) {
+    failEveryAllocation([](std::uint32_t number) {
         const FontSpec font{L"Segoe UI", 10, 400, hexColor(0xF0F6F4), hexColor(0x808080)};
-        const std::wstring text = L"Příliš žluťoučký kůň " + std::to_wstring(number);
-        drawText(dc, {10, 10, 140, 60}, text, font, 96,
-                 {TextTone::Enabled, TextAlign::Center, TextWrap::Words});
-        drawUnclippedLine(dc, {10, 70, 140, 20}, text, font, 96, hexColor(0xFFFFFF));
+        return [font, text = L"Příliš žluťoučký kůň " + std::to_wstring(number)](HDC dc) {
+            drawText(dc, {10, 10, 140, 60}, text, font, 96,
+                     {TextTone::Enabled, TextAlign::Center, TextWrap::Words});
+            drawUnclippedLine(dc, {10, 70, 140, 20}, text, font, 96, hexColor(0xFFFFFF));
+        };
     });
 }
 

@@ -36,7 +36,7 @@ public:
         std::size_t bytes;
         std::size_t entries;
     };
-    explicit PictureStore(Limits limits) noexcept : limits_(limits) {}
+    explicit PictureStore(Limits limits) : limits_(limits) {}
     PictureStore(const PictureStore&) = delete;
     PictureStore& operator=(const PictureStore&) = delete;
 

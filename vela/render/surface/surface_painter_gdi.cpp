@@ -81,10 +81,11 @@ private:
 
 void SurfacePaint::paintHalo(const Rect& face) const
 {
+    const bool hides = plan_.isOpaque() && isShape_ && face == rect_;
     for (PaintStep step : plan_.halo()) {
         step.rect.width -= rect_.width - face.width;
         const Coverage coverage = coverageOf(sizeOf(step.rect));
-        for (const Rect& part : haloBounds(step, face, style_.shape, plan_.isOpaque() && isShape_))
+        for (const Rect& part : haloBounds(step, face, style_.shape, hides))
             renderPixelLayer(dc_, step.rect, part, [&](const LayerTarget& target) {
                 fillLayer(target, coverage, step, style_, {});
             });
@@ -119,8 +120,11 @@ void SurfacePaint::paintFace(float end) const
         return;
     const LayerTarget target{pixels, {visible.x - rect_.x, visible.y - rect_.y}};
     composeLayers(target);
-    if (isCut() || !isWhole)
-        cutToProgress(target, style_.shape, {0, 0, rect_.width, rect_.height}, end);
+    const Rect whole{0, 0, rect_.width, rect_.height};
+    if (isCut())
+        cutToShape(target, style_.shape, whole);
+    if (!isWhole)
+        cutToProgress(target, style_.shape, whole, end);
     compositeScratch(dc_, visible);
 }
 
