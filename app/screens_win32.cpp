@@ -7,7 +7,7 @@
 #include "app/dialogs/setup_styles.h"
 #include "app/windows/installer_library_win32.h"
 
-#include "vela/render/text/text.h"
+#include "vela/render/text/text_engine.h"
 #include "vela/worker_thread_win32.h"
 
 namespace setup {

@@ -5,11 +5,13 @@
 struct HDC__;
 struct HFONT__;
 struct HINSTANCE__;
+struct HMONITOR__;
 struct HRGN__;
 struct HWND__;
 
 using HDC = HDC__*;
 using HFONT = HFONT__*;
 using HINSTANCE = HINSTANCE__*;
+using HMONITOR = HMONITOR__*;
 using HRGN = HRGN__*;
 using HWND = HWND__*;

@@ -36,17 +36,6 @@ bool extendsPrevious(char32_t value) noexcept
                        [value](const auto& range) { return value >= range.first && value <= range.last; });
 }
 
-// Latin, Greek, Cyrillic, punctuation, currency, letterlike signs, arrows, operators, frames and shapes,
-// without the marks and controls among them.
-constexpr struct {
-    wchar_t first;
-    wchar_t last;
-} kPlainRanges[] = {
-    {0x000A, 0x000A}, {0x0020, 0x007E}, {0x00A0, 0x00AC}, {0x00AE, 0x02FF},
-    {0x0370, 0x0482}, {0x048A, 0x052F}, {0x1E00, 0x1FFF}, {0x2010, 0x2027},
-    {0x2030, 0x205E}, {0x20A0, 0x20BF}, {0x2100, 0x25FF},
-};
-
 bool isCaretStop(std::wstring_view text, std::size_t index) noexcept
 {
     if (index == 0 || index >= text.size())
@@ -71,14 +60,6 @@ CharacterClass classOf(wchar_t c) noexcept
 }
 
 } // namespace
-
-bool isPlainText(std::wstring_view text) noexcept
-{
-    return std::all_of(text.begin(), text.end(), [](wchar_t unit) {
-        return std::any_of(std::begin(kPlainRanges), std::end(kPlainRanges),
-                           [unit](const auto& range) { return unit >= range.first && unit <= range.last; });
-    });
-}
 
 std::size_t nextCaretStop(std::wstring_view text, std::size_t index) noexcept
 {

@@ -8,10 +8,6 @@
 
 namespace vela {
 
-// Whether each unit is a letter of its own, drawn to the right of the one before: text whose letters only
-// have to be put next to each other. Line feeds count as such.
-bool isPlainText(std::wstring_view text) noexcept;
-
 std::size_t nextCaretStop(std::wstring_view text, std::size_t index) noexcept;
 std::size_t previousCaretStop(std::wstring_view text, std::size_t index) noexcept;
 

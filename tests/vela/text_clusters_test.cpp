@@ -31,17 +31,6 @@ TEST(TextClusters, CaretStopsKeepPairsMarksAndJoinedEmojiWhole)
     EXPECT_EQ(nearestCaretStop(L"a\xD83D\xDE00", 2), 1u);
 }
 
-TEST(TextClusters, PlainTextIsLettersThatOnlyStandNextToEachOther)
-{
-    for (const wchar_t* text : {L"", L"Instalace Tambere\nhotovo: 42 %",
-                                L"P\u0159\u00EDli\u0161 \u2026 \u2192 \u20AC", L"\u03A9\u0416 \u201Eo\u201C"})
-        EXPECT_TRUE(isPlainText(text)) << text;
-    // A mark, a soft hyphen, right to left, a joiner, a direction mark, a tab, half a pair.
-    for (const wchar_t* text :
-         {L"e\u0301", L"a\u00ADb", L"\u05D0", L"a\u200Db", L"\u202Ea", L"a\tb", L"\xD83D"})
-        EXPECT_FALSE(isPlainText(text)) << text;
-}
-
 TEST(TextClusters, WordsEndAtBlanksAndPathSeparators)
 {
     const std::wstring_view path = L"C:\\Program Files\\T\u00e1mber";

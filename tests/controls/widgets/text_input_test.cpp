@@ -298,7 +298,7 @@ TEST_F(TextInputTest, PaintingShowsStateSelectionAndCaret)
 {
     const auto carets = [this] { return testing::paintedBy<ShapeFillCall>(input); };
     const auto selections = [this] { return testing::paintedBy<SurfaceCall>(input); };
-    const auto texts = [this] { return testing::paintedBy<TextCall>(input); };
+    const auto texts = [this] { return testing::paintedBy<UnclippedLineCall>(input); };
     const TextInputStyle style;
     ASSERT_EQ(carets().size(), 1u);
     EXPECT_EQ(carets()[0].rect, (Rect{30 + 80, 48, 1, 16}));
@@ -314,16 +314,43 @@ TEST_F(TextInputTest, PaintingShowsStateSelectionAndCaret)
     record.focusedSurface.fill = hexColor(0x000000);
     input.applyStyle(inverted);
     ASSERT_EQ(texts().size(), 2u);
-    EXPECT_EQ(texts()[0].font.color, hexColor(0xFFFFFF));
-    EXPECT_EQ(texts()[1].font.color, hexColor(0x000000));
+    EXPECT_EQ(texts()[0].color, hexColor(0xFFFFFF));
+    EXPECT_EQ(texts()[1].color, hexColor(0x000000));
     input.applyStyle(StyleSheet());
     window.focused = nullptr;
     EXPECT_TRUE(carets().empty());
     input.setEnabled(false);
-    EXPECT_EQ(texts()[0].font.color, style.text.disabledColor);
+    EXPECT_EQ(texts()[0].color, style.text.disabledColor);
     input.setText(L"");
     input.setPlaceholder(L"Slozka");
-    EXPECT_EQ(texts()[0].text, L"Slozka");
+    EXPECT_EQ(testing::paintedBy<TextCall>(input)[0].text, L"Slozka");
+}
+
+// The selection has one colour, what is before and behind it the other, and neither is drawn twice.
+TEST_F(TextInputTest, TheTextIsDrawnOnceInEachOfItsColours)
+{
+    press(kKeyHome);
+    press(kKeyRight);
+    press(kKeyRight, kShift);
+    press(kKeyRight, kShift);
+    const auto clips = testing::paintedBy<ClipCall>(input);
+    ASSERT_EQ(clips.size(), 6u); // the field's, two inside it, and their ends
+    EXPECT_EQ(clips[1].rects, (std::vector<Rect>{{30, 40, 8, 32}, {54, 40, 156, 32}}));
+    EXPECT_EQ(clips[3].rects, (std::vector<Rect>{{38, 46, 16, 20}}));
+}
+
+// Each further than the one before; under sanitizers no sum of their places overflows.
+TEST_F(TextInputTest, ThereMayBeAnyNumberOfChips)
+{
+    StyleSheet styles;
+    auto& record = styles.table<TextInputStyle>().defaultRecord();
+    record.attachmentGap = record.attachmentRemoveExtent = record.paddingX = INT32_MAX;
+    input.applyStyle(styles);
+    input.setAttachments(std::vector<TextAttachment>(3000, {L"a", L"priloha"}));
+    click(100);
+    press(kKeyEnd);
+    EXPECT_TRUE(input.caretRect());
+    EXPECT_FALSE(testing::paintedBy<ControlSurfaceCall>(input).empty());
 }
 #endif
 

@@ -5,7 +5,7 @@
 #include "vela/library_win32.h"
 #include "vela/render/paint/paint.h"
 #include "vela/render/text/fonts.h"
-#include "vela/render/text/text_dwrite.h"
+#include "vela/render/text/layout_dwrite.h"
 #include "vela/resource_folders.h"
 
 #include <cstdlib>
@@ -62,14 +62,17 @@ TEST(TextTest, BothEnginesAndMeasuringAgreeOnWidths)
                 FontSpec font{family, 10, std::abs(weight)};
                 font.italic = weight < 0;
                 const ComPointer<IDWriteTextLayout> layout =
-                    makeDirectWriteLayout({kSentence, 1}, ensureFont(font, dpi), 4000, TextAlign::Left);
-                const bool isMadeUpBold = family[0] == L'V' && weight > 500; // left to GDI, which widens it
-                ASSERT_EQ(static_cast<bool>(layout), hasDirectWrite() && !isMadeUpBold) << weight;
+                    makeDirectWriteLayout({kSentence, 1}, ensureFont(font, dpi), {4000, 100},
+                                          TextWrap::SingleLine, TextAlign::Left);
+                ASSERT_EQ(static_cast<bool>(layout), hasDirectWrite()) << weight;
                 if (!layout)
                     continue;
                 DWRITE_TEXT_METRICS metrics{};
                 ASSERT_EQ(layout->GetMetrics(&metrics), S_OK);
-                EXPECT_NEAR(metrics.width, measureTextWidth(kSentence, font, dpi), 1.0)
+                const bool isMadeUpBold = family[0] == L'V' && weight > 500; // GDI widens each letter
+                const auto measured = static_cast<float>(measureTextWidth(kSentence, font, dpi));
+                EXPECT_LE(metrics.width, measured + 1) << dpi << ' ' << weight;
+                EXPECT_GE(metrics.width, isMadeUpBold ? measured * 0.8F : measured - 1)
                     << dpi << ' ' << weight;
                 EXPECT_EQ(metrics.height, static_cast<float>(lineHeight(font, dpi)));
             }
@@ -77,54 +80,75 @@ TEST(TextTest, BothEnginesAndMeasuringAgreeOnWidths)
     }
 }
 
-// Letters put next to each other as GDI measures them stand where a layout of DirectWrite puts them.
-TEST(TextTest, PlainTextIsLaidOutAsDirectWriteLaysItOut)
+// Where a layout places letters that only have to be put next to each other, GDI measures them.
+TEST(TextTest, LettersStandWhereTheyAreMeasured)
 {
-    if (!hasDirectWrite())
-        GTEST_SKIP() << "no DirectWrite";
-    const TextLines lines{L"Příliš žluťoučký\nkůň úpěl: 42 % — „ódy“", 2};
-    const auto isSame = [](const PositionedGlyph& one, const PositionedGlyph& other) {
-        return one.pen == other.pen && one.mask->box == other.mask->box &&
-               one.mask->coverage == other.mask->coverage;
-    };
-    for (const TextAlign align : {TextAlign::Left, TextAlign::Center, TextAlign::Right}) {
-        for (const std::int32_t dpi : {96, 144}) {
-            for (const bool italic : {false, true}) {
-                FontSpec spec = uiFont();
-                spec.italic = italic;
-                const Font& font = ensureFont(spec, dpi);
-                const auto plain = layoutPlainText(lines, font, 401, align, GdiTextMeasurer(font));
-                const auto layout = layoutComplexText(lines, font, 401, align);
-                ASSERT_TRUE(plain && layout);
-                EXPECT_EQ(plain->inkBounds, layout->inkBounds);
-                EXPECT_TRUE(std::equal(plain->glyphs.begin(), plain->glyphs.end(), layout->glyphs.begin(),
-                                       layout->glyphs.end(), isSame))
-                    << dpi << ' ' << italic;
-            }
+    const std::wstring text = L"Příliš žluťoučký kůň úpěl: 42 % — „ódy“";
+    for (const std::int32_t dpi : {96, 120, 144}) {
+        for (const bool italic : {false, true}) {
+            FontSpec font = uiFont();
+            font.italic = italic;
+            const TextPlaces places = measureTextPlaces(text, font, dpi);
+            for (std::size_t i = 0; i <= text.size(); ++i)
+                EXPECT_EQ(places.caretX(i), measureTextWidth(text.substr(0, i), font, dpi))
+                    << i << ' ' << dpi;
         }
     }
-    const Font& font = ensureFont(uiFont(), 96);
-    EXPECT_FALSE(layoutPlainText({L"\u0531", 1}, font, 400, TextAlign::Left, GdiTextMeasurer(font)));
+}
+
+// The first letter of a line to the left stands at its right end, as it would stand alone.
+TEST(TextTest, PlacesAreThoseOfTheDrawnLetters)
+{
+    if (!hasDirectWrite())
+        GTEST_SKIP() << "GDI tells no places but from left to right";
+    const FontSpec font{L"VelaVu Sans", 14, 400, hexColor(0xF0F6F4), 0};
+    const std::wstring text = L"ab \u05E9\u05DC\u05D5\u05DD";
+    const TextPlaces places = measureTextPlaces(text, font, 96);
+    EXPECT_LT(places.caretX(2), places.caretX(7));
+    EXPECT_GT(places.caretX(3), places.caretX(4));
+    EXPECT_EQ(places.caretX(3), places.width());
+    EXPECT_EQ(places.spans(1, 5).size(), 2u);
+    Canvas line({200, 40}, kBackground);
+    drawUnclippedLine(line.dc(), {10, 5, 1, 1}, text, font, 96, font.color);
+    for (std::size_t i = 3; i < text.size(); ++i) {
+        const TextSpan span = places.spans(i, i + 1).at(0);
+        Canvas letter({200, 40}, kBackground);
+        drawUnclippedLine(letter.dc(), {10 + span.left, 5, 1, 1}, text.substr(i, 1), font, 96, font.color);
+        for (std::int32_t y = 0; y < 40; ++y)
+            for (std::int32_t x = 10 + span.left + 1; x < 10 + span.right - 1; ++x)
+                ASSERT_EQ(line.at(x, y), letter.at(x, y)) << i << ": " << x << ' ' << y;
+        EXPECT_EQ(places.indexAt(span.left + 1), i + 1);
+        EXPECT_EQ(places.indexAt(span.right - 1), i);
+    }
+    // Joined letters and marks: every place is a caret's, and the whole line is covered.
+    for (const wchar_t* mixed :
+         {L"C:\\\u0645\u0644\u0641\u0627\u062A\\x", L"e\u0301 \u4E2D\u6587 \xD83D\xDE80 Ž"}) {
+        const std::wstring odd = mixed;
+        const TextPlaces places_ = measureTextPlaces(odd, font, 96);
+        EXPECT_EQ(places_.spans(0, odd.size()), (std::vector<TextSpan>{{0, places_.width()}}));
+    }
 }
 
 // drawCenteredText is GDI's, drawText DirectWrite's where there is one.
 TEST(TextTest, BothEnginesPutTheSameInkAtTheSamePlace)
 {
     for (const std::int32_t dpi : {96, 144}) {
-        const Rect rect{7, 5, 601, 43};
-        Canvas direct({640, 60}, kBackground);
-        Canvas gdi({640, 60}, kBackground);
-        const auto background = gdi.pixels();
-        const std::wstring text = L"Zástupce na ploše: Hgjy";
-        drawText(direct.dc(), rect, text, uiFont(), dpi, {.align = TextAlign::Center});
-        drawCenteredText(gdi.dc(), rect, text, uiFont(), dpi);
-        const Rect one = direct.changed(background);
-        const Rect other = gdi.changed(background);
-        ASSERT_GT(one.width, 100);
-        EXPECT_NEAR(one.x, other.x, 1);
-        EXPECT_NEAR(one.y, other.y, 1);
-        EXPECT_NEAR(one.width, other.width, 2);
-        EXPECT_NEAR(one.height, other.height, 2);
+        for (const std::int32_t height : {43, 29, 11}) {
+            const Rect rect{7, 5, 601, height};
+            Canvas direct({640, 60}, kBackground);
+            Canvas gdi({640, 60}, kBackground);
+            const auto background = gdi.pixels();
+            const std::wstring text = L"Zástupce na ploše: Hgjy";
+            drawText(direct.dc(), rect, text, uiFont(), dpi, {.align = TextAlign::Center});
+            drawCenteredText(gdi.dc(), rect, text, uiFont(), dpi);
+            const Rect one = direct.changed(background);
+            const Rect other = gdi.changed(background);
+            ASSERT_GT(one.width, 100);
+            EXPECT_NEAR(one.x, other.x, 1);
+            EXPECT_NEAR(one.y, other.y, 1);
+            EXPECT_NEAR(one.width, other.width, 2);
+            EXPECT_NEAR(one.height, other.height, 2);
+        }
     }
 }
 
@@ -171,6 +195,105 @@ TEST(TextTest, WhatLiesUnderAndAroundTheTextStays)
             untouched += now[static_cast<std::size_t>(y * 200 + x)] ==
                          background[static_cast<std::size_t>(y * 200 + x)];
     EXPECT_GT(untouched, ink.width * ink.height / 3);
+}
+
+// Whatever part of a text is painted, it is that part of the whole.
+TEST(TextTest, DrawnInPartsItIsTheSame)
+{
+    FontSpec slanted = uiFont(14);
+    slanted.italic = slanted.underline = true;
+    const auto paint = [&slanted](const Canvas& canvas) {
+        drawText(canvas.dc(), {3, 2, 290, 25}, kSentence, uiFont(), 96, {.align = TextAlign::Center});
+        drawText(canvas.dc(), {3, 30, 150, 90}, kSentence, slanted, 96, {.wrap = TextWrap::Words});
+        drawText(canvas.dc(), {160, 30, 130, 9}, kSentence, uiFont(20), 96, {.align = TextAlign::Right});
+        drawUnclippedLine(canvas.dc(), {-150, 100, 1, 1}, kSentence + L" \u05E9\u05DC\u05D5\u05DD fi",
+                          {L"VelaVu Sans", 12, 400}, 96, hexColor(0xFFC040));
+    };
+    const auto scene = [](const Canvas& canvas) {
+        const PixelView view = canvas.view();
+        for (std::int32_t i = 0; i < 300 * 130; ++i)
+            view.pixels[i] = static_cast<Pixel>(i % 251) | static_cast<Pixel>(i / 97 % 256) << 8;
+    };
+    Canvas whole({300, 130});
+    scene(whole);
+    paint(whole);
+    std::uint32_t seed = 3;
+    const auto upTo = [&seed](std::uint32_t most) {
+        seed = seed * 1664525 + 1013904223;
+        return static_cast<int>((seed >> 8) % (most + 1));
+    };
+    for (int round = 0; round < 40; ++round) {
+        Canvas parts({300, 130});
+        scene(parts);
+        const auto background = parts.pixels();
+        const Rect one{upTo(250), upTo(100), 1 + upTo(80), 1 + upTo(60)};
+        const Rect other{upTo(250), upTo(100), 1 + upTo(20), 1 + upTo(60)};
+        {
+            const PaintClip clip(parts.dc(), {one, other});
+            paint(parts);
+        }
+        const auto now = parts.pixels();
+        const auto wanted = whole.pixels();
+        for (std::int32_t i = 0; i < 300 * 130; ++i) {
+            const Rect pixel{i % 300, i / 300, 1, 1};
+            const bool inside = !isEmpty(intersection(one, pixel)) || !isEmpty(intersection(other, pixel));
+            const auto at = static_cast<std::size_t>(i);
+            ASSERT_EQ(now[at], inside ? wanted[at] : background[at])
+                << round << ": " << pixel.x << ' ' << pixel.y;
+        }
+    }
+}
+
+// Sets what the user has chosen for all programs, and puts it back.
+class SmoothingChoice {
+public:
+    SmoothingChoice()
+    {
+        ::SystemParametersInfoW(SPI_GETFONTSMOOTHING, 0, &isOn_, 0);
+        ::SystemParametersInfoW(SPI_GETFONTSMOOTHINGTYPE, 0, &type_, 0);
+    }
+    ~SmoothingChoice()
+    {
+        choose(isOn_, type_);
+        textSettingsChanged();
+    }
+    static void choose(BOOL isOn, UINT type)
+    {
+        ::SystemParametersInfoW(SPI_SETFONTSMOOTHING, static_cast<UINT>(isOn), nullptr, 0);
+        ::SystemParametersInfoW(SPI_SETFONTSMOOTHINGTYPE, 0, reinterpret_cast<void*>(std::uintptr_t{type}),
+                                0);
+    }
+
+private:
+    BOOL isOn_ = TRUE;
+    UINT type_ = FE_FONTSMOOTHINGCLEARTYPE;
+};
+
+TEST(TextTest, LettersAreSmoothedAsTheUserHasChosen)
+{
+    if (!hasDirectWrite())
+        GTEST_SKIP() << "GDI's fonts ask for ClearType";
+    const SmoothingChoice before;
+    // How many pixels are neither ground nor letter, and how many are coloured.
+    const auto edges = [] {
+        Canvas canvas({200, 40});
+        drawText(canvas.dc(), {0, 0, 200, 40}, L"Spouštět", {L"Segoe UI", 14, 400, hexColor(0xFFFFFF)}, 96);
+        std::pair<int, int> found;
+        for (const Pixel pixel : canvas.pixels()) {
+            found.first += pixel != 0 && pixel != 0xFFFFFF;
+            found.second += (pixel >> 16) != (pixel & 0xFF);
+        }
+        return found;
+    };
+    before.choose(TRUE, FE_FONTSMOOTHINGSTANDARD);
+    textSettingsChanged();
+    const auto grey = edges();
+    EXPECT_GT(grey.first, 50);
+    EXPECT_EQ(grey.second, 0);
+    before.choose(FALSE, FE_FONTSMOOTHINGSTANDARD);
+    EXPECT_EQ(edges(), grey) << "asked for anew with every text";
+    textSettingsChanged();
+    EXPECT_EQ(edges().first, 0);
 }
 
 TEST(TextTest, TheClipIsKeptAndTextOutsideItCostsNothing)
@@ -264,8 +387,9 @@ TEST(TextTest, OddTextIsDrawnWhole)
 
 TEST(TextTest, AFaceThatIsNotThereIsTheDefaultFaceAndAPrivateOneIsItself)
 {
-    EXPECT_EQ(ensureFont({L"Neexistuje Nikde", 10}, 96).face.family, L"Segoe UI");
-    EXPECT_EQ(ensureFont({L"", 10}, 96).face.family, L"Segoe UI");
+    EXPECT_EQ(ensureFont({L"Neexistuje Nikde", 10}, 96).face.family,
+              ensureFont({L"Segoe UI", 10}, 96).face.family);
+    EXPECT_EQ(ensureFont({L"", 10}, 96).face.family, ensureFont({L"Segoe UI", 10}, 96).face.family);
     EXPECT_EQ(ensureFont({L"VelaVu Sans", 10}, 96).face.family, L"VelaVu Sans");
     const auto faceOf = [](const FontSpec& spec) {
         const OwnedMemoryDc dc(::CreateCompatibleDC(nullptr));
@@ -275,8 +399,8 @@ TEST(TextTest, AFaceThatIsNotThereIsTheDefaultFaceAndAPrivateOneIsItself)
         return std::wstring(name);
     };
     EXPECT_EQ(faceOf({L"VelaVu Sans", 10}), L"VelaVu Sans");
-    const ComPointer<IDWriteTextLayout> layout =
-        makeDirectWriteLayout({L"abc", 1}, ensureFont({L"VelaVu Sans", 10}, 96), 100, TextAlign::Left);
+    const ComPointer<IDWriteTextLayout> layout = makeDirectWriteLayout(
+        {L"abc", 1}, ensureFont({L"VelaVu Sans", 10}, 96), {100, 20}, TextWrap::SingleLine, TextAlign::Left);
     ASSERT_EQ(static_cast<bool>(layout), hasDirectWrite());
     if (layout) {
         wchar_t name[64] = {};
@@ -316,6 +440,25 @@ TEST(TextTest, RepaintingMakesNoFontNoLayoutAndNoGdiObject)
     EXPECT_GT(objects, 0);
 }
 
+// GDI takes 8,192 units at a time, a layout no more than the longest path has.
+TEST(TextTest, LongTextsAreMeasuredAndDrawnToTheirEnd)
+{
+    const std::int32_t wide = measureTextWidth(L"m", uiFont(), 96);
+    for (const std::size_t length : {8191u, 8193u, 20'000u, 40'000u}) {
+        const std::wstring text(length, L'm');
+        EXPECT_EQ(measureTextWidth(text, uiFont(), 96), static_cast<std::int32_t>(length) * wide);
+        const TextPlaces places = measureTextPlaces(text, uiFont(), 96);
+        EXPECT_EQ(places.caretX(length), static_cast<std::int32_t>(length) * wide);
+        Canvas canvas({100, 40}, kBackground);
+        const auto background = canvas.pixels();
+        drawUnclippedLine(canvas.dc(), {60 - places.width(), 5, 1, 1}, text, uiFont(), 96, 0xFFFFFF);
+        const Rect ink = canvas.changed(background);
+        EXPECT_LE(ink.x, 1);
+        EXPECT_NEAR(ink.x + ink.width, 60, 2);
+    }
+    EXPECT_LE(measureTextWidth(std::wstring(1'000'000, L'm'), uiFont(400), 9600), kWidestText);
+}
+
 // Texts that come and go must not pile up.
 TEST(TextTest, ManyDifferentTextsLeaveNoObjectsBehind)
 {
@@ -325,10 +468,14 @@ TEST(TextTest, ManyDifferentTextsLeaveNoObjectsBehind)
     };
     for (int i = 0; i < 600; ++i)
         paint(i);
+    EXPECT_LE(textStatistics().kept, 256u);
     const int objects = testing::gdiObjectCount();
     for (int i = 600; i < 1200; ++i)
         paint(i);
     EXPECT_EQ(testing::gdiObjectCount(), objects);
+    for (int i = 0; i < 20; ++i)
+        drawText(canvas.dc(), {0, 0, 200, 30}, std::wstring(30'000, L'x') + std::to_wstring(i), uiFont(), 96);
+    EXPECT_LE(textStatistics().kept, 3u); // long ones leave no room for others
 }
 
 } // namespace

@@ -102,12 +102,29 @@ TEST(TextLinesTest, NeverSplitsAClusterAtAnyWidth)
     }
 }
 
-TEST(TextLinesTest, ASingleLineStandsInTheMiddleAndWrappedTextAtTheTop)
+// Widths as large as numbers go, in rooms of any size.
+TEST(TextLinesTest, NoWidthIsTooLarge)
 {
-    EXPECT_EQ(textTop({0, 100, 50, 30}, TextWrap::SingleLine, 16), 107);
-    EXPECT_EQ(textTop({0, 100, 50, 30}, TextWrap::Words, 16), 100);
-    EXPECT_EQ(textTop({0, 100, 50, 10}, TextWrap::SingleLine, 16),
-              97); // taller than the room: cut on both sides
+    class Endless final : public TextMeasurer {
+    public:
+        void measure(std::wstring_view text, std::vector<std::int32_t>& ends) const override
+        {
+            ends.assign(text.size(), INT32_MAX);
+        }
+    };
+    const Endless measurer;
+    for (const std::int32_t width : {INT32_MIN, -1, 0, INT32_MAX}) {
+        for (const TextWrap wrap : {TextWrap::SingleLine, TextWrap::Words}) {
+            const TextLines lines = composeText(L"jedna dva", wrap, {width, 20}, 20, measurer);
+            EXPECT_EQ(lines.text, width == INT32_MAX ? L"jedna dva" : L"\u2026");
+        }
+    }
+    EXPECT_EQ(wrapText(L"a b", INT32_MAX, measurer).count, 1);
+}
+
+TEST(TextLinesTest, AnUnbrokenLineKeepsEveryUnitButThoseThatBreakIt)
+{
+    EXPECT_EQ(unbrokenLine(L"a\tb\r\nc\u2028d\u2029e\u0085f  "), L"a b  c d e f  ");
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 #include "vela/controls/widgets/working_style.h"
 #include "vela/render/paint/paint.h"
 #include "vela/text.h"
-#include "vela/text_clusters.h"
 #include "vela/theme/records/style_sheet.h"
 
 #include <algorithm>
@@ -50,27 +49,22 @@ Rect TextInput::contentBounds() const
 
 TextServices* TextInput::services() const { return window() ? window()->textServices() : nullptr; }
 
-const std::vector<std::int32_t>& TextInput::ends() const
+// What cannot be changed is still there to be read.
+const FontSpec& TextInput::font() const noexcept
 {
-    if (!std::exchange(endsKnown_, true))
-        measureTextEnds(model_.text(), style_.text, dpi(), ends_);
-    return ends_;
+    return model_.locked() ? style_.placeholderText : style_.text;
 }
 
-std::int32_t TextInput::xOf(std::size_t index) const { return index == 0 ? 0 : ends()[index - 1]; }
-
-// The caret stop whose place is nearest to the pixel; `x` counts from the text's beginning.
-std::size_t TextInput::indexAt(std::int32_t x) const
+const TextPlaces& TextInput::places() const
 {
-    const std::wstring& text = model_.text();
-    std::size_t index = 0;
-    while (index < text.size()) {
-        const std::size_t next = nextCaretStop(text, index);
-        if (std::int64_t{xOf(index)} + xOf(next) > 2 * std::int64_t{x})
-            break;
-        index = next;
-    }
-    return index;
+    if (!places_)
+        places_ = measureTextPlaces(model_.text(), font(), dpi());
+    return *places_;
+}
+
+std::size_t TextInput::indexAt(Point position) const
+{
+    return places().indexAt(saturated(std::int64_t{position.x} - textArea().x + scroll_));
 }
 
 Rect TextInput::textArea() const
@@ -86,14 +80,14 @@ Rect TextInput::textArea() const
 std::optional<Rect> TextInput::caretRect() const
 {
     const Rect area = textArea();
-    const std::int32_t height = std::min(std::max(lineHeight(style_.text, dpi()), 1), area.height);
-    return Rect{area.x + xOf(static_cast<std::size_t>(model_.caret())) - scroll_,
+    const std::int32_t height = std::min(std::max(lineHeight(font(), dpi()), 1), area.height);
+    return Rect{area.x + places().caretX(static_cast<std::size_t>(model_.caret())) - scroll_,
                 area.y + (area.height - height) / 2, std::max(scaled(1), 1), height};
 }
 
 void TextInput::measureAgain()
 {
-    endsKnown_ = false;
+    places_.reset();
     caretMoved();
 }
 
@@ -104,8 +98,8 @@ void TextInput::caretMoved()
 {
     caretShown_ = true;
     blinkElapsed_ = 0;
-    scroll_ = scrollToCaret(scroll_, xOf(static_cast<std::size_t>(model_.caret())), textWidth(),
-                            textArea().width, scaled(kCaretMargin));
+    scroll_ = scrollToCaret(scroll_, places().caretX(static_cast<std::size_t>(model_.caret())),
+                            places().width(), textArea().width, scaled(kCaretMargin));
     invalidate(InvalidationReason::State);
 }
 
@@ -134,7 +128,7 @@ void TextInput::setEditLock(bool locked)
     if (locked == model_.locked())
         return;
     model_.setLocked(locked);
-    invalidate(InvalidationReason::State);
+    measureAgain();
 }
 
 void TextInput::setPlaceholder(std::wstring text)
@@ -145,7 +139,7 @@ void TextInput::setPlaceholder(std::wstring text)
 
 void TextInput::setScrollOffset(std::int32_t pixels)
 {
-    const std::int32_t furthest = std::max(textWidth() + 1 - textArea().width, 0);
+    const std::int32_t furthest = std::max(places().width() + 1 - textArea().width, 0);
     if (std::exchange(scroll_, std::clamp(pixels, 0, furthest)) != scroll_)
         invalidate(InvalidationReason::State);
 }

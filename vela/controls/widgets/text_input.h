@@ -7,9 +7,11 @@
 #include "vela/controls/widgets/text_edit_model.h"
 #include "vela/controls/widgets/text_services.h"
 #include "vela/controls/widgets/wheel_acceleration.h"
+#include "vela/render/text/text_places.h"
 #include "vela/theme/records/control_styles.h"
 
 #include <functional>
+#include <optional>
 
 namespace vela {
 
@@ -79,11 +81,10 @@ private:
     TextServices* services() const;
     std::vector<Chip> chips() const;
     Rect textArea() const;
-    Rect selectedRect() const; // as much of the text as is selected, seen or not
-    const std::vector<std::int32_t>& ends() const;
-    std::int32_t xOf(std::size_t index) const;
-    std::size_t indexAt(std::int32_t x) const;
-    std::int32_t textWidth() const { return xOf(model_.text().size()); }
+    std::vector<Rect> selectedRects() const; // as much of the text as is selected, seen or not
+    const FontSpec& font() const noexcept;
+    const TextPlaces& places() const;
+    std::size_t indexAt(Point position) const;
     const SurfaceStyle& surface() const;
     bool pressChip(Point position);
     bool scrollByWheel(const MouseEvent& event);
@@ -95,6 +96,7 @@ private:
     void measureAgain();
     void paintChips(HDC dc, Point at);
     void paintText(HDC dc, Point at);
+    void paintLine(HDC dc, Point at, const Rect& area, const Rect& line);
 
     TextEditModel model_;
     std::int32_t scroll_ = 0;
@@ -102,8 +104,7 @@ private:
     std::vector<TextAttachment> attachments_;
     std::wstring placeholder_;
     TextInputStyle style_;
-    mutable std::vector<std::int32_t> ends_; // widths up to each unit, while endsKnown_
-    mutable bool endsKnown_ = false;
+    mutable std::optional<TextPlaces> places_; // of the text in its font, once they were asked for
     std::size_t dragOrigin_ = 0;
     std::int32_t dragClicks_ = 0; // 0: no selection is being dragged
     bool caretShown_ = true;

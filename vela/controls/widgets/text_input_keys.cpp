@@ -158,7 +158,7 @@ bool TextInput::mouseButton(const MouseEvent& event)
     if (pressChip(event.position))
         return true;
     dragClicks_ = event.clicks;
-    dragOrigin_ = indexAt(event.position.x - textArea().x + scroll_);
+    dragOrigin_ = indexAt(event.position);
     if (event.clicks == 2)
         model_.selectWordAt(dragOrigin_);
     else if (event.clicks == 3)
@@ -174,7 +174,7 @@ bool TextInput::mouseButton(const MouseEvent& event)
 
 void TextInput::mouseDragged(Point position)
 {
-    const std::size_t index = indexAt(position.x - textArea().x + scroll_);
+    const std::size_t index = indexAt(position);
     if (dragClicks_ == 1)
         model_.moveCaretTo(index, true);
     else if (dragClicks_ == 2)
@@ -193,7 +193,7 @@ void TextInput::mouseCaptureLost()
 // Three letters a notch. A text that fits leaves the wheel to others.
 bool TextInput::scrollByWheel(const MouseEvent& event)
 {
-    if (textWidth() < textArea().width)
+    if (places().width() < textArea().width)
         return false;
     const std::int64_t letters = lineHeight(style_.text, dpi()) / 2 * 3;
     const std::int32_t percent = wheel_.turn(style_.scrollAcceleration, event.time);

@@ -2,6 +2,7 @@
 #include "vela/controls/widgets/text_input.h"
 
 #include "vela/render/paint/paint.h"
+#include "vela/render/pixels/length_limits.h"
 #include "vela/theme/color/contrast.h"
 #include "vela/theme/records/surface_tones.h"
 
@@ -13,8 +14,6 @@ namespace {
 
 // 96-DPI pixels between the parts of a chip.
 constexpr std::int32_t kChipPadding = 8;
-
-constexpr std::int32_t kLongLine = 16'384; // pixels: more than ten screens of text
 
 Rect centredIn(const Rect& row, std::int32_t x, std::int32_t width, std::int32_t height) noexcept
 {
@@ -53,7 +52,8 @@ std::vector<TextInput::Chip> TextInput::chips() const
     const std::int32_t remove = style_.showAttachmentRemove ? style_.attachmentRemoveExtent : 0;
     std::int32_t x = room.x + style_.paddingX;
     for (const TextAttachment& attachment : attachments_) {
-        const std::int32_t name = measureTextWidth(attachment.name, style_.attachmentText, dpi());
+        const std::int32_t name =
+            limitedLength(measureTextWidth(attachment.name, style_.attachmentText, dpi()));
         Chip chip;
         chip.image = centredIn(room, x + padding, image, image);
         chip.name = centredIn(room, chip.image.x + image + padding / 2, name, height);
@@ -64,19 +64,21 @@ std::vector<TextInput::Chip> TextInput::chips() const
         }
         chip.body = centredIn(room, x, end - x, height);
         result.push_back(chip);
-        x = end + style_.attachmentGap;
+        x = limitedLength(end + style_.attachmentGap); // however many there are, further than any screen
     }
     return result;
 }
 
-Rect TextInput::selectedRect() const
+// Several where the letters run both ways, with others between them.
+std::vector<Rect> TextInput::selectedRects() const
 {
+    std::vector<Rect> rects;
     const Rect area = textArea();
-    const std::int32_t from = area.x + xOf(model_.selectionStart()) - scroll_;
-    const std::int32_t to = area.x + xOf(model_.selectionEnd()) - scroll_;
     const std::int32_t height =
         std::min(std::max(style_.lineHeight, caretRect().value_or(Rect{}).height), area.height);
-    return centredIn(area, from, to - from, height);
+    for (const TextSpan& span : places().spans(model_.selectionStart(), model_.selectionEnd()))
+        rects.push_back(centredIn(area, area.x + span.left - scroll_, span.right - span.left, height));
+    return rects;
 }
 
 void TextInput::visitSurfaces(const SurfaceVisitor& visit) const
@@ -84,11 +86,10 @@ void TextInput::visitSurfaces(const SurfaceVisitor& visit) const
     for (const SurfaceStyle* const each : {&style_.surface, &style_.hotSurface, &style_.pressedSurface,
                                            &style_.disabledSurface, &style_.focusedSurface})
         visit({*each, localBounds(), each == &surface()});
-    if (model_.hasSelection()) {
-        Rect seen = textArea();
-        seen.width += caretRect().value_or(Rect{}).width;
-        visit({style_.selection, selectedRect(), true, seen});
-    }
+    Rect seen = textArea();
+    seen.width += caretRect().value_or(Rect{}).width;
+    for (const Rect& selected : selectedRects())
+        visit({style_.selection, selected, true, seen});
     if (attachments_.empty())
         return;
     for (const Chip& chip : chips()) {
@@ -142,36 +143,36 @@ void TextInput::paintText(HDC dc, Point at)
     const Rect caret = movedBy(caretRect().value_or(Rect{}), at);
     // A caret behind the last character stands half outside the text.
     const PaintClip clip(dc, {{area.x, area.y, area.width + caret.width, area.height}});
-    // What cannot be changed is still there to be read.
-    const FontSpec& font = model_.locked() ? style_.placeholderText : style_.text;
-    const auto drawLine = [&](Color color) {
-        FontSpec colored = font;
-        colored.color = color;
-        const Rect line{area.x - scroll_, caret.y, textWidth() + 1, caret.height};
-        // A layout of something very long is not worth its time.
-        if (line.width < kLongLine)
-            drawText(dc, line, model_.text(), colored, dpi());
-        else
-            drawUnclippedLine(dc, line, model_.text(), colored, dpi(), color);
-    };
-    const Color color = isEnabled() ? font.color : font.disabledColor;
-    if (model_.hasSelection()) {
-        const Rect selected = movedBy(selectedRect(), at);
-        const std::int32_t from = selected.x;
-        const std::int32_t to = selected.x + selected.width;
-        paintSurface(dc, selected, style_.selection);
-        {
-            const PaintClip before(dc, {{area.x, area.y, std::max(from - area.x, 0), area.height},
-                                        {to, area.y, std::max(area.x + area.width - to, 0), area.height}});
-            drawLine(color);
-        }
-        const PaintClip inside(dc, {selected});
-        drawLine(selectedTextColor(style_));
-    } else {
-        drawLine(color);
-    }
+    paintLine(dc, at, area, {area.x - scroll_, caret.y, places().width() + 1, caret.height});
     if (hasFocus() && caretShown_)
         fillShape(dc, caret, ShapeKind::Rect, style_.caretColor);
+}
+
+void TextInput::paintLine(HDC dc, Point at, const Rect& area, const Rect& line)
+{
+    const auto draw = [&](Color color) { drawUnclippedLine(dc, line, model_.text(), font(), dpi(), color); };
+    const Color color = isEnabled() ? font().color : font().disabledColor;
+    std::vector<Rect> selected = selectedRects();
+    if (selected.empty())
+        return draw(color);
+    std::vector<Rect> others;
+    std::int32_t x = area.x;
+    const auto leaveUpTo = [&](std::int32_t end) {
+        others.push_back({x, area.y, std::max(end - x, 0), area.height});
+    };
+    for (Rect& rect : selected) {
+        rect = movedBy(rect, at);
+        paintSurface(dc, rect, style_.selection);
+        leaveUpTo(rect.x);
+        x = rect.x + rect.width;
+    }
+    leaveUpTo(area.x + area.width);
+    {
+        const PaintClip around(dc, others);
+        draw(color);
+    }
+    const PaintClip inside(dc, selected);
+    draw(selectedTextColor(style_));
 }
 
 } // namespace vela

@@ -1,7 +1,7 @@
 #include "vela/controls/window/window_win32.h"
 
 #include "vela/render/paint/paint.h"
-#include "vela/render/text/text.h"
+#include "vela/render/text/text_engine.h"
 #include "vela/theme/fields/record_scale.h"
 #include "vela/theme/records/style_sheet.h"
 

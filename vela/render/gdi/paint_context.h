@@ -13,6 +13,8 @@ struct PaintContext {
     std::uint64_t time = 0; // of lights that move, in milliseconds: one for all that a paint shows
     PerformanceProfile profile = PerformanceProfile::Full;
     bool cachesPictures = true; // false changes nothing but the time that painting takes
+    HMONITOR monitor =
+        nullptr; // that shows the window, for the smoothing of its letters; null: the first one
 };
 
 // The context that is bound to the device context; without one the defaults above.

@@ -12,6 +12,7 @@
 #include "vela/render/bitmaps/surface_insets.h"
 #include "vela/render/shapes/icons.h"
 #include "vela/render/text/text_look.h"
+#include "vela/render/text/text_places.h"
 #include "vela/theme/records/surface_style.h"
 #include "vela/theme/records/theme.h"
 
@@ -58,9 +59,12 @@ std::int32_t measureText(std::wstring_view text, const FontSpec& font, std::int3
 std::int32_t lineHeight(const FontSpec& font, std::int32_t dpi);
 std::int32_t measureTextWidth(std::wstring_view text, const FontSpec& font, std::int32_t dpi);
 
-// ends[i] becomes the width of the text up to and including unit i: for carets and selections.
-void measureTextEnds(std::wstring_view text, const FontSpec& font, std::int32_t dpi,
-                     std::vector<std::int32_t>& ends);
+// Where the letters of an unclipped line stand: for carets, clicks and selections.
+TextPlaces measureTextPlaces(std::wstring_view text, const FontSpec& font, std::int32_t dpi);
+
+// To be called when the user has changed how text is smoothed, or the monitors: what is drawn from then on
+// follows. What stands on the screen has to be painted again.
+void textSettingsChanged();
 
 // Whether the pointer is on what is painted: by the surface's bitmap where the style says so, else by the
 // shape that a control names for its hits.

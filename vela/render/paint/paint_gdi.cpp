@@ -62,11 +62,12 @@ std::int32_t measureTextWidth(std::wstring_view text, const FontSpec& font, std:
     return limitedLength(render::measureTextWidth(text, font, dpi));
 }
 
-void measureTextEnds(std::wstring_view text, const FontSpec& font, std::int32_t dpi,
-                     std::vector<std::int32_t>& ends)
+TextPlaces measureTextPlaces(std::wstring_view text, const FontSpec& font, std::int32_t dpi)
 {
-    render::measureTextEnds(text, font, dpi, ends);
+    return render::measureTextPlaces(text, font, dpi);
 }
+
+void textSettingsChanged() { render::textSettingsChanged(); }
 
 bool isOnSurface(const SurfaceStyle& style, ShapeKind hitShape, Size size, Point point)
 {

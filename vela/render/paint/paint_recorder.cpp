@@ -109,13 +109,15 @@ std::int32_t measureTextWidth(std::wstring_view text, const FontSpec&, std::int3
     return limitedLength(saturated(static_cast<std::int64_t>(text.size()) * unitWidth(dpi)));
 }
 
-void measureTextEnds(std::wstring_view text, const FontSpec&, std::int32_t dpi,
-                     std::vector<std::int32_t>& ends)
+TextPlaces measureTextPlaces(std::wstring_view text, const FontSpec&, std::int32_t dpi)
 {
-    ends.resize(text.size());
+    std::vector<std::int32_t> ends(text.size());
     for (std::size_t i = 0; i < text.size(); ++i)
         ends[i] = static_cast<std::int32_t>(i + 1) * unitWidth(dpi);
+    return TextPlaces(text, ends);
 }
+
+void textSettingsChanged() {}
 
 bool isOnSurface(const SurfaceStyle&, ShapeKind hitShape, Size size, Point point)
 {

@@ -51,6 +51,8 @@ public:
         return entries_.emplace_back(std::move(fresh))->value;
     }
 
+    void clear() noexcept { entries_.clear(); }
+
     std::size_t size() const noexcept { return entries_.size(); }
     // How many values were made since the start, for tests: a repaint of what was painted before adds none.
     std::size_t made() const noexcept { return made_; }

@@ -9,22 +9,6 @@
 namespace vela {
 namespace {
 
-struct WeightSuffix {
-    std::int32_t weight;
-    std::wstring_view suffix;
-};
-
-constexpr WeightSuffix kWeightSuffixes[] = {
-    {100, L" Thin"},      {200, L" ExtraLight"}, {200, L" UltraLight"}, {300, L" Light"},
-    {350, L" Semilight"}, {500, L" Medium"},     {600, L" Semibold"},   {600, L" Demibold"},
-    {800, L" ExtraBold"}, {800, L" UltraBold"},  {900, L" Black"},      {900, L" Heavy"},
-};
-
-constexpr std::int32_t kRegularWeight = 400;
-
-// GDI cuts longer names: the system's own "Segoe UI Variable Display Semib" is one.
-constexpr std::size_t kLongestFamily = 31;
-
 constexpr std::wstring_view kFontExtensions[] = {L".ttf", L".otf", L".ttc", L".otc"};
 
 // A point size comes from a skin and may be anything; beyond this no text fits a screen.
@@ -35,26 +19,22 @@ constexpr std::int32_t kPointsPerInch = 72;
 
 std::int32_t emPixels(std::int32_t pointSize, std::int32_t dpi) noexcept
 {
-    return mulDiv(std::clamp(pointSize, 1, kMaxPointSize), std::clamp(dpi, 1, 9600), kPointsPerInch);
+    // Asked for no pixels, GDI would choose a size of its own.
+    return std::max(mulDiv(std::clamp(pointSize, 1, kMaxPointSize), std::clamp(dpi, 1, 9600), kPointsPerInch),
+                    1);
 }
 
-FontFace chooseFace(std::wstring_view family, std::int32_t weight,
-                    const std::function<bool(const std::wstring& family)>& isInstalled)
+FontFace chooseFace(std::wstring_view family,
+                    const std::function<std::optional<FontFace>(const std::wstring& family)>& find)
 {
     for (const std::wstring_view wanted : {family, std::wstring_view(kDefaultFace)}) {
-        if (wanted.empty())
-            continue;
-        for (const WeightSuffix& row : kWeightSuffixes) {
-            if (row.weight != weight)
-                continue;
-            std::wstring ofWeight = std::wstring(wanted).append(row.suffix).substr(0, kLongestFamily);
-            if (isInstalled(ofWeight)) // asked for more than regular, GDI might thicken what is heavy already
-                return {std::move(ofWeight), std::min(weight, kRegularWeight)};
-        }
-        if (isInstalled(std::wstring(wanted)))
-            return {std::wstring(wanted), weight};
+        std::optional<FontFace> face;
+        if (!wanted.empty())
+            face = find(std::wstring(wanted));
+        if (face)
+            return *std::move(face);
     }
-    return {kDefaultFace, weight};
+    return {kDefaultFace};
 }
 
 bool isFontFileName(std::wstring_view name) noexcept

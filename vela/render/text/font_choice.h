@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -37,16 +38,15 @@ struct FontKey {
 // Pixels from the top of a capital with its accent to the bottom of a descender, more or less: the em.
 std::int32_t emPixels(std::int32_t pointSize, std::int32_t dpi) noexcept;
 
+// What GDI is asked for.
 struct FontFace {
-    std::wstring family; // as GDI names it
-    std::int32_t weight;
+    std::wstring family;
+    std::int32_t weight = 400;
 };
 
-// GDI knows a family by at most four styles: weights other than regular and bold are families of their own
-// ("Segoe UI Semibold"), and a request for weight 600 within "Segoe UI" would come out bold. So the family
-// of the weight is taken where there is one, then the plain family, then the default face in the same way.
-FontFace chooseFace(std::wstring_view family, std::int32_t weight,
-                    const std::function<bool(const std::wstring& family)>& isInstalled);
+// The face of the family when there is one, else that of the default face. `find` knows what is installed.
+FontFace chooseFace(std::wstring_view family,
+                    const std::function<std::optional<FontFace>(const std::wstring& family)>& find);
 
 // Whether a file name ends like those of the fonts Windows can register, in any letter case.
 bool isFontFileName(std::wstring_view name) noexcept;

@@ -1,60 +1,15 @@
 #include "vela/render/text/fonts_gdi.h"
 
-#include "vela/folder_listing_win32.h"
 #include "vela/render/text/fonts.h"
-#include "vela/resource_folders.h"
-#include "vela/text.h"
+#include "vela/render/text/private_fonts_gdi.h"
+#include "vela/render/text/text_engine_dwrite.h"
+#include "vela/text_clusters.h"
 
 #include <algorithm>
 #include <deque>
 
 namespace vela {
 namespace {
-
-class PrivateFonts {
-public:
-    const std::vector<std::wstring>& files() const noexcept { return files_; }
-
-    void loadOnce()
-    {
-        if (std::exchange(loaded_, true))
-            return;
-        std::wstring folder = resourceFolders().fonts;
-        if (folder.empty())
-            return;
-        const std::vector<std::wstring> names = fileNamesIn(folder);
-        folder += L'\\';
-        for (const std::wstring& name : names) {
-            if (isFontFileName(name))
-                add(folder + name);
-        }
-    }
-
-private:
-    void add(std::wstring path)
-    {
-        if (std::find(files_.begin(), files_.end(), path) != files_.end())
-            return;
-        if (::AddFontResourceExW(path.c_str(), FR_PRIVATE, nullptr) > 0)
-            files_.push_back(std::move(path));
-    }
-
-    std::vector<std::wstring> files_;
-    bool loaded_ = false;
-};
-
-PrivateFonts& privateFonts()
-{
-    static PrivateFonts fonts;
-    return fonts;
-}
-
-// A memory context for asking GDI about fonts while nothing is being painted.
-HDC measuringDc()
-{
-    static const OwnedMemoryDc dc(::CreateCompatibleDC(nullptr));
-    return dc.get();
-}
 
 int CALLBACK stopAtFirst(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found)
 {
@@ -75,10 +30,24 @@ bool isFamilyInstalled(const std::wstring& family)
     return found;
 }
 
+// DirectWrite draws the record's weight of the family, and GDI measures with the same face under the names
+// that GDI has for it: were it left to choose by itself, it would take the bold for a semibold.
+FontFace gdiFaceFor(const FontSpec& spec)
+{
+    TextEngine* const engine = TextEngine::instance();
+    return chooseFace(spec.family, [&](const std::wstring& family) -> std::optional<FontFace> {
+        std::optional<FontFace> face;
+        if (engine)
+            face = engine->gdiFaceOf(family, spec.weight, spec.italic);
+        if (!face && isFamilyInstalled(family))
+            face = FontFace{family, spec.weight};
+        return face;
+    });
+}
+
 Font makeFont(const FontSpec& spec, std::int32_t dpi)
 {
-    Font font{FontKey(spec, dpi), chooseFace(spec.family, spec.weight, isFamilyInstalled),
-              emPixels(spec.pointSize, dpi)};
+    Font font{FontKey(spec, dpi), gdiFaceFor(spec), emPixels(spec.pointSize, dpi)};
     font.owned.reset(::CreateFontW(-font.em, 0, 0, 0, font.face.weight, spec.italic, spec.underline, FALSE,
                                    DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
                                    CLEARTYPE_QUALITY, DEFAULT_PITCH | FF_DONTCARE, font.face.family.c_str()));
@@ -100,19 +69,36 @@ std::deque<Font>& fonts()
 
 } // namespace
 
-GdiTextMeasurer::GdiTextMeasurer(const Font& font)
-    : dc_(::CreateCompatibleDC(nullptr)), selected_(dc_.get(), font.handle)
+HDC measuringDc()
 {
+    static const OwnedMemoryDc dc(::CreateCompatibleDC(nullptr));
+    return dc.get();
+}
+
+std::size_t endOfPiece(std::wstring_view text, std::size_t begin) noexcept
+{
+    constexpr std::size_t kLongestPiece = 1000;
+    if (text.size() - begin <= kLongestPiece)
+        return text.size();
+    const std::size_t stop = nearestCaretStop(text, begin + kLongestPiece);
+    return stop > begin ? stop : begin + kLongestPiece;
 }
 
 void GdiTextMeasurer::measure(std::wstring_view text, std::vector<std::int32_t>& ends) const
 {
     static_assert(sizeof(INT) == sizeof(std::int32_t));
     ends.assign(text.size(), 0);
-    SIZE size;
-    if (!text.empty())
-        ::GetTextExtentExPointW(dc_.get(), text.data(), static_cast<int>(text.size()), 0, nullptr,
-                                reinterpret_cast<INT*>(ends.data()), &size);
+    std::int64_t before = 0;
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t end = endOfPiece(text, begin);
+        SIZE size;
+        ::GetTextExtentExPointW(measuringDc(), text.data() + begin, static_cast<int>(end - begin), 0, nullptr,
+                                reinterpret_cast<INT*>(ends.data() + begin), &size);
+        for (; begin < end; ++begin)
+            ends[begin] =
+                static_cast<std::int32_t>(std::min<std::int64_t>(before + ends[begin], kWidestText));
+        before = ends[end - 1];
+    }
 }
 
 const Font& ensureFont(const FontSpec& spec, std::int32_t dpi)
@@ -127,10 +113,8 @@ const Font& ensureFont(const FontSpec& spec, std::int32_t dpi)
 
 std::size_t fontCount() noexcept { return fonts().size(); }
 
-const std::vector<std::wstring>& privateFontFiles() { return privateFonts().files(); }
-
 HFONT fontFor(const FontSpec& font, std::int32_t dpi) { return ensureFont(font, dpi).owned.get(); }
 
-void loadPrivateFonts() { privateFonts().loadOnce(); }
+void loadPrivateFonts() { privateFontFiles(); }
 
 } // namespace vela

@@ -21,24 +21,27 @@ struct Font {
     std::int32_t ascent = 0;     // pixels from the top of a line to its base line
 };
 
-// The widths of a font. It outlives the measurer.
+// The one memory context for asking GDI about fonts while nothing is being painted.
+HDC measuringDc();
+
+// The widths of a font. It outlives the measurer; a measurer made meanwhile goes before this one.
 class GdiTextMeasurer final : public TextMeasurer {
 public:
-    explicit GdiTextMeasurer(const Font& font);
+    explicit GdiTextMeasurer(const Font& font) : selected_(measuringDc(), font.handle) {}
     void measure(std::wstring_view text, std::vector<std::int32_t>& ends) const override;
 
 private:
-    OwnedMemoryDc dc_;
     SelectedObject selected_;
 };
+
+// Where a piece of a text ends that begins there. GDI's calls take 8,192 units at most; pieces are smaller,
+// for of a long line few are in sight.
+std::size_t endOfPiece(std::wstring_view text, std::size_t begin) noexcept;
 
 // Never fails: a font that cannot be made is the stock GUI font. Valid until the process ends.
 const Font& ensureFont(const FontSpec& font, std::int32_t dpi);
 
 // Every font made so far stays; this many there are. For textStatistics.
 std::size_t fontCount() noexcept;
-
-// The paths of the private font files that could be registered.
-const std::vector<std::wstring>& privateFontFiles();
 
 } // namespace vela

@@ -5,28 +5,25 @@
 #include "vela/geometry.h"
 #include "vela/platform_handles.h"
 #include "vela/render/text/text_look.h"
+#include "vela/render/text/text_places.h"
 #include "vela/theme/records/theme.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
-#include <vector>
 
 namespace vela {
-
-// Begins to open DirectWrite on a thread of its own: the system lists its fonts meanwhile, which takes longer
-// than the making of a window. Without it, or before it is done, the first text waits. Once is enough.
-void openTextEngine();
 
 // One line in the middle of the rectangle, always by GDI.
 void drawCenteredText(HDC dc, const Rect& rect, std::wstring_view text, const FontSpec& font,
                       std::int32_t dpi, TextTone tone = TextTone::Enabled);
 
 // How many fonts and how many layouts the process has made, for tests: repainting what was painted before
-// makes none.
+// makes none; and how many layouts are kept.
 struct TextStatistics {
     std::size_t fonts;
     std::size_t layouts;
+    std::size_t kept;
 };
 TextStatistics textStatistics() noexcept;
 
@@ -40,8 +37,8 @@ void drawUnclippedLine(HDC dc, const Rect& rect, std::wstring_view text, const F
 std::int32_t measureText(std::wstring_view text, const FontSpec& font, std::int32_t dpi, std::int32_t width);
 std::int32_t lineHeight(const FontSpec& font, std::int32_t dpi);
 std::int32_t measureTextWidth(std::wstring_view text, const FontSpec& font, std::int32_t dpi);
-void measureTextEnds(std::wstring_view text, const FontSpec& font, std::int32_t dpi,
-                     std::vector<std::int32_t>& ends);
+TextPlaces measureTextPlaces(std::wstring_view text, const FontSpec& font, std::int32_t dpi);
+void textSettingsChanged();
 
 } // namespace render
 } // namespace vela

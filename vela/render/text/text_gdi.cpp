@@ -2,20 +2,21 @@
 
 #include "vela/rect_win32.h"
 #include "vela/render/gdi/clip_gdi.h"
-#include "vela/render/gdi/pixel_layer_gdi.h"
 #include "vela/render/pixels/bounded_cache.h"
 #include "vela/render/text/fonts_gdi.h"
-#include "vela/render/text/text_dwrite.h"
+#include "vela/render/text/layout_dwrite.h"
+#include "vela/render/text/layout_painter_dwrite.h"
+#include "vela/render/text/layout_places_dwrite.h"
+#include "vela/render/text/text_engine_dwrite.h"
 
-#include <numeric>
+#include <cmath>
 #include <optional>
-#include <utility>
 
 namespace vela {
 namespace {
 
-// A window shows some dozens of texts; tooltips and progress texts come and go.
-constexpr std::size_t kMaxPreparedTexts = 256;
+// Longer than any path. What is longer still is GDI's, which draws it without looking at all of it first.
+constexpr std::size_t kLongestLayout = 32'768;
 
 struct TextRequest {
     std::wstring_view text;
@@ -24,6 +25,12 @@ struct TextRequest {
     TextWrap wrap;
     TextAlign align;
 };
+
+// A line that is neither cut nor clipped.
+TextRequest unclipped(std::wstring_view text, const Font& font) noexcept
+{
+    return {text, &font, kNoRoom, TextWrap::SingleLine, TextAlign::Left};
+}
 
 struct TextKey {
     explicit TextKey(const TextRequest& request)
@@ -45,24 +52,59 @@ struct TextKey {
 
 struct PreparedText {
     TextLines lines;
-    std::optional<TextLayout> layout; // as DirectWrite draws it
-    bool isLayoutTried = false;
+    ComPointer<IDWriteTextLayout> layout; // null: GDI draws
+    Rect box;                             // around all ink, from the room's top left corner
+    std::size_t weight;
 };
 
-BoundedCache<TextKey, PreparedText>& preparedTexts()
+// A text takes memory by its length, and some for being one.
+constexpr std::size_t kWeightOfText = 256;
+
+struct WeightOfText {
+    std::size_t operator()(const PreparedText& text) const noexcept { return text.weight; }
+};
+using PreparedTexts = BoundedCache<TextKey, PreparedText, WeightOfText>;
+
+// A window shows some dozens of texts; tooltips and progress texts come and go.
+PreparedTexts& preparedTexts()
 {
-    static BoundedCache<TextKey, PreparedText> texts(kMaxPreparedTexts);
+    constexpr std::size_t kMostTexts = 256;
+    static PreparedTexts texts(kMostTexts * kWeightOfText);
     return texts;
+}
+
+TextLines compose(const TextRequest& request)
+{
+    if (request.room == kNoRoom)
+        return {unbrokenLine(request.text), 1};
+    return composeText(request.text, request.wrap, request.room, request.font->lineHeight,
+                       GdiTextMeasurer(*request.font));
+}
+
+// Letters reach out of their lines: slanted ones to the side, those of other fonts and stacked marks above.
+Rect inkBoxOf(const DWRITE_TEXT_METRICS& metrics, const Font& font)
+{
+    const auto down = [](FLOAT value) { return static_cast<std::int32_t>(std::floor(value)); };
+    const auto up = [](FLOAT value) { return static_cast<std::int32_t>(std::ceil(value)); };
+    const Rect lines{down(metrics.left), down(metrics.top), up(metrics.widthIncludingTrailingWhitespace) + 1,
+                     up(metrics.height) + 1};
+    return grownBy(lines, 2 * font.em);
 }
 
 PreparedText& prepare(const TextRequest& request)
 {
     return preparedTexts().ensure(request, [&request] {
-        const GdiTextMeasurer measurer(*request.font);
-        return PreparedText{
-            composeText(request.text, request.wrap, request.room, request.font->lineHeight, measurer),
-            {},
-            false};
+        PreparedText text{compose(request), {}, {}, kWeightOfText};
+        text.weight += request.text.size() + text.lines.text.size();
+        if (text.lines.text.size() <= kLongestLayout)
+            text.layout =
+                makeDirectWriteLayout(text.lines, *request.font, request.room, request.wrap, request.align);
+        DWRITE_TEXT_METRICS metrics{};
+        if (text.layout && SUCCEEDED(text.layout->GetMetrics(&metrics)))
+            text.box = inkBoxOf(metrics, *request.font);
+        else
+            text.layout.reset();
+        return text;
     });
 }
 
@@ -112,23 +154,29 @@ Color colorFor(const FontSpec& font, TextTone tone) noexcept
     return tone == TextTone::Enabled ? font.color : font.disabledColor;
 }
 
-bool tryDrawText(HDC dc, const Rect& rect, const TextRequest& request, PreparedText& text, Color color)
+// What of the text falls into the rectangle; the room begins at the corner.
+bool tryDrawText(HDC dc, const Rect& within, Point corner, const Font& font, const PreparedText& text,
+                 Color color)
 {
-    if (!std::exchange(text.isLayoutTried, true))
-        text.layout =
-            layoutText(text.lines, *request.font, rect.width, request.align, GdiTextMeasurer(*request.font));
     if (!text.layout)
         return false;
-    const Point corner{rect.x, textTop(rect, request.wrap, text.lines.count * request.font->lineHeight)};
-    const Rect area = visiblePart(dc, intersection(movedBy(text.layout->inkBounds, corner), rect));
-    if (isEmpty(area))
-        return true;
-    const PixelView pixels = readPixels(dc, area);
-    if (!pixels.pixels)
-        return false;
-    glyphPainter().draw(pixels, {corner.x - area.x, corner.y - area.y}, *text.layout, color);
-    writeScratch(dc, area);
-    return true;
+    const Rect area = visiblePart(dc, intersection(movedBy(text.box, corner), within));
+    return isEmpty(area) || paintLayout(dc, area, corner, font, *text.layout.get(), color);
+}
+
+// The pieces of the line that can be seen.
+void drawUnclippedByGdi(HDC dc, Point corner, std::wstring_view line, const Font& font, Color color)
+{
+    std::vector<std::int32_t> ends;
+    GdiTextMeasurer(font).measure(line, ends);
+    for (std::size_t begin = 0, end = 0; begin < line.size(); begin = end) {
+        end = endOfPiece(line, begin);
+        const std::int32_t left = begin == 0 ? 0 : ends[begin - 1];
+        const Rect room{corner.x + left, corner.y, ends[end - 1] - left, font.lineHeight};
+        if (isVisible(dc, grownBy(room, 2 * font.em)))
+            drawGdi(dc, room, line.substr(begin, end - begin), font.handle,
+                    kCommonFlags | DT_SINGLELINE | DT_NOCLIP, color);
+    }
 }
 
 } // namespace
@@ -139,9 +187,9 @@ void render::drawText(HDC dc, const Rect& rect, std::wstring_view text, const Fo
     if (text.empty() || !isVisible(dc, rect))
         return;
     const TextRequest request{text, &ensureFont(font, dpi), sizeOf(rect), look.wrap, look.align};
-    PreparedText& prepared = prepare(request);
+    const PreparedText& prepared = prepare(request);
     const Color color = colorFor(font, look.tone);
-    if (!tryDrawText(dc, rect, request, prepared, color))
+    if (!tryDrawText(dc, rect, {rect.x, rect.y}, *request.font, prepared, color))
         drawGdi(dc, rect, prepared.lines.text, request.font->handle, flagsFor(look.wrap, look.align), color);
 }
 
@@ -162,14 +210,10 @@ void render::drawUnclippedLine(HDC dc, const Rect& rect, std::wstring_view text,
     if (text.empty())
         return;
     const Font& made = ensureFont(font, dpi);
-    std::vector<std::int32_t> advances;
-    GdiTextMeasurer(made).measure(text, advances);
-    std::adjacent_difference(advances.begin(), advances.end(), advances.begin());
-    // Every letter where it was measured to be, for carets and selections stand between them: GDI alone draws
-    // a letter that it does not antialias as much as a pixel wider or narrower.
-    const SelectedTextAttributes attributes(dc, made.handle, color);
-    ::ExtTextOutW(dc, rect.x, rect.y, 0, nullptr, text.data(), static_cast<UINT>(text.size()),
-                  reinterpret_cast<const INT*>(advances.data()));
+    const PreparedText& prepared = prepare(unclipped(text, made));
+    const Point corner{rect.x, rect.y};
+    if (!tryDrawText(dc, movedBy(prepared.box, corner), corner, made, prepared, color))
+        drawUnclippedByGdi(dc, corner, prepared.lines.text, made, color);
 }
 
 std::int32_t render::measureText(std::wstring_view text, const FontSpec& font, std::int32_t dpi,
@@ -178,10 +222,9 @@ std::int32_t render::measureText(std::wstring_view text, const FontSpec& font, s
     const Font& made = ensureFont(font, dpi);
     // Unlike DrawTextW, drawing breaks words that are longer than a line: so the lines are broken first.
     const TextLines lines = wrapText(text, width, GdiTextMeasurer(made));
-    const OwnedMemoryDc dc(::CreateCompatibleDC(nullptr));
-    const SelectedObject selected(dc.get(), made.handle);
+    const SelectedObject selected(measuringDc(), made.handle);
     RECT room{0, 0, width, 0};
-    ::DrawTextW(dc.get(), lines.text.data(), static_cast<int>(lines.text.size()), &room,
+    ::DrawTextW(measuringDc(), lines.text.data(), static_cast<int>(lines.text.size()), &room,
                 kCommonFlags | DT_CALCRECT | DT_WORDBREAK);
     return room.bottom;
 }
@@ -194,16 +237,34 @@ std::int32_t render::lineHeight(const FontSpec& font, std::int32_t dpi)
 std::int32_t render::measureTextWidth(std::wstring_view text, const FontSpec& font, std::int32_t dpi)
 {
     std::vector<std::int32_t> ends;
-    render::measureTextEnds(text, font, dpi, ends);
+    GdiTextMeasurer(ensureFont(font, dpi)).measure(text, ends);
     return ends.empty() ? 0 : ends.back();
 }
 
-void render::measureTextEnds(std::wstring_view text, const FontSpec& font, std::int32_t dpi,
-                             std::vector<std::int32_t>& ends)
+TextPlaces render::measureTextPlaces(std::wstring_view text, const FontSpec& font, std::int32_t dpi)
 {
-    GdiTextMeasurer(ensureFont(font, dpi)).measure(text, ends);
+    const Font& made = ensureFont(font, dpi);
+    const PreparedText& prepared = prepare(unclipped(text, made));
+    std::optional<TextPlaces> places;
+    if (prepared.layout)
+        places = placesOf(text, *prepared.layout.get());
+    if (places)
+        return *std::move(places);
+    std::vector<std::int32_t> ends;
+    GdiTextMeasurer(made).measure(prepared.lines.text, ends);
+    return TextPlaces(text, ends);
 }
 
-TextStatistics textStatistics() noexcept { return {fontCount(), preparedTexts().made()}; }
+void render::textSettingsChanged()
+{
+    if (TextEngine* const engine = TextEngine::instance())
+        engine->forgetSmoothing();
+    preparedTexts().clear();
+}
+
+TextStatistics textStatistics() noexcept
+{
+    return {fontCount(), preparedTexts().made(), preparedTexts().size()};
+}
 
 } // namespace vela

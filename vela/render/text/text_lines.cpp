@@ -13,20 +13,18 @@ constexpr std::int32_t kAllLines = std::numeric_limits<std::int32_t>::max();
 
 constexpr bool isLineEnd(wchar_t c) noexcept { return c == L'\n' || c == L'\r'; }
 
-// A tab or another control character has no glyph of its own; fonts show a box or nothing.
-std::wstring withoutControls(std::wstring_view text)
+// A tab or another control character has no glyph of its own: fonts show a box or nothing. Some of them, and
+// the separators of lines and paragraphs, begin a new line in a text engine.
+constexpr bool isControl(wchar_t c) noexcept
 {
-    std::wstring result(text);
-    std::replace_if(
-        result.begin(), result.end(), [](wchar_t c) { return static_cast<std::uint32_t>(c) < 0x20; }, L' ');
-    return result;
+    return static_cast<std::uint32_t>(c) < 0x20 || c == L'\u0085' || c == L'\u2028' || c == L'\u2029';
 }
 
 // One line's worth of text between two line ends, with the widths of its parts.
 class Paragraph {
 public:
     Paragraph(std::wstring_view text, const TextMeasurer& measurer)
-        : text_(withoutControls(text)), measurer_(measurer)
+        : text_(unbrokenLine(text)), measurer_(measurer)
     {
         measurer_.measure(text_, ends_);
     }
@@ -59,19 +57,20 @@ public:
     {
         std::vector<std::int32_t> ellipsis;
         measurer_.measure(kEllipsis, ellipsis);
-        const std::size_t limit = firstBeyond(begin, width - (ellipsis.empty() ? 0 : ellipsis.back()));
+        const std::int64_t room = std::int64_t{width} - (ellipsis.empty() ? 0 : ellipsis.back());
+        const std::size_t limit = firstBeyond(begin, room);
         const std::size_t end = endOfWord(begin, std::max(begin, nearestCaretStop(text_, limit)));
         return std::wstring(part(begin, end)) + kEllipsis;
     }
 
 private:
     // The first unit that does not fit any more.
-    std::size_t firstBeyond(std::size_t begin, std::int32_t width) const
+    std::size_t firstBeyond(std::size_t begin, std::int64_t width) const
     {
-        const std::int32_t before = begin == 0 ? 0 : ends_[begin - 1];
+        const std::int64_t before = begin == 0 ? 0 : ends_[begin - 1];
         const auto first = ends_.begin() + static_cast<std::ptrdiff_t>(begin);
-        return static_cast<std::size_t>(std::upper_bound(first, ends_.end(), before + std::max(width, 0)) -
-                                        ends_.begin());
+        const std::int64_t limit = before + std::max<std::int64_t>(width, 0);
+        return static_cast<std::size_t>(std::upper_bound(first, ends_.end(), limit) - ends_.begin());
     }
 
     std::size_t endOfWord(std::size_t begin, std::size_t end) const noexcept
@@ -175,9 +174,11 @@ TextLines wrapText(std::wstring_view text, std::int32_t width, const TextMeasure
     return collectLines(text, width, kAllLines, measurer);
 }
 
-std::int32_t textTop(const Rect& room, TextWrap wrap, std::int32_t textHeight) noexcept
+std::wstring unbrokenLine(std::wstring_view text)
 {
-    return wrap == TextWrap::Words ? room.y : room.y + (room.height - textHeight) / 2;
+    std::wstring line(text);
+    std::replace_if(line.begin(), line.end(), isControl, L' ');
+    return line;
 }
 
 } // namespace vela

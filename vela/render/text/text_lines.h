@@ -12,6 +12,9 @@
 
 namespace vela {
 
+// Pixels. No text is measured wider, so that a place in a text can be added to one on a screen.
+inline constexpr std::int32_t kWidestText = 1 << 28;
+
 enum class TextWrap : std::uint8_t { SingleLine, Words };
 
 // Knows the widths of a font.
@@ -41,7 +44,7 @@ TextLines composeText(std::wstring_view text, TextWrap wrap, Size room, std::int
 // The wrapped text with all its lines, however many.
 TextLines wrapText(std::wstring_view text, std::int32_t width, const TextMeasurer& measurer);
 
-// Where text of that height begins in a room: wrapped text at the top, a single line in the middle.
-std::int32_t textTop(const Rect& room, TextWrap wrap, std::int32_t textHeight) noexcept;
+// A line as long as it is, unit for unit, with nothing in it that would break it.
+std::wstring unbrokenLine(std::wstring_view text);
 
 } // namespace vela
