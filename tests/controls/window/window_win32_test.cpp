@@ -358,6 +358,20 @@ TEST_F(WindowTest, ALightDarkChangeAsksForTheStylesAgain)
     EXPECT_EQ(asked, 3);
 }
 
+// Letters on the screen are smoothed as the settings were when they were drawn.
+TEST_F(WindowTest, AChangeOfSettingsOrMonitorsPaintsTheWindowAgain)
+{
+    open();
+    for (const UINT message : {WM_SETTINGCHANGE, WM_DISPLAYCHANGE}) {
+        drainMessages();
+        ::ValidateRect(window.handle(), nullptr);
+        send(message, message == WM_SETTINGCHANGE ? SPI_SETFONTSMOOTHINGCONTRAST : 32, 0);
+        RECT damaged{};
+        EXPECT_TRUE(::GetUpdateRect(window.handle(), &damaged, FALSE));
+        EXPECT_EQ(damaged.right, window.clientRect().width);
+    }
+}
+
 TEST_F(WindowTest, TheTitleBarsCommandsAreCarriedOut)
 {
     window.setCustomFrame(true);

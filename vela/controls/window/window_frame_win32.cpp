@@ -191,6 +191,10 @@ Size Window::Native::frameExtra() const noexcept
 LRESULT Window::Native::onMove()
 {
     state_.root.afterAttach();
+    // Each monitor has its own way to smooth letters.
+    const HMONITOR monitor = ::MonitorFromWindow(state_.handle, MONITOR_DEFAULTTONEAREST);
+    if (std::exchange(monitor_, monitor) != monitor)
+        invalidateAll();
     return 0;
 }
 

@@ -5,6 +5,7 @@
 #include "vela/controls/system/taskbar_list_win32.h"
 #include "vela/controls/window/tooltip_window_win32.h"
 #include "vela/render/gdi/performance_win32.h"
+#include "vela/render/paint/paint.h"
 
 #include <cwchar>
 #include <utility>
@@ -85,6 +86,7 @@ LRESULT Window::Native::onFocus(UINT message, WPARAM wParam, LPARAM lParam)
 // through the default processing too.
 LRESULT Window::Native::onSettingChange(WPARAM wParam, LPARAM lParam)
 {
+    repaintText();
     if (wParam == SPI_SETWORKAREA) {
         refreshMetrics();
         return 0;
@@ -93,6 +95,19 @@ LRESULT Window::Native::onSettingChange(WPARAM wParam, LPARAM lParam)
     if (wParam == SPI_SETHIGHCONTRAST || (section && std::wcscmp(section, L"ImmersiveColorSet") == 0))
         restyle();
     return passOn(WM_SETTINGCHANGE, wParam, lParam);
+}
+
+LRESULT Window::Native::onDisplayChange(WPARAM wParam, LPARAM lParam)
+{
+    repaintText();
+    return passOn(WM_DISPLAYCHANGE, wParam, lParam);
+}
+
+// Smoothing is set up under several names, and by programs that give none.
+void Window::Native::repaintText()
+{
+    textSettingsChanged();
+    invalidateAll();
 }
 
 LRESULT Window::Native::onSystemLook(UINT message, WPARAM wParam, LPARAM lParam)

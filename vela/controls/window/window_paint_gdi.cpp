@@ -152,6 +152,7 @@ void Window::Native::paintTree(HDC dc)
     PaintContext context = paintContext(dc);
     context.time = lights_.time();
     context.profile = lights_.profile();
+    context.monitor = monitor_;
     const PaintContextBinding binding(dc, context);
     state_.root.paint(dc, {});
     if (!state_.debugOverlay.on)

@@ -56,6 +56,7 @@ LRESULT Window::Native::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_SETFOCUS:
     case WM_KILLFOCUS: return onFocus(message, wParam, lParam);
     case WM_SETTINGCHANGE: return onSettingChange(wParam, lParam);
+    case WM_DISPLAYCHANGE: return onDisplayChange(wParam, lParam);
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED: return onSystemLook(message, wParam, lParam);
     case WM_DPICHANGED: return onDpiChanged(wParam, *reinterpret_cast<const RECT*>(lParam));

@@ -72,9 +72,11 @@ private:
     LRESULT onActivateApp(WPARAM wParam, LPARAM lParam);
     LRESULT onFocus(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onSettingChange(WPARAM wParam, LPARAM lParam);
+    LRESULT onDisplayChange(WPARAM wParam, LPARAM lParam);
     LRESULT onSystemLook(UINT message, WPARAM wParam, LPARAM lParam);
     void deactivate();
     void restyle();
+    void repaintText();
 
     // From tick to tick (window_timer_win32.cpp).
     LRESULT onTimer(WPARAM wParam, LPARAM lParam);
@@ -133,6 +135,7 @@ private:
     Window& window_; // for what is public, and for what its subclasses make of a message
     WindowState& state_;
     Size designClient_;            // 96-DPI pixels, as given to `create`
+    HMONITOR monitor_ = nullptr;   // that shows the window
     std::int32_t monitorDpi_ = 96; // of the standard frame and the icons
     std::optional<DibSurface> backBuffer_;
     bool allDamaged_ = true;      // until the next paint: nothing more can be damaged
