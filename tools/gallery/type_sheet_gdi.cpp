@@ -93,6 +93,7 @@ void drawOddities(Writer& writer, std::int32_t left, std::int32_t top)
         L"e\u0301 z\u030C r\u030C u\u030A",
         L"\U0001F680 \U0001F468\u200D\U0001F469 \U0001F44B\U0001F3FD",
         L"漢字 Ελληνικά Кириллица",
+        L"C:\\שלום\\ملفات\\x",
         L"ﬁ ﬂ … – — „uvozovky“ ½ €",
     };
     for (const std::wstring_view text : kLines) {
