@@ -46,11 +46,12 @@ Rect ProgressBar::trackRect() const noexcept
     return insetBy(bar, {style_.insetX, inset, style_.insetX, inset});
 }
 
-// The fill stays within the track.
+// The fill's glow lies around as much of the track as is filled: all of it at the most.
 void ProgressBar::visitSurfaces(const SurfaceVisitor& visit) const
 {
     visit({style_.frame, barRect()});
     visit({style_.track, trackRect()});
+    visit({style_.fill, trackRect()});
 }
 
 void ProgressBar::paint(HDC dc, Point origin)
