@@ -15,7 +15,7 @@ TEST(PaintContextTest, TheInnermostBindingOfADeviceContextCounts)
     const PaintContextBinding painting(window, {.time = 500, .profile = PerformanceProfile::Reduced});
     {
         const PaintContextBinding inherited(copy, paintContext(window));
-        const PaintContextBinding whole(window, withoutCaching(paintContext(window)));
+        const PaintContextBinding whole(window, {.time = 500, .cachesPictures = false});
         EXPECT_FALSE(paintContext(window).cachesPictures);
         EXPECT_EQ(paintContext(window).time, 500u);
         EXPECT_TRUE(paintContext(copy).cachesPictures);

@@ -8,29 +8,17 @@
 #include "vela/render/gdi/owned_gdi.h"
 #include "vela/render/gdi/paint_context.h"
 #include "vela/render/paint/paint.h"
+#include "vela/render/paint/unless_out_of_memory.h"
 
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
-#include <new>
 #include <utility>
 #include <vector>
 
 namespace vela {
 
 namespace {
-
-// False when memory ran out meanwhile. Then something is left unpainted, until it is damaged the next time.
-template <typename Paint>
-bool paintsWithinMemory(Paint&& paint) noexcept
-{
-    try {
-        paint();
-        return true;
-    } catch (const std::bad_alloc&) {
-        return false;
-    }
-}
 
 std::vector<Rect> rectsOf(HRGN region)
 {
@@ -83,9 +71,7 @@ void Window::Native::paintAhead()
         return;
     allDamaged_ = false;
     ::SelectClipRgn(backBuffer_->dc(), nullptr);
-    // Nothing of it was painted before, and looking for pictures of it takes time.
-    const PaintContextBinding first(backBuffer_->dc(), withoutCaching({}));
-    isPaintedAhead_ = paintsWithinMemory([this] { paintTree(backBuffer_->dc()); });
+    isPaintedAhead_ = paintUnlessOutOfMemory([this] { paintTree(backBuffer_->dc()); });
     damage_ = {};
     isDamageScattered_ = false;
 }
@@ -115,7 +101,7 @@ LRESULT Window::Native::onPaint()
     const Rect part = toRect(paint.rcPaint);
     const bool isPaintedAhead = std::exchange(isPaintedAhead_, false);
     // What grows beside the damage is painted as it was: on the screen it need not be changed.
-    paintsWithinMemory([&] {
+    paintUnlessOutOfMemory([&] {
         const std::vector<Rect> damage = isPaintedAhead ? std::vector{known}
                                          : isScattered  ? rectsOf(region.get())
                                                         : std::vector{part};
@@ -137,7 +123,7 @@ LRESULT Window::Native::onPaint()
 // it must not be painted on their context, so where more is needed than that, the buffer takes it.
 LRESULT Window::Native::onPrintClient(HDC dc)
 {
-    paintsWithinMemory([&] {
+    paintUnlessOutOfMemory([&] {
         const Rect part = visiblePart(dc, window_.clientRect());
         const std::vector<Rect> parts = grownDamage(state_.root, {part});
         if (parts.size() == 1 || !paintBuffer(parts))

@@ -13,8 +13,7 @@ struct PaintContext {
     std::uint64_t time = 0; // of lights that move, in milliseconds: one for all that a paint shows
     PerformanceProfile profile = PerformanceProfile::Full;
     bool cachesPictures = true; // false changes nothing but the time that painting takes
-    HMONITOR monitor =
-        nullptr; // that shows the window, for the smoothing of its letters; null: the first one
+    HMONITOR monitor = nullptr; // that smooths letters in its own way; null: the first one
 };
 
 // The context that is bound to the device context; without one the defaults above.
@@ -35,13 +34,5 @@ private:
     PaintContext context_;
     const PaintContextBinding* outer_; // the binding that was the latest before
 };
-
-// The same context without the caching of pictures: for what cannot have been painted before, or is cached as
-// part of something larger.
-inline PaintContext withoutCaching(PaintContext context) noexcept
-{
-    context.cachesPictures = false;
-    return context;
-}
 
 } // namespace vela
