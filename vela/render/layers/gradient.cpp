@@ -57,9 +57,9 @@ Float4 fourFromMiddle(std::int32_t x, std::int32_t width) noexcept
 {
     if (width == 1)
         return simd::splat(-0.5F);
-    const UInt4 doubled =
-        2 * reinterpret_cast<UInt4>(simd::columnsFrom(x)) - static_cast<std::uint32_t>(width - 1);
-    return simd::toFloat(reinterpret_cast<Int4>(doubled)) * simd::splat(0.5F / static_cast<float>(width - 1));
+    const std::uint32_t first = 2 * static_cast<std::uint32_t>(x) - static_cast<std::uint32_t>(width - 1);
+    const Int4 doubled = reinterpret_cast<Int4>(simd::splat(first) + UInt4{0, 2, 4, 6});
+    return simd::toFloat(doubled) * simd::splat(0.5F / static_cast<float>(width - 1));
 }
 
 void fillAlongAxis(const LayerTarget& target, const Coverage& coverage, const ColorRamp& ramp,
