@@ -108,15 +108,15 @@ int main()
     measureSurface(target, "  surface", {690, 420}, fullStyle());
     measureSurface(target, "  surface", {128, 34}, fullStyle());
     std::printf("long reaches\n");
-    SurfaceStyle far;
-    far.showGlow = true;
-    far.glowRadius = 20;
-    measureSurface(target, "  glow of 20", {650, 380}, far);
-    far.showGlow = false;
-    far.showOutline = true;
-    far.outlineWidth = 60;
-    measureSurface(target, "  outline of 60", {690, 420}, far);
-    far.shape = vela::ShapeKind::Rect;
-    measureSurface(target, "  twenty million rows", {690, 20'000'000}, far);
+    SurfaceStyle wide;
+    wide.showGlow = true;
+    wide.glowRadius = 20;
+    measureSurface(target, "  glow of 20", {650, 380}, wide);
+    wide.showGlow = false;
+    wide.showOutline = true;
+    wide.outlineWidth = 60;
+    measureSurface(target, "  outline of 60", {690, 420}, wide);
+    wide.shape = vela::ShapeKind::Rect;
+    measureSurface(target, "  twenty million rows", {690, 20'000'000}, wide);
     measureText(target);
 }

@@ -1,9 +1,7 @@
 #include "tools/gallery/sheet_gdi.h"
 
 #include "tools/png_file_win32.h"
-#include "vela/render/gdi/pixel_layer_gdi.h"
 #include "vela/render/paint/paint.h"
-#include "vela/render/shapes/antialias.h"
 
 #include <algorithm>
 
@@ -48,9 +46,12 @@ bool Sheet::save(const std::wstring& path, std::int32_t height) const
 
 void paintBadge(HDC dc, const Rect& rect, vela::ShapeKind shape, vela::Color color)
 {
-    vela::renderPixelLayer(dc, rect, [&](const vela::LayerTarget& target) {
-        fillAntialiased(target, shape, {0, 0, rect.width, rect.height}, color);
-    });
+    vela::SurfaceStyle plain;
+    plain.shape = shape;
+    plain.fill = color;
+    plain.drawBorder = false;
+    plain.materialDepth = 0;
+    vela::paintControlSurface(dc, rect, plain);
 }
 
 Rect Flow::place(vela::Size size)

@@ -28,8 +28,10 @@ TEST(AntialiasedShapes, CoverTheAreaTheyEnclose)
     for (const auto& row : rows) {
         const Rect inside{2, 2, row.size.width, row.size.height};
         const Picture filled =
-            drawLayer({0, 0, row.size.width + 4, row.size.height + 4},
-                      [&](const LayerTarget& t) { fillAntialiased(t, row.kind, inside, kWhite); });
+            drawLayer({0, 0, row.size.width + 4, row.size.height + 4}, [&](const LayerTarget& target) {
+                fillSolid(target, {ShapeKind::Rect, target.view.size}, kWhite, 255);
+                cutToShape(target, row.kind, inside);
+            });
         EXPECT_NEAR(coveredArea(filled), row.area, row.area * 0.012) << static_cast<int>(row.kind);
     }
     const Picture ring = drawLayer({0, 0, 44, 44}, [](const LayerTarget& target) {
@@ -59,13 +61,15 @@ TEST(AntialiasedShapes, ARingIsEverywhereAsFarFromItsShape)
     EXPECT_NEAR(thickness(17, 18, 30), 22.5 - 2 * diagonal - 18, 0.1);
 }
 
-TEST(AntialiasedShapes, TakeTheirColourAtTheStrengthAsked)
+TEST(AntialiasedShapes, AreLeftFreeDownToADepth)
 {
-    const Picture badge = drawLayer({0, 0, 20, 20}, [](const LayerTarget& target) {
-        fillAntialiased(target, ShapeKind::Pill, {0, 0, 20, 20}, hexColor(0xFF8000), 100);
+    const Picture frame = drawLayer({0, 0, 60, 40}, [](const LayerTarget& target) {
+        fillDownTo(target, ShapeKind::Octagon, {0, 0, 60, 40}, 4, kWhite);
     });
-    EXPECT_EQ(badge.at(10, 10), 0x64643200U);
-    EXPECT_EQ(badge.at(0, 0), 0U);
+    EXPECT_EQ(frame.at(0, 0), 0xFFFFFFFFU); // beyond the outline too, for whoever cuts it
+    EXPECT_EQ(frame.at(30, 3), 0xFFFFFFFFU);
+    EXPECT_EQ(frame.at(30, 4), 0U);
+    EXPECT_EQ(frame.at(30, 36), 0xFFFFFFFFU);
 }
 
 TEST(Progress, EndsAtAFractionOfAPixel)

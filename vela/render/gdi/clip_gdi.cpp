@@ -15,12 +15,6 @@ std::optional<Rect> clipBox(HDC dc) noexcept
     return Rect{box.left, box.top, box.right - box.left, box.bottom - box.top};
 }
 
-bool isClipRectangle(HDC dc) noexcept
-{
-    RECT box;
-    return ::GetClipBox(dc, &box) == SIMPLEREGION;
-}
-
 Rect visiblePart(HDC dc, const Rect& rect) noexcept
 {
     if (isEmpty(rect))

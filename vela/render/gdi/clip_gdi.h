@@ -17,9 +17,6 @@ std::optional<Rect> clipBox(HDC dc) noexcept;
 // The part of the rectangle inside the clip box.
 Rect visiblePart(HDC dc, const Rect& rect) noexcept;
 
-// Whether the clip shows all of its bounding box.
-bool isClipRectangle(HDC dc) noexcept;
-
 // Narrows the clip to what lies in it and in at least one rectangle; restoreClip puts the context back as it
 // was then.
 int narrowClip(HDC dc, const std::vector<Rect>& rects);

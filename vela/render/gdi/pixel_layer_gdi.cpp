@@ -38,30 +38,6 @@ void compositeScratch(HDC dc, const Rect& rect)
     scratch().release();
 }
 
-PixelView readPixels(HDC dc, const Rect& rect)
-{
-    PixelView pixels = scratchPixels(sizeOf(rect));
-    if (!pixels.pixels ||
-        !::BitBlt(scratch().surface().dc(), 0, 0, rect.width, rect.height, dc, rect.x, rect.y, SRCCOPY))
-        return {};
-    ::GdiFlush();
-    return pixels;
-}
-
-void writeScratch(HDC dc, const Rect& rect)
-{
-    ::BitBlt(dc, rect.x, rect.y, rect.width, rect.height, scratch().surface().dc(), 0, 0, SRCCOPY);
-}
-
-void writePixels(HDC dc, const Rect& rect, const PixelView& pixels)
-{
-    const PixelView copy = scratchPixels(sizeOf(rect));
-    if (!copy.pixels)
-        return;
-    copyPixels(pixels, copy);
-    writeScratch(dc, rect);
-}
-
 void compositePixelBuffer(HDC dc, const Rect& rect, const PixelView& pixels)
 {
     if (!pixels.pixels || sizeOf(rect) != pixels.size)

@@ -13,15 +13,6 @@ PixelView scratchPixels(Size size);
 // Blends the scratch pixels of that size, from their top left corner, over the rectangle.
 void compositeScratch(HDC dc, const Rect& rect);
 
-// What the context shows there, in the scratch pixels; empty when it cannot tell.
-PixelView readPixels(HDC dc, const Rect& rect);
-
-// Replaces what the context shows there by the scratch pixels of that size.
-void writeScratch(HDC dc, const Rect& rect);
-
-// The same with other pixels of the rectangle's size.
-void writePixels(HDC dc, const Rect& rect, const PixelView& pixels);
-
 // The one place where software pixels reach the screen: premultiplied pixels of the rectangle's size, source
 // over what is there.
 void compositePixelBuffer(HDC dc, const Rect& rect, const PixelView& pixels);

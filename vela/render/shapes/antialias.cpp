@@ -9,15 +9,6 @@ namespace vela {
 
 using simd::Float4;
 
-void fillAntialiased(const LayerTarget& target, ShapeKind kind, const Rect& rect, Color color,
-                     std::uint8_t alpha)
-{
-    withSignedDistance(kind, rect, [&](const auto& edge) {
-        antialias::fill(target, color, alpha,
-                        [&](Float4 x, float y) { return antialias::coverageAt(edge.at(x, y).distance); });
-    });
-}
-
 void strokeAntialiased(const LayerTarget& target, ShapeKind kind, const Rect& rect, float width, Color color,
                        float depth)
 {

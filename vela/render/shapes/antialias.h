@@ -1,6 +1,6 @@
-// Shapes drawn with antialiased edges: badges, rings around the focus and the end of a progress fill. Each
-// call writes the whole target, transparent where nothing is drawn. Rectangles are in the coordinates of the
-// target's surface; a line that lies on whole pixels stays crisp.
+// Shapes with antialiased edges: strokes, rings around the focus, what cuts a face and the end of a progress
+// fill. What draws writes the whole target, transparent where nothing is drawn. Rectangles are in the
+// coordinates of the target's surface; a line that lies on whole pixels stays crisp.
 #pragma once
 
 #include "vela/geometry.h"
@@ -10,10 +10,6 @@
 #include <cstdint>
 
 namespace vela {
-
-// Badges, dots, check boxes of any size.
-void fillAntialiased(const LayerTarget& target, ShapeKind kind, const Rect& rect, Color color,
-                     std::uint8_t alpha = 255);
 
 // A band along the shape's outline, width pixels wide, that begins so deep inside it: borders, and
 // where the depth is negative, rings around the shape.
