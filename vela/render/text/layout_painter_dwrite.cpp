@@ -1,6 +1,7 @@
 #include "vela/render/text/layout_painter_dwrite.h"
 
 #include "vela/rect_win32.h"
+#include "vela/render/gdi/clip_gdi.h"
 #include "vela/render/gdi/paint_context.h"
 #include "vela/render/text/layout_renderer_dwrite.h"
 #include "vela/render/text/text_engine_dwrite.h"
@@ -156,7 +157,8 @@ bool drawOnTarget(HDC dc, const Rect& area, Point origin, const Font& font, IDWr
                   Color color)
 {
     TextEngine* const engine = TextEngine::instance();
-    if (!engine)
+    // A context that cannot tell its clip shows nothing, and the area is then as large as a skin made it.
+    if (!engine || !clipBox(dc))
         return false;
     const Smoothing& smoothing = engine->ensureSmoothing(paintContext(dc).monitor);
     IDWriteBitmapRenderTarget* const target = glyphTarget().ensure(*engine->interop(), sizeOf(area));
