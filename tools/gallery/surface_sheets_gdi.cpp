@@ -1,6 +1,7 @@
 // Sheets of surfaces without any control: shapes, gradients, layers, icons.
 #include "tools/gallery/gallery_gdi.h"
 #include "vela/render/paint/paint.h"
+#include "vela/render/surface/surface_painter.h"
 #include "vela/theme/derive/derive_style_sheet.h"
 #include "vela/theme/fields/palette.h"
 #include "vela/theme/records/spellings.h"
@@ -164,6 +165,8 @@ bool drawLayerSheet(const std::wstring& path)
             kLayers[column].turnOn(stacked);
             const Rect cell{kMargin + column * kCell.width, top, kCell.width, kCell.height};
             vela::paintSurface(sheet.dc(), inset(cell, 14, 14), alone);
+            if (alone.materialDepth > 0) // a style has light only where it has something to fall on
+                vela::drawSpatialSurfaceShading(sheet.dc(), inset(cell, 14, 14), alone);
             vela::paintSurface(
                 sheet.dc(), inset({cell.x, cell.y + kCell.height, cell.width, cell.height}, 14, 14), stacked);
         }
@@ -177,7 +180,7 @@ bool drawIconSheet(const std::wstring& path)
     constexpr std::int32_t kDpis[] = {96, 120, 144, 192};
     constexpr std::int32_t kCell = 72;
     Sheet sheet({2 * kMargin + vela::kIconCount * kCell, kTop + 5 * kCell + kMargin}, {});
-    sheet.title({kMargin, 20}, L"Glyphs at 100, 125, 150 and 200 %, badges and rings");
+    sheet.title({kMargin, 20}, L"Icons at 100, 125, 150 and 200 %, badges and rings");
     std::int32_t top = kTop;
     for (const std::int32_t dpi : kDpis) {
         for (std::int32_t icon = 0; icon < vela::kIconCount; ++icon) {
