@@ -108,7 +108,7 @@ Shades shadesOf(const SurfaceStyle& style) noexcept
 // Rounded down, and no further than whole numbers and those of fractions go alike.
 std::int32_t wholeColumn(float x) noexcept
 {
-    constexpr float kFarthest = 1 << 30;
+    constexpr auto kFarthest = static_cast<float>(1 << 30);
     return static_cast<std::int32_t>(std::clamp(x, 0.0F, kFarthest));
 }
 

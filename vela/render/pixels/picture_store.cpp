@@ -27,8 +27,8 @@ void PictureStore::letGoOfOldest()
 
 PictureStore& pictureStore()
 {
-    // A window as large as a 4K screen whose light moves takes four pictures of its size, 32 MB each; a dialog
-    // in all its states a tenth of that.
+    // A window as large as a 4K screen whose light moves takes four pictures of its size, 32 MB each; a
+    // dialog in all its states a tenth of that.
     constexpr PictureStore::Limits kLimits{192U << 20, 1024};
     static PictureStore store(kLimits);
     return store;

@@ -37,6 +37,7 @@ public:
         std::size_t entries;
     };
     explicit PictureStore(Limits limits) : limits_(limits) {}
+    ~PictureStore() = default;
     PictureStore(const PictureStore&) = delete;
     PictureStore& operator=(const PictureStore&) = delete;
 
