@@ -18,7 +18,8 @@ std::vector<std::wstring> registeredFiles()
     if (folder.empty())
         return files;
     for (const std::wstring& name : fileNamesIn(folder)) {
-        std::wstring path = folder + L'\\' + name;
+        std::wstring path = folder;
+        path.append(1, L'\\').append(name);
         if (isFontFileName(name) && std::find(files.begin(), files.end(), path) == files.end() &&
             ::AddFontResourceExW(path.c_str(), FR_PRIVATE, nullptr) > 0)
             files.push_back(std::move(path));
