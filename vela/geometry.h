@@ -78,4 +78,18 @@ constexpr Rect grownBy(const Rect& rect, std::int32_t reach) noexcept
             saturated(std::int64_t{rect.height} + 2 * std::int64_t{reach})};
 }
 
+// Calls visit for each side of the frame that the area is around an inner rectangle, which lies in it.
+template <typename Visit>
+constexpr void visitFrame(const Rect& area, const Rect& inner, Visit&& visit)
+{
+    const std::int32_t right = inner.x + inner.width;
+    const std::int32_t bottom = inner.y + inner.height;
+    for (const Rect& side : {Rect{area.x, area.y, area.width, inner.y - area.y},
+                             Rect{area.x, inner.y, inner.x - area.x, inner.height},
+                             Rect{right, inner.y, area.x + area.width - right, inner.height},
+                             Rect{area.x, bottom, area.width, area.y + area.height - bottom}})
+        if (!isEmpty(side))
+            visit(side);
+}
+
 } // namespace vela

@@ -29,12 +29,22 @@ PixelView scratchPixels(Size size)
     return {all.pixels, size, all.stride};
 }
 
-void compositeScratch(HDC dc, const Rect& rect)
+void compositeScratch(HDC dc, const Rect& rect, const Rect& solid)
 {
-    // msimg32's AlphaBlend by the name under which gdi32 exports it.
-    constexpr BLENDFUNCTION kSourceOver{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-    ::GdiAlphaBlend(dc, rect.x, rect.y, rect.width, rect.height, scratch().surface().dc(), 0, 0, rect.width,
-                    rect.height, kSourceOver);
+    const HDC pixels = scratch().surface().dc();
+    const auto blend = [&](const Rect& part) {
+        // msimg32's AlphaBlend by the name under which gdi32 exports it.
+        constexpr BLENDFUNCTION kSourceOver{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+        ::GdiAlphaBlend(dc, part.x, part.y, part.width, part.height, pixels, part.x - rect.x, part.y - rect.y,
+                        part.width, part.height, kSourceOver);
+    };
+    if (const Rect copied = intersection(rect, solid); isEmpty(copied))
+        blend(rect);
+    else {
+        visitFrame(rect, copied, blend);
+        ::BitBlt(dc, copied.x, copied.y, copied.width, copied.height, pixels, copied.x - rect.x,
+                 copied.y - rect.y, SRCCOPY);
+    }
     scratch().release();
 }
 

@@ -10,8 +10,9 @@ namespace vela {
 // the layer before left there.
 PixelView scratchPixels(Size size);
 
-// Blends the scratch pixels of that size, from their top left corner, over the rectangle.
-void compositeScratch(HDC dc, const Rect& rect);
+// Blends the scratch pixels of that size, from their top left corner, over the rectangle. The solid part of
+// it, where they are opaque, is copied.
+void compositeScratch(HDC dc, const Rect& rect, const Rect& solid = {});
 
 // The one place where software pixels reach the screen: premultiplied pixels of the rectangle's size, source
 // over what is there.

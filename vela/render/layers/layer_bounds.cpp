@@ -54,16 +54,18 @@ LayerBounds layerBounds(const PaintStep& step, const Coverage& coverage, const S
     return frameAround(whole, {});
 }
 
-LayerBounds haloBounds(const PaintStep& step, const Rect& face, ShapeKind shape, bool isOpaque)
+LayerBounds haloBounds(const PaintStep& step, const Rect& hidden)
 {
-    // In four pieces a small layer takes longer than whole.
-    constexpr std::int64_t kWorthSparing = 16'384;
-    const Rect whole{0, 0, step.rect.width, step.rect.height};
-    const Rect box = coveredBox(shape, sizeOf(face));
-    const Rect hidden = grownBy(movedBy(box, {face.x - step.rect.x, face.y - step.rect.y}), -kEdge);
-    const bool spares =
-        isOpaque && !isEmpty(hidden) && std::int64_t{hidden.width} * hidden.height >= kWorthSparing;
-    return frameAround(whole, spares ? hidden : Rect{});
+    return frameAround({0, 0, step.rect.width, step.rect.height},
+                       movedBy(hidden, {-step.rect.x, -step.rect.y}));
+}
+
+Rect solidBox(ShapeKind kind, Size size, SurfaceEdge edge)
+{
+    constexpr std::int64_t kWorthwhile = 16'384;
+    const Rect box = coveredBox(kind, size);
+    const bool isExact = edge == SurfaceEdge::Exact || isUpright(kind);
+    return std::int64_t{box.width} * box.height < kWorthwhile ? Rect{} : grownBy(box, isExact ? 0 : -kEdge);
 }
 
 } // namespace vela

@@ -28,8 +28,11 @@ private:
 // its edges.
 LayerBounds layerBounds(const PaintStep& step, const Coverage& coverage, const SurfaceStyle& style);
 
-// The same for a layer of the halo around a face of that shape in the rectangle: what an opaque face hides of
-// it needs no painting.
-LayerBounds haloBounds(const PaintStep& step, const Rect& face, ShapeKind shape, bool isOpaque);
+// The same for a layer of the halo, around what needs no painting because an opaque face hides it.
+LayerBounds haloBounds(const PaintStep& step, const Rect& hidden);
+
+// What an opaque face of the shape surely covers, in its own coordinates. Empty where it is so small that to
+// treat it apart takes longer than to treat it like the rest.
+Rect solidBox(ShapeKind kind, Size size, SurfaceEdge edge);
 
 } // namespace vela

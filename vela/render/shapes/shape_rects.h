@@ -57,20 +57,6 @@ void visitFill(ShapeKind kind, Size size, const Rect& visible, Visit&& visit)
         });
 }
 
-// The same for what a frame around the inner rectangle has of the area; the inner one lies in it.
-template <typename Visit>
-void visitFrame(const Rect& area, const Rect& inner, Visit&& visit)
-{
-    const std::int32_t right = inner.x + inner.width;
-    const std::int32_t bottom = inner.y + inner.height;
-    for (const Rect& side : {Rect{area.x, area.y, area.width, inner.y - area.y},
-                             Rect{area.x, inner.y, inner.x - area.x, inner.height},
-                             Rect{right, inner.y, area.x + area.width - right, inner.height},
-                             Rect{area.x, bottom, area.width, area.y + area.height - bottom}})
-        if (!isEmpty(side))
-            visit(side);
-}
-
 // The same as visitFill for a stroke along the inside of the outline. Nothing when the pen is below one pixel
 // wide.
 template <typename Visit>

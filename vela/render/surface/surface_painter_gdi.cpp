@@ -31,6 +31,8 @@ using Steps = std::span<const PaintStep>;
 // Larger faces are composed as far as they are seen, each time.
 constexpr std::int64_t kMostStoredPixels = 10'000'000;
 
+bool isMaterial(const PaintStep& step) noexcept { return step.layer == SurfaceLayer::Material; }
+
 // One surface while it is painted.
 class SurfacePaint {
 public:
@@ -48,7 +50,10 @@ public:
     void paintFace(float end) const;
 
 private:
-    bool isCut() const noexcept { return plan_.face().back().layer == SurfaceLayer::Cut; }
+    bool isCut() const noexcept
+    {
+        return !plan_.face().empty() && plan_.face().back().layer == SurfaceLayer::Cut;
+    }
     Steps layers() const noexcept
     {
         return plan_.face().first(plan_.face().size() - static_cast<std::size_t>(isCut()));
@@ -66,6 +71,14 @@ private:
         const RunMask* const outline = outlineFor(size);
         return outline ? Coverage(*outline) : Coverage(style_.shape, size);
     }
+    // What of the rectangle hides all that was there before.
+    Rect solidPart() const
+    {
+        const SurfaceEdge edge = isCut() ? SurfaceEdge::Antialiased : SurfaceEdge::Exact;
+        return plan_.isOpaque() && isShape_
+                   ? movedBy(solidBox(style_.shape, sizeOf(rect_), edge), {rect_.x, rect_.y})
+                   : Rect{};
+    }
     void paintPlain(Steps steps) const;
     void composeLayers(const LayerTarget& target) const;
     std::shared_ptr<OwnedPixels> storedPicture(Steps steps, const FaceSource& source) const;
@@ -81,11 +94,11 @@ private:
 
 void SurfacePaint::paintHalo(const Rect& face) const
 {
-    const bool hides = plan_.isOpaque() && isShape_ && face == rect_;
+    const Rect hidden = face == rect_ ? solidPart() : Rect{};
     for (PaintStep step : plan_.halo()) {
         step.rect.width -= rect_.width - face.width;
         const Coverage coverage = coverageOf(sizeOf(step.rect));
-        for (const Rect& part : haloBounds(step, face, style_.shape, hides))
+        for (const Rect& part : haloBounds(step, hidden))
             renderPixelLayer(dc_, step.rect, part, [&](const LayerTarget& target) {
                 fillLayer(target, coverage, step, style_, {});
             });
@@ -125,7 +138,7 @@ void SurfacePaint::paintFace(float end) const
         cutToShape(target, style_.shape, whole);
     if (!isWhole)
         cutToProgress(target, style_.shape, whole, end);
-    compositeScratch(dc_, visible);
+    compositeScratch(dc_, visible, isWhole ? solidPart() : Rect{});
 }
 
 // A light that moves changes the material alone: what lies beneath it and above it are pictures of their own.
@@ -146,9 +159,7 @@ void SurfacePaint::composeLayers(const LayerTarget& target) const
                             writeMaterial};
     if (!hasMovingLight(style_))
         return addPicture(target, steps, source, Beneath::Nothing);
-    const auto moving = std::find_if(steps.begin(), steps.end(), [](const PaintStep& step) {
-        return step.layer == SurfaceLayer::Material;
-    });
+    const auto moving = std::find_if(steps.begin(), steps.end(), isMaterial);
     addPicture(target, {steps.begin(), moving}, source, Beneath::Nothing);
     if (moving == steps.end())
         return;
@@ -170,7 +181,10 @@ std::shared_ptr<OwnedPixels> SurfacePaint::storedPicture(Steps steps, const Face
                                steps.front().layer};
     const FaceKeyView key{style_, values};
     PictureStore& store = pictureStore();
-    if (auto known = store.find<FacePictures>(key); known || !store.isWantedAgain<FacePictures>(key))
+    // Materials take so long that they are rendered once, whoever may want them again.
+    const bool hasMaterial = std::any_of(steps.begin(), steps.end(), isMaterial);
+    if (auto known = store.find<FacePictures>(key);
+        known || (!hasMaterial && !store.isWantedAgain<FacePictures>(key)))
         return known;
     return store.ensure<FacePictures>(key, [&] {
         auto whole = std::make_shared<OwnedPixels>(sizeOf(rect_));
