@@ -78,8 +78,10 @@ void makePixels(const Look& look, const Rect& window, SurfaceEdge edge)
         bitmap ? coverOn(*bitmap, bitmapPlacement(style, size), size) : BitmapCover::None;
     const Rect clip = movedBy(window, {look.rect.x, look.rect.y});
     const PaintPlan plan = paintPlan(style, look.rect, clip, cover, edge);
+    const Rect hidden =
+        plan.isOpaque() ? movedBy(solidBox(style.shape, size, edge), {look.rect.x, look.rect.y}) : Rect{};
     for (const PaintStep& step : plan.halo())
-        for (const Rect& part : haloBounds(step, look.rect, style.shape, plan.isOpaque()))
+        for (const Rect& part : haloBounds(step, hidden))
             if (const Rect seen = intersection(part, window); !isEmpty(seen))
                 fillLayer(targetOf(seen), {style.shape, sizeOf(step.rect)}, step, style, {});
     const Rect seen = intersection(window, {0, 0, size.width, size.height});

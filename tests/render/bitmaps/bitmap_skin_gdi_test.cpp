@@ -114,6 +114,15 @@ TEST_F(BitmapSkinTest, TheBitmapIsThePlateAndWithoutItTheSurfaceIsPaintedPlain)
     EXPECT_EQ(canvas.at(49, 34), 0x40C080u);
     EXPECT_EQ(canvas.at(50, 20), 0x304050u);
 
+    // Where it leaves room around itself, the fill is seen.
+    style.geometry.ensure().paintInsets = {6, 6, 6, 6};
+    for (auto* const paint : {paintSurface, paintControlSurface}) {
+        canvas.clear(kBackground);
+        paint(canvas.dc(), {10, 5, 40, 30}, style);
+        EXPECT_EQ(canvas.at(12, 20), 0x112233u);
+        EXPECT_EQ(canvas.at(30, 20), 0x40C080u);
+    }
+
     for (const wchar_t* path : {L"missing.png", L"..\\bitmaps\\plate.png", L"Z:\\plate.png"}) {
         style.image.ensure().path = path;
         canvas.clear(kBackground);
