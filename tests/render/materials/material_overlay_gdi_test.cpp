@@ -62,6 +62,13 @@ TEST(MaterialOverlayPaintTest, AMovingLightIsRenderedOncePerStepIntoOnePlace)
     }
     EXPECT_EQ(movingOverlaysRendered(), rendered + 3);
     EXPECT_EQ(pictureStore().made(), made);
+    // Where no light may move, it is part of its surface's picture.
+    for (int time = 0; time < 3; ++time) {
+        const PaintContextBinding context(canvas.dc(), {.profile = PerformanceProfile::Reduced});
+        paintSurface(canvas.dc(), kPlace, style);
+    }
+    EXPECT_EQ(movingOverlaysRendered(), rendered + 3);
+    EXPECT_EQ(pictureStore().made(), made + 1);
 }
 
 TEST(MaterialOverlayPaintTest, CostsNothingWhereNoMaterialIsAskedFor)

@@ -27,9 +27,9 @@ void PictureStore::letGoOfOldest()
 
 PictureStore& pictureStore()
 {
-    // A window as large as a 4K screen whose light moves takes four pictures of its size, 32 MB each; a
-    // dialog in all its states a tenth of that.
-    constexpr PictureStore::Limits kLimits{192U << 20, 1024};
+    // A window as large as a 4K screen whose light moves takes four pictures of its size, 32 MB each, and its
+    // controls some small ones; a dialog in all its states takes a tenth of that.
+    constexpr PictureStore::Limits kLimits{144U << 20, 1024};
     static PictureStore store(kLimits);
     return store;
 }

@@ -44,7 +44,6 @@ public:
     {
     }
 
-    const PaintPlan& plan() const noexcept { return plan_; }
     void paintHalo(const Rect& face) const;
     // As far as `end`, a number of pixels.
     void paintFace(float end) const;
@@ -142,6 +141,7 @@ void SurfacePaint::paintFace(float end) const
 }
 
 // A light that moves changes the material alone: what lies beneath it and above it are pictures of their own.
+// With a reduced profile it rests.
 void SurfacePaint::composeLayers(const LayerTarget& target) const
 {
     const Steps steps = layers();
@@ -157,7 +157,7 @@ void SurfacePaint::composeLayers(const LayerTarget& target) const
                             isCut() ? Coverage::uncut(style_.shape, size) : coverageOf(size),
                             bitmaps_.skin.get(),
                             writeMaterial};
-    if (!hasMovingLight(style_))
+    if (!hasMovingLight(style_) || paintContext(dc_).profile == PerformanceProfile::Reduced)
         return addPicture(target, steps, source, Beneath::Nothing);
     const auto moving = std::find_if(steps.begin(), steps.end(), isMaterial);
     addPicture(target, {steps.begin(), moving}, source, Beneath::Nothing);
