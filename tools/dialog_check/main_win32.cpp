@@ -74,12 +74,12 @@ std::vector<Box> boxesOf(const DialogStage& stage)
     return boxes;
 }
 
-// Nothing of it can be seen: every text and mark is asked for all the same, and that is all that costs.
+// On a picture as large as the dialog: how much of a scrolled text is seen depends on the clip.
 std::vector<Ink> inksOf(DialogStage& stage)
 {
-    const DibSurface speck({1, 1});
+    const DibSurface picture(vela::sizeOf(stage.dialog().clientRect()));
     const PaintWitness witness(PaintWitness::Ink::LeftOut);
-    stage.dialog().root().paint(speck.dc(), {});
+    stage.dialog().root().paint(picture.dc(), {});
     return witness.inks();
 }
 

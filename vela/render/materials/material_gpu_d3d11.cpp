@@ -190,7 +190,7 @@ bool renderMaterialOnGpu(const MaterialConstants& constants, const PixelView& ta
 
 bool tryDrawMaterialOverlayHlsl(HDC dc, const Rect& rect, const SurfaceStyle& style)
 {
-    if (isEmpty(rect) || !hasMaterialGpu())
+    if (isEmpty(rect) || std::int64_t{rect.width} * rect.height > kMostOverlayPixels || !hasMaterialGpu())
         return false;
     OwnedPixels overlay(sizeOf(rect));
     if (!renderMaterialOnGpu(currentMaterialConstants(dc, style, rect), overlay.view()))

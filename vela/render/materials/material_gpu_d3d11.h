@@ -9,7 +9,13 @@
 #include "vela/render/pixels/pixel_buffer.h"
 #include "vela/theme/records/surface_style.h"
 
+#include <cstdint>
+
 namespace vela {
+
+// Larger surfaces are rendered in software as far as they are seen, each time: a window as large as a 4K
+// screen, and some.
+inline constexpr std::int64_t kMostOverlayPixels = 10'000'000;
 
 // Whether there is a usable graphics path.
 bool hasMaterialGpu();
@@ -18,7 +24,8 @@ bool hasMaterialGpu();
 // where there is no usable graphics path or this call failed: the caller then renders in software.
 bool renderMaterialOnGpu(const MaterialConstants& constants, const PixelView& target);
 
-// Lays the surface's overlay over it, cut to its shape. False, with nothing drawn, under the same conditions.
+// Lays the surface's overlay over it, cut to its shape. False, with nothing drawn, under the same conditions,
+// and for a surface that is too large.
 bool tryDrawMaterialOverlayHlsl(HDC dc, const Rect& rect, const SurfaceStyle& style);
 
 } // namespace vela

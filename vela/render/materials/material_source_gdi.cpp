@@ -12,10 +12,6 @@
 namespace vela {
 namespace {
 
-// Larger surfaces are rendered as far as they are seen, each time: a window as large as a 4K screen, and
-// some.
-constexpr std::int64_t kMostPixels = 10'000'000;
-
 // Overlays whose light moves, by their constants without its place: each step of the animation is rendered
 // into the same picture.
 struct MovingOverlays {
@@ -75,7 +71,7 @@ std::shared_ptr<OwnedPixels> movingOverlay(const MaterialConstants& constants)
 // Null where there is none, or no graphics card to render it.
 std::shared_ptr<OwnedPixels> wholeOverlay(const MaterialConstants& constants, Size size)
 {
-    if (std::int64_t{size.width} * size.height > kMostPixels)
+    if (std::int64_t{size.width} * size.height > kMostOverlayPixels)
         return nullptr;
     if (hasMovingLight(constants))
         return movingOverlay(constants);
