@@ -37,4 +37,10 @@ const RunMask* surfaceOutline(const SurfaceStyle& style, Size size, const Loaded
     return outline ? &*outline : nullptr;
 }
 
+Coverage surfaceCoverage(const SurfaceStyle& style, Size size, const LoadedBitmaps& bitmaps)
+{
+    const RunMask* const outline = surfaceOutline(style, size, bitmaps);
+    return outline ? Coverage(*outline) : Coverage(style.shape, size);
+}
+
 } // namespace vela

@@ -9,4 +9,7 @@ namespace vela {
 // Null when the surface's shape is its outline. Valid until the next call. UI thread only.
 const RunMask* surfaceOutline(const SurfaceStyle& style, Size size, const LoadedBitmaps& bitmaps);
 
+// What the surface's layers may touch: that outline or its shape. Valid as long.
+Coverage surfaceCoverage(const SurfaceStyle& style, Size size, const LoadedBitmaps& bitmaps);
+
 } // namespace vela

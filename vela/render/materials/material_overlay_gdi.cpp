@@ -16,8 +16,7 @@ namespace {
 template <typename Write>
 void compositeCut(HDC dc, const Rect& rect, const SurfaceStyle& style, Write&& write)
 {
-    const RunMask* const outline = surfaceOutline(style, sizeOf(rect), surfaceBitmaps(style));
-    const Coverage coverage = outline ? Coverage(*outline) : Coverage(style.shape, sizeOf(rect));
+    const Coverage coverage = surfaceCoverage(style, sizeOf(rect), surfaceBitmaps(style));
     renderPixelLayer(dc, rect, [&](const LayerTarget& target) {
         write(target);
         clearUncovered(target, coverage);

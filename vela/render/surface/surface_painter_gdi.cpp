@@ -39,7 +39,7 @@ public:
     SurfacePaint(HDC dc, const Rect& rect, const SurfaceStyle& style, SurfaceEdge edge)
         : dc_(dc), rect_(rect), style_(style), bitmaps_(surfaceBitmaps(style)),
           // A bitmap's outline has antialiased edges of its own.
-          isShape_(!outlineFor(sizeOf(rect))),
+          isShape_(coverageOf(sizeOf(rect)).isShape()),
           plan_(paintPlan(style, rect, clipBox(dc), bitmapCover(), isShape_ ? edge : SurfaceEdge::Exact))
     {
     }
@@ -64,12 +64,7 @@ private:
         const Size size = sizeOf(rect_);
         return coverOn(*bitmaps_.skin, bitmapPlacement(style_, size), size);
     }
-    const RunMask* outlineFor(Size size) const { return surfaceOutline(style_, size, bitmaps_); }
-    Coverage coverageOf(Size size) const
-    {
-        const RunMask* const outline = outlineFor(size);
-        return outline ? Coverage(*outline) : Coverage(style_.shape, size);
-    }
+    Coverage coverageOf(Size size) const { return surfaceCoverage(style_, size, bitmaps_); }
     // What of the rectangle hides all that was there before.
     Rect solidPart() const
     {
@@ -222,8 +217,8 @@ void paint(HDC dc, const Rect& rect, const SurfaceStyle& style, SurfaceEdge edge
 
 void drawLayer(HDC dc, SurfaceLayer layer, const Rect& rect, const SurfaceStyle& style)
 {
-    const RunMask* const outline = surfaceOutline(style, sizeOf(rect), surfaceBitmaps(style));
-    const Coverage coverage = outline ? Coverage(*outline) : Coverage(style.shape, sizeOf(rect));
+    const LoadedBitmaps bitmaps = surfaceBitmaps(style);
+    const Coverage coverage = surfaceCoverage(style, sizeOf(rect), bitmaps);
     const PaintStep step{layer, rect};
     for (const Rect& part : layerBounds(step, coverage, style))
         renderPixelLayer(dc, rect, part, [&](const LayerTarget& target) {

@@ -130,8 +130,7 @@ ComPointer<IDWriteTextLayout> makeDirectWriteLayout(const TextLines& lines, cons
     const bool isCentred = wrap == TextWrap::SingleLine && room != kNoRoom;
     const std::int32_t height = isCentred ? heightWithMiddle(room.height, font.lineHeight) : room.height;
     const auto length = static_cast<UINT32>(lines.text.size());
-    if (!format ||
-        FAILED(engine->factory()->CreateGdiCompatibleTextLayout(
+    if (FAILED(engine->factory()->CreateGdiCompatibleTextLayout(
             lines.text.data(), length, format, static_cast<float>(std::max(room.width, 0)),
             static_cast<float>(std::max(height, 0)), kPixelsPerUnit, nullptr, FALSE, layout.put())))
         return layout;
